@@ -1,0 +1,42 @@
+// Sequential reading of a text file: fields in the manner of hand-made lists, and whole lines.
+//
+// A field ends at a comma or a line end, which is consumed with it; blanks around it are ignored; a field in
+// double quotes may hold commas and line ends. A line ends at CR LF, CR or LF. Fields and lines may be mixed:
+// each read goes on where the last one ended.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <utility>
+
+namespace veldrin {
+
+/// A text read from its beginning to its end.
+class TextReader {
+ public:
+  explicit TextReader(std::string text) : text_(std::move(text)) {}
+
+  bool AtEnd() const { return at_ >= text_.size(); }
+
+  /// The next field as text. Raises fault 62 at the end of the file.
+  std::string Field();
+
+  /// The next field as a 16-bit number, read with a point as separator and rounded half to even. The field is
+  /// consumed in any case. Raises fault 62 at the end, 13 for a text that is no number, 6 beyond 16 bits.
+  std::int16_t Int16Field();
+
+  /// The next field as a 32-bit float, in the same way.
+  float SingleField();
+
+  /// The rest of the line, without its end. Raises fault 62 at the end of the file.
+  std::string Line();
+
+ private:
+  void SkipBlanks();
+  bool SkipLineEnd();
+
+  std::string text_;
+  std::size_t at_ = 0;
+};
+
+}  // namespace veldrin

@@ -1,0 +1,268 @@
+// The kinds of controls, each a record of its slots and events.
+//
+// Which write fires what: a label's Caption, the Text of a text box or combo, a scroll bar's Value (also when
+// a new end pushes it), a folder box's Path and a drive box's Drive fire Change; an option that is set and a
+// list's ListIndex fire Click; a file box's FileName fires its DblClick.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/canvas.h"
+#include "view/control.h"
+
+namespace veldrin {
+
+/// A control with a place, colours and a font.
+struct PlacedControl : Control {
+  PlacedControl(ControlKind kind, const char* name, Control& parent, const Place& place, const Look& look);
+
+  Slot<float> Left;
+  Slot<float> Top;
+  Slot<float> Width;
+  Slot<float> Height;
+  Slot<Colour> BackColor;
+  Slot<Colour> ForeColor;
+  Slot<std::string> FontName;
+  Slot<float> FontSize;
+  Slot<bool> FontBold;
+  Slot<bool> FontItalic;
+  Slot<int> MousePointer;
+
+ protected:
+  PlacedControl(const char* name, const Place& place, const Look& look);
+
+ private:
+  void HavePlaced();
+};
+
+struct Label : PlacedControl {
+  Label(const char* name, Control& parent, const Place& place, const Look& look = {});
+
+  Slot<std::string> Caption;
+  Event Change;
+  Event Click;
+  Event DblClick;
+  Event MouseDown;
+  Event MouseUp;
+};
+
+struct TextBox : PlacedControl {
+  TextBox(const char* name, Control& parent, const Place& place, const Look& look = {}, bool multiLine = false);
+
+  const bool multiLine;
+  Slot<std::string> Text;
+  Event Change;
+  Event Click;
+  Event DblClick;
+  Event MouseDown;
+  Event MouseUp;
+  Event KeyDown;
+  Event GotFocus;
+  Event LostFocus;
+};
+
+struct Button : PlacedControl {
+  Button(const char* name, Control& parent, const Place& place, const Look& look = {});
+
+  Slot<std::string> Caption;
+  Event Click;
+  Event MouseDown;
+  Event MouseUp;
+  Event KeyDown;
+  Event GotFocus;
+  Event LostFocus;
+};
+
+struct OptionButton : PlacedControl {
+  OptionButton(const char* name, Control& parent, const Place& place, const Look& look = {});
+
+  Slot<std::string> Caption;
+  /// Setting it clears the other options of the same panel, which stay silent.
+  Slot<bool> Value;
+  Event Click;
+  Event MouseDown;
+  Event MouseUp;
+  Event KeyDown;
+  Event GotFocus;
+  Event LostFocus;
+};
+
+/// Two arrows. ForeColor is the arrows' colour.
+struct SpinButton : PlacedControl {
+  SpinButton(const char* name, Control& parent, const Place& place, const Look& look = {});
+
+  Event SpinDown;
+  Event SpinUp;
+};
+
+struct Range {
+  int min;
+  int max;
+  int value;
+  int smallChange;
+  int largeChange;
+};
+
+/// A scroll bar. Its Value is always held within Min and Max.
+struct ScrollBar : PlacedControl {
+  ScrollBar(const char* name, Control& parent, const Place& place, const Range& range, const Look& look = {});
+
+  const int smallChange;
+  const int largeChange;
+  Slot<int> Min;
+  Slot<int> Max;
+  Slot<int> Value;
+  Event Change;
+};
+
+/// Fires Timer every Interval milliseconds while it is enabled and its window is loaded.
+struct TimerControl : Control {
+  TimerControl(const char* name, Control& parent, int interval, bool enabled = false);
+
+  Slot<int> Interval;
+  Event Timer;
+};
+
+/// An entry of a menu; the caption "-" is a separator, "(&X)" names its key.
+struct Menu : Control {
+  Menu(const char* name, Control& parent, const char* caption, const char* shortcut = "", const Look& look = {});
+
+  const std::string shortcut;  // such as "Ctrl+S", empty for none
+  Slot<std::string> Caption;
+  Event Click;
+};
+
+/// A panel, and a drawing surface. Controls inside it are placed in the units of its scale.
+struct Picture : PlacedControl {
+  Picture(const char* name, Control& parent, const Place& place, const Look& look = {});
+
+  /// Number of the picture resource shown, 0 for none.
+  Slot<int> Image;
+  Surface surface;
+  Event Click;
+  Event DblClick;
+  Event MouseDown;
+  Event MouseUp;
+};
+
+struct Line : Control {
+  Line(const char* name, Control& parent, float x1, float y1, float x2, float y2, Colour colour = kWhite);
+
+  Slot<float> X1;
+  Slot<float> Y1;
+  Slot<float> X2;
+  Slot<float> Y2;
+  Slot<Colour> ForeColor;
+};
+
+/// Cells of text in rows and columns, counted from 0.
+struct Grid : PlacedControl {
+  Grid(const char* name, Control& parent, const Place& place, const Look& look = {});
+
+  Slot<int> Cols;
+  Slot<int> Rows;
+  Event Click;
+  Event KeyDown;
+  Event GotFocus;
+  Event LostFocus;
+  /// A cell was picked; row and column hold its place.
+  Event Pick;
+  int row = 0;
+  int column = 0;
+
+  /// Text of a cell, empty where nothing was written. Raises fault 9 outside.
+  const std::string& Cell(int cellRow, int cellColumn) const;
+  void SetCell(int cellRow, int cellColumn, const std::string& text);
+  /// Width of a column in twips.
+  float ColWidth(int cellColumn) const;
+  void SetColWidth(int cellColumn, float width);
+
+  /// Makes room for Rows times Cols cells; called by their writes.
+  void Shape();
+
+ private:
+  std::vector<std::vector<std::string>> cells_;
+  std::vector<float> widths_;
+};
+
+/// A text with a list to pick from.
+struct ComboBox : PlacedControl {
+  ComboBox(const char* name, Control& parent, const Place& place, const Look& look = {},
+           std::vector<std::string> entries = {}, bool editable = true);
+
+  const bool editable;
+  std::vector<std::string> entries;
+  Slot<std::string> Text;
+  /// Picking an entry takes its text, which fires no Change.
+  Slot<int> ListIndex;
+  Event Change;
+  Event Click;
+  Event KeyDown;
+  Event GotFocus;
+  Event LostFocus;
+
+  void AddItem(const std::string& entry);
+  void Clear();
+};
+
+struct DriveBox : PlacedControl {
+  DriveBox(const char* name, Control& parent, const Place& place, const Look& look = {});
+
+  std::vector<std::string> entries;
+  /// Raises fault 68 for a drive that the machine does not have. Takes any path on the drive.
+  Slot<std::string> Drive;
+  Slot<int> ListIndex;
+  Event Change;
+  Event Click;
+  Event KeyDown;
+  Event GotFocus;
+  Event LostFocus;
+};
+
+/// The folders of a folder. Entry i is the full path of the i-th folder in it; ListIndex -1 is the folder
+/// itself.
+struct FolderBox : PlacedControl {
+  FolderBox(const char* name, Control& parent, const Place& place, const Look& look = {});
+
+  std::vector<std::string> entries;
+  /// Raises the faults of a folder that cannot be had.
+  Slot<std::string> Path;
+  Slot<int> ListIndex;
+  Event Change;
+  Event Click;
+  Event KeyDown;
+  Event GotFocus;
+  Event LostFocus;
+
+  /// Reads the folder again. Faults leave the list empty.
+  void Refresh();
+};
+
+/// The files of a folder that match a pattern.
+struct FileBox : PlacedControl {
+  FileBox(const char* name, Control& parent, const Place& place, const Look& look = {},
+          const char* pattern = "*.*");
+
+  std::vector<std::string> entries;
+  Slot<std::string> Path;
+  Slot<std::string> Pattern;
+  /// The selected name. Raises fault 53 for a name that is not in the folder; the empty text selects nothing.
+  Slot<std::string> FileName;
+  Slot<int> ListIndex;
+  Event Click;
+  Event DblClick;
+  Event KeyDown;
+  Event GotFocus;
+  Event LostFocus;
+
+  /// Reads the folder again; nothing is selected then. Faults leave the list empty.
+  void Refresh();
+};
+
+/// A dialog of the platform that a window owns: nothing to see of it in the window.
+struct Dialog : Control {
+  Dialog(const char* name, Control& parent);
+};
+
+}  // namespace veldrin

@@ -1,0 +1,21 @@
+// The hidden canvas of the report: its own surface, and the picture that is handed over in the end.
+#pragma once
+
+#include "view/control_array.h"
+
+namespace veldrin {
+
+struct Form6 : Window {
+  explicit Form6(Desk& theDesk)
+      : Window(theDesk, "Form6", {0, 0, 9720, 7400}, {.back = kWhite}), surface(theDesk.machine.metrics) {
+    surface.SetSize(Width, Height);
+    surface.font = {"ＭＳ ゴシック", 9, false, false};
+  }
+
+  Surface surface;
+  // clang-format off
+  Picture Picture1{"Picture1", *this, {0, 0, 9600, 7200}, {.back = kWhite}};
+  // clang-format on
+};
+
+}  // namespace veldrin
