@@ -13,6 +13,7 @@ namespace veldrin {
 
 /// Numbers of the faults that the program's rules know by name.
 enum FaultNumber : int {
+  kFaultBadCall = 5,
   kFaultOverflow = 6,
   kFaultSubscript = 9,
   kFaultDivisionByZero = 11,

@@ -1,0 +1,37 @@
+// The arithmetic of the gears, and the refresh that every edit of a plan ends in.
+#pragma once
+
+#include "workspace/captions.h"
+#include "workspace/program.h"
+
+namespace veldrin {
+
+/// The part of a gear's speed that all gear rows share: revolutions, tyre, primary and final ratio, multiplied
+/// in this order in 64 bits. Raises fault 9 for rows outside the tables.
+double SpeedBeforeGear(const Workspace& workspace, int primaryRow, int finalRow);
+
+/// Road speed in km/h at `ShiftNe` of `gear` (1..6) with `gearRow` (1..10), in 64 bits, the order of the
+/// multiplication being part of the rule; the caller narrows it. Raises fault 9 for rows outside the tables,
+/// 11 for a gear pair without driven teeth (6 when its drive teeth are 0 too).
+double GearSpeed(const Workspace& workspace, int primaryRow, int finalRow, int gear, int gearRow);
+
+inline constexpr double kMetresPerMinuteToKilometresPerHour = 0.06;
+
+/// The last steps of every gear's speed, for driven teeth that are not 0.
+inline double GearSpeedOf(double speedBeforeGear, double drive, double driven) {
+  return speedBeforeGear * drive / driven * kMetresPerMinuteToKilometresPerHour;
+}
+
+/// The same from the shared part, which one (primary, final) pair computes once.
+double GearSpeed(const Workspace& workspace, double speedBeforeGear, int gear, int gearRow);
+
+/// Computes speeds, steps, revolutions after the change and deviations of the plan, writes the result
+/// columns, redraws the chart and advances the dirty flag. Without a machine only the flag is looked at.
+/// Raises fault 11 (or 6) where a speed or `ShiftNe` of 0 is a divisor, 9 for rows outside the tables.
+void RefreshDisplay(Program& program);
+
+/// The baseline's columns, which the refresh does not write: `Label2` of every gear, `SpeedStepBaseline` and
+/// `Label39` of every step.
+void ShowBaseline(Program& program);
+
+}  // namespace veldrin

@@ -1,0 +1,220 @@
+#include "calc/plan_search.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "view/bind.h"
+#include "workspace/language.h"
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kAutoPasses = 20;
+constexpr int kMixedPasses = 21;  // the 21st widening goes beyond 20 km/h
+constexpr int kBlinkColours = 15;
+
+/// Sets the later ones of equal plans to the empty text and counts them.
+int EmptyDuplicates(Workspace& workspace) {
+  int removed = 0;
+  for (int i = 1; i < workspace.PlanCount; ++i) {
+    for (int j = i + 1; j <= workspace.PlanCount; ++j) {
+      if (workspace.PlanList[i] != workspace.PlanList[j]) continue;
+      ++removed;
+      workspace.PlanList[j].clear();
+    }
+  }
+  return removed;
+}
+
+/// Closes the gaps.
+/// Kept: an empty slot that moved into the place just looked at is not looked at again, and the walk goes on
+/// to the count as it stood before; so some empty slots may stay in the list.
+void CompactPlans(Workspace& workspace) {
+  const int limit = workspace.PlanCount;
+  for (int i = 1; i <= limit; ++i) {
+    if (!workspace.PlanList[i].empty()) continue;
+    if (i == workspace.PlanCount) {
+      --workspace.PlanCount;
+      return;
+    }
+    for (int k = i; k < workspace.PlanCount; ++k) workspace.PlanList[k] = workspace.PlanList[k + 1];
+    --workspace.PlanCount;
+  }
+}
+
+int MainGear(const Program& program) {
+  int mainGear = 0;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    if (program.form2.Option1[gear].Value) mainGear = gear;
+  }
+  return mainGear;
+}
+
+/// The banner's blinking is the whole progress display.
+Blink BlinkBanner(Program& program) {
+  return [&program](int finalRow) {
+    program.form2.Label23.ForeColor = PaletteColour(finalRow % kBlinkColours);
+    program.machine.windows.Repaint(program.form2.Label23);
+  };
+}
+
+void ShowSuccess(Program& program) {
+  Form2& form2 = program.form2;
+  program.workspace.ResultWord = result::kNone;
+  form2.Label23.ForeColor = kMagenta;
+  form2.Label23.Caption = Message(program.workspace, 12);
+  form2.menu_file.Enabled = true;
+  form2.menu_f.Enabled = true;
+  form2.menu_opt.Enabled = true;
+  program.machine.windows.Repaint(form2.Label23);
+}
+
+void ShowFailurePanel(Program& program) {
+  program.form2.Picture20.BringToFront();
+  program.form2.Picture20.Visible = true;
+}
+
+/// A quick-ratio or reference file asked for speeds that this machine cannot reach.
+[[noreturn]] void EndOnImpossibleSpeeds(Program& program) {
+  if (program.workspace.IsJapanese == 1) {
+    program.machine.boxes.Message(BoxIcon::Critical, "",
+                                  "どう計算しても無理なスピードのレシオを参照しました\r\n"
+                                  "この場合のエラー処理は存在しません\r\n"
+                                  "プログラムを強制終了します",
+                                  BoxButtons::Ok);
+  } else {
+    program.machine.boxes.Message(BoxIcon::Critical, "Critical Caution!! from Mr.Veldrin",
+                                  "Impossible to Calcurate!!\r\n"
+                                  "No error process for this situation\r\n"
+                                  "Pogram will be terminated",
+                                  BoxButtons::Ok);
+  }
+  throw EndOfProgram{};
+}
+
+}  // namespace
+
+bool SearchAuto(Workspace& workspace, int mainGear, const Blink& blink) {
+  workspace.PlanCount = 0;
+  PlanWalk walk(workspace, [mainGear](int gear, float error) {
+    const float distance = std::fabs(error);
+    if (distance <= 1) return 1;
+    if (gear == mainGear || !(distance <= kAutoPasses)) return kNoPass;
+    return static_cast<int>(std::ceil(distance));
+  });
+  for (int tolerance = 1; tolerance <= kAutoPasses; ++tolerance) {
+    walk.Pass(tolerance, workspace, blink);
+    if (EmptyDuplicates(workspace) > 0) CompactPlans(workspace);
+    if (workspace.PlanCount >= workspace.MinPlan) return true;
+  }
+  return false;
+}
+
+bool SearchMixed(Workspace& workspace, const Table<bool, 1, kGears>& manual, const Blink& blink) {
+  workspace.PlanCount = 0;
+  const Table<std::int16_t, 1, kGears> minus = workspace.ToleranceMinus;
+  const Table<std::int16_t, 1, kGears> plus = workspace.TolerancePlus;
+  PlanWalk walk(workspace, [&](int gear, float error) {
+    // Kept: the upper bound is always the user's plus one, so it grows once, in the second pass, while the
+    // lower bound sinks by one in every pass.
+    const double lower = -minus[gear];
+    const double upper = plus[gear];
+    if (error >= lower && error <= upper) return 1;
+    if (manual[gear] || !(error <= upper + 1)) return kNoPass;
+    const int raised = error > upper ? 2 : 1;
+    if (error >= lower) return raised;
+    const double sunk = 1 + std::ceil(lower - static_cast<double>(error));
+    return sunk <= kMixedPasses ? std::max(raised, static_cast<int>(sunk)) : kNoPass;
+  });
+  for (int pass = 1; pass <= kMixedPasses; ++pass) {
+    walk.Pass(pass, workspace, blink);
+    if (workspace.PlanCount != 0) return true;
+  }
+  workspace.ResultWord = result::kOver;
+  return false;
+}
+
+bool AllGearsAuto(const Program& program) {
+  for (int gear = 1; gear <= kGears; ++gear) {
+    if (program.form2.Command1[gear].Caption != kAuto) return false;
+  }
+  return true;
+}
+
+void PlanSearchAuto(Program& program) {
+  if (SearchAuto(program.workspace, MainGear(program), BlinkBanner(program))) {
+    ShowSuccess(program);
+    return;
+  }
+  ShowFailurePanel(program);
+  program.form2.Command8.Enabled = false;
+  program.form2.Label23.Visible = false;
+  program.workspace.ResultWord = result::kNoPlan;
+  if (program.workspace.ModeWord == mode::kReferenceInForce) EndOnImpossibleSpeeds(program);
+}
+
+void PlanSearchMixed(Program& program) {
+  Table<bool, 1, kGears> manual;
+  for (int gear = 1; gear <= kGears; ++gear) manual[gear] = program.form2.Command1[gear].Caption == kManual;
+  if (SearchMixed(program.workspace, manual, BlinkBanner(program))) {
+    ShowSuccess(program);
+    return;
+  }
+  program.workspace.ResultWord = result::kNone;
+  ShowFailurePanel(program);
+  program.form2.Label17.Caption = Message(program.workspace, 14);
+  program.form2.Command8.Caption = Message(program.workspace, 19);
+  program.form2.Command9.Caption = Message(program.workspace, 23);
+  program.form2.Label23.Visible = false;
+  program.workspace.ResultWord = result::kNoPlan;
+}
+
+void StartSearch(Program& program) {
+  Form2& form2 = program.form2;
+  for (Picture* panel :
+       {&form2.Picture2, &form2.Picture3, &form2.Picture4, &form2.Picture12, &form2.Picture30}) {
+    panel->Visible = false;
+  }
+  form2.Label23.Caption = Message(program.workspace, 11);
+  form2.Label23.Visible = true;
+  for (Button* button : {&form2.Command2, &form2.Command3, &form2.Command4, &form2.Command5}) {
+    button->Enabled = false;
+  }
+  form2.Picture28.MousePointer = kPointerNoDrop;
+  for (Menu* menu : {&form2.menu_file, &form2.menu_edit, &form2.menu_f, &form2.menu_opt}) menu->Enabled = false;
+  program.workspace.ResultWord = AllGearsAuto(program) ? result::kFullAuto : result::kNone;
+  form2.Picture1.Visible = false;
+  form2.Timer1.Enabled = true;
+}
+
+void SearchTimer_Timer(Program& program) {
+  Form2& form2 = program.form2;
+  form2.Timer1.Enabled = false;
+  if (program.workspace.ResultWord == result::kFullAuto) {
+    PlanSearchAuto(program);
+  } else {
+    PlanSearchMixed(program);
+  }
+  if (program.workspace.ResultWord == result::kNoPlan) return;
+  Form4& dialog = program.form4.Load();
+  form2.Command2.Enabled = true;
+  form2.Command3.Enabled = true;
+  form2.Command4.Enabled = true;
+  form2.f_comp.Enabled = true;
+  form2.Command5.Enabled = true;
+  form2.menu_save.Enabled = true;
+  form2.menu_print.Enabled = true;
+  form2.menu_comb.Enabled = true;
+  form2.menu_edit.Enabled = true;
+  form2.Picture28.MousePointer = kPointerDefault;
+  form2.Hide();
+  dialog.Show();
+}
+
+void AttachPlanSearch(Program& program) {
+  On(program, program.form2.Command6.Click, StartSearch);
+  On(program, program.form2.Timer1.Timer, SearchTimer_Timer);
+}
+
+}  // namespace veldrin

@@ -1,0 +1,34 @@
+#include "program/assemble.h"
+
+#include "calc/gear_chart.h"
+#include "calc/gear_speed.h"
+#include "calc/plan_search.h"
+#include "dialogs/file_chooser.h"
+#include "dialogs/plan_dialog.h"
+#include "mainwin/gear_panel.h"
+#include "mainwin/main_window.h"
+#include "program/event_boundary.h"
+#include "workspace/startup.h"
+
+namespace veldrin {
+
+std::unique_ptr<Program> AssembleProgram(Machine& machine) {
+  auto program = std::make_unique<Program>(machine);
+  program->hooks.ChartScale = [&p = *program] { ChartScale(p); };
+  program->hooks.ChartPlan = [&p = *program] { ChartPlan(p); };
+  program->hooks.RefreshDisplay = [&p = *program] { RefreshDisplay(p); };
+  AttachStartup(*program);
+  AttachPlanSearch(*program);
+  AttachMainWindow(*program);
+  AttachGearPanel(*program);
+  AttachPlanDialog(*program);
+  AttachFileChooser(*program);
+  return program;
+}
+
+void StartProgram(Program& program, const std::string& commandLine) {
+  program.workspace.CommandFile = commandLine;
+  RunEvent(program, [&] { program.form1.LoadWindow(); });
+}
+
+}  // namespace veldrin

@@ -1,0 +1,17 @@
+// Puts the program together: every unit's handlers and operations find their place.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "workspace/program.h"
+
+namespace veldrin {
+
+/// A program on `machine`, complete, not started.
+std::unique_ptr<Program> AssembleProgram(Machine& machine);
+
+/// Starts the program with the text of its command line: the splash window's Load runs.
+void StartProgram(Program& program, const std::string& commandLine);
+
+}  // namespace veldrin

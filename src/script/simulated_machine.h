@@ -1,0 +1,46 @@
+// The simulated machine that scripts and tests run on: everything lives in memory and starts the same way
+// every time. A Program is made on `machine` and has to be gone before it; where a Program goes without
+// unloading its windows, windows.Forget() comes first.
+#pragma once
+
+#include "platform/machine.h"
+#include "script/simulated_boxes.h"
+#include "script/simulated_clock.h"
+#include "script/simulated_files.h"
+#include "script/simulated_log.h"
+#include "script/simulated_printer.h"
+#include "script/simulated_registry.h"
+#include "script/simulated_shell.h"
+#include "script/simulated_system.h"
+#include "script/simulated_windows.h"
+
+namespace veldrin {
+
+struct SimulatedMachine {
+  SimulatedMachine() = default;
+  SimulatedMachine(const SimulatedMachine&) = delete;
+  SimulatedMachine& operator=(const SimulatedMachine&) = delete;
+
+  SimulatedLog log;
+  SimulatedFiles files;
+  SimulatedRegistry registry;
+  SimulatedProfile profile;
+  SimulatedEnvironment environment;
+  SimulatedInstances instances;
+  SimulatedScreen screen;
+  SimulatedClock clock;
+  SimulatedWindows windows{clock, log};
+  SimulatedBoxes boxes{log};
+  SimulatedMetrics metrics;
+  SimulatedPrinter printer{metrics};
+  SimulatedPictures pictures{files};
+  SimulatedShell shell{files, log};
+  SimulatedSound sound{files, log};
+  SimulatedFigures figures;
+
+  /// What the program sees of it.
+  Machine machine{files, registry, profile, environment, instances, screen, windows,
+                  boxes, metrics,  printer, pictures,    shell,     sound,  figures};
+};
+
+}  // namespace veldrin

@@ -1,0 +1,18 @@
+#include "view/form5.h"
+
+namespace veldrin {
+
+Form5::Form5(Desk& theDesk)
+    : Window(theDesk, "Form5", {0, 0, 7690, 7300}, {.caption = "File Compare", .back = kDarkBlue}) {
+  for (int gear = 1; gear <= 6; ++gear) {
+    Label3[gear].ForeColor.Design(PaletteColour(gear + 8));
+    Label9[gear].ForeColor.Design(PaletteColour(gear + 8));
+  }
+  for (Label* head : {&Label9[0], &Label9[7], &Label11[0], &Label12[0]}) {
+    head->FontSize.Design(8);
+    head->ForeColor.Design(kLightGrey);
+    head->BackColor.Design(kDarkBlue);
+  }
+}
+
+}  // namespace veldrin

@@ -1,0 +1,31 @@
+#include "workspace/captions.h"
+
+#include "runtime/text.h"
+
+namespace veldrin {
+
+void AlignCaption(int column, Label& label) {
+  const std::string caption = label.Caption;
+  const int length = Length(caption);
+  if (length > column) return;
+  const std::string atColumn = Mid(caption, column, 1);
+  if (atColumn == "." || atColumn == ",") {
+    label.Caption = caption + "0";
+  } else if (length == column - 1) {
+    label.Caption = " " + caption + "0";
+  } else {
+    label.Caption = " " + caption;
+  }
+}
+
+void ShowSpeed(const Workspace& workspace, Label& label, float speed) {
+  label.Caption = FormatSingle(workspace, speed, "###.#");
+  AlignCaption(kSpeedColumn, label);
+}
+
+void ShowStep(const Workspace& workspace, Label& label, float step) {
+  label.Caption = FormatSingle(workspace, step, "##.#");
+  AlignCaption(kStepColumn, label);
+}
+
+}  // namespace veldrin

@@ -1,0 +1,201 @@
+#include "workspace/machine_list.h"
+
+#include "runtime/text.h"
+#include "workspace/history_menu.h"
+#include "workspace/language.h"
+#include "workspace/list_tables.h"
+#include "workspace/paths.h"
+#include "workspace/plan_file.h"
+#include "workspace/title.h"
+#include "workspace/working_files.h"
+
+namespace veldrin {
+
+namespace {
+
+constexpr char kBadCommandLine[] = "Bad Command-line Option or Bad File-name or File-type.";
+constexpr char kBadCommandLineJapanese[] = "コマンドライン引数か、そのファイル名またはファイルの種類が違います";
+
+/// Tells on the chooser that a file is of no known kind.
+void ShowUnknownKind(Program& program) {
+  Form3& form3 = program.form3;
+  form3.Label4.Visible = true;
+  form3.Label4.BringToFront();
+  form3.Command1.Enabled = false;
+}
+
+void ResetDisplay(Program& program) {
+  Form2& form2 = program.form2;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    form2.Label2[gear].Caption = "";
+    form2.Text1[gear].Text = "";
+  }
+  for (int step = 1; step < kGears; ++step) {
+    form2.Label39[step].Caption = "";
+    form2.Label25[step].Caption = "";
+  }
+  EmptyHistoryMenu(program);
+}
+
+/// The main window of a machine without a plan.
+void ShowNoPlan(Program& program) {
+  Form2& form2 = program.form2;
+  form2.Label6.Enabled = false;
+  form2.Label8.Enabled = false;
+  form2.Spin4.Enabled = false;
+  form2.Spin5.Enabled = false;
+  form2.Spin4.ForeColor = kLightGrey;
+  form2.Spin5.ForeColor = kLightGrey;
+  form2.Label38.Visible = false;
+  form2.Label13.Visible = false;
+  form2.Text6.Visible = false;
+  for (Picture* panel : {&form2.Picture1, &form2.Picture2, &form2.Picture3, &form2.Picture4, &form2.Picture9,
+                         &form2.Picture12, &form2.Picture30, &form2.Picture31}) {
+    panel->Visible = false;
+  }
+  form2.Text6.Text = "";
+  form2.Picture21.surface.Clear();
+  form2.Picture28.MousePointer = kPointerNoDrop;
+  form2.Command5.Enabled = false;
+  form2.Command7.Enabled = false;
+  for (Menu* entry : {&form2.menu_save, &form2.menu_print, &form2.menu_comb, &form2.menu_edit, &form2.f_calc,
+                      &form2.f_rest}) {
+    entry->Enabled = false;
+  }
+  form2.HScroll1.Enabled = false;
+  form2.HScroll2.Enabled = false;
+  form2.Label12[3].BackColor = kLightGrey;
+  form2.Label12[4].BackColor = kLightGrey;
+}
+
+/// The file asked for a list and a plan was wanted: it stays open until the user confirms the change of
+/// machine with a second OK, for which the chooser is shown again from outside its own OK.
+void AskForChangeOfMachine(Program& program) {
+  program.form3.Label4.Caption = Message(program.workspace, 7);
+  program.workspace.ResultWord = result::kAnotherList;
+  program.form3.Label4.Visible = true;
+  program.form3.Hide();
+  program.form2.Timer2.Enabled = true;
+}
+
+void OpenPlanFile(Program& program, const std::string& path, const std::string& tag) {
+  constexpr int kNameStart = 6;  // behind "FROM:"
+  Workspace& workspace = program.workspace;
+  workspace.OpenFile = path;
+  const int nameLength = Find(tag, ".") - kNameStart;
+  if (nameLength < 0) Raise(kFaultBadCall);
+  const std::string name = Mid(tag, kNameStart, nameLength);
+  if (workspace.MachineKey.empty()) {
+    workspace.MachineName = UpperCase(name);
+    workspace.MachineKey = LowerCase(workspace.MachineName);
+    program.files.Close(Handle::Reader);
+    workspace.ResultWord = result::kData;
+  } else if (workspace.MachineKey != LowerCase(name)) {
+    program.files.Close(Handle::Reader);
+    workspace.MachineName = name;
+    workspace.ResultWord = result::kAnother;
+  } else {
+    AddToHistory(program, path);
+    workspace.DataPath = FolderOf(program.machine.files.Rules(), path);
+    ReadPlanFile(program);
+  }
+}
+
+/// Answers a file of no known kind (fault 0) or a fault on the way in.
+void RefuseFile(Program& program, const std::string& path, int fault) {
+  Workspace& workspace = program.workspace;
+  Form3& form3 = program.form3;
+  form3.Label4.Caption = Message(workspace, 6);
+  program.files.Close(Handle::Reader);
+  workspace.ResultWord = result::kNotGood;
+  RemoveFromHistory(program, path);
+  const bool missing = fault == kFaultBadFileName || fault == kFaultFileNotFound || fault == kFaultPathAccess ||
+                       fault == kFaultPathNotFound;
+  if (missing && workspace.CallerWord == caller::kForm1) {
+    ShowBadCommandLine(program);
+  } else if (missing && workspace.CallerWord == caller::kForm3) {
+    form3.Label4.Caption = Message(workspace, 26);
+    form3.Label4.Visible = true;
+  } else {
+    ShowUnknownKind(program);
+  }
+}
+
+/// Reads the tag and hands the file to the reader of its kind. False for a file of no known kind.
+bool OpenByTag(Program& program, const std::string& path) {
+  program.files.OpenInput(Handle::Reader, path);
+  const std::string tag = program.files.Reader(Handle::Reader).Field();
+  if (tag.starts_with("LIST")) {
+    if (program.workspace.CallerWord == caller::kForm3DataLoad) {
+      AskForChangeOfMachine(program);
+    } else {
+      ReadMachineList(program);
+    }
+    return true;
+  }
+  if (tag.starts_with("FROM")) {
+    OpenPlanFile(program, path, tag);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void ShowBadCommandLine(Program& program) {
+  const bool japanese = CountryCode(program, 0) == kCountryJapan;
+  program.machine.boxes.Message(BoxIcon::Exclamation, "", japanese ? kBadCommandLineJapanese : kBadCommandLine,
+                                BoxButtons::Ok);
+}
+
+void OpenAnyFile(Program& program, const std::string& path) {
+  try {
+    if (!OpenByTag(program, path)) RefuseFile(program, path, 0);
+  } catch (const RuntimeFault& fault) {
+    RefuseFile(program, path, fault.number);
+  }
+}
+
+void ReadMachineList(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  workspace.ResultWord = result::kOk;
+  program.form3.Command3.Visible = false;
+  workspace.DataChanged = dirty::kNo;
+  workspace.RemarkChanged = dirty::kNo;
+  workspace.SpeedBaseline.Clear();
+  ResetDisplay(program);
+
+  const auto showTyre = [&] { form2.Text3.Text = SingleText(workspace, workspace.TyreLength); };
+  // Without a waiting file every field is missing, and the first keyword fails.
+  TextReader nothing("");
+  const bool open = program.files.IsOpen(Handle::Reader);
+  TextReader& reader = open ? program.files.Reader(Handle::Reader) : nothing;
+  const bool understood = ReadListTables(reader, workspace, showTyre);
+  program.files.Close(Handle::Reader);
+  if (!understood) {
+    workspace.ResultWord = result::kNotGood;
+    program.form3.Label4.Caption = Message(workspace, 6);
+    ShowUnknownKind(program);
+    return;
+  }
+
+  Guarded([&] { program.hooks.UpdateExtensionMenu(); });
+  Guarded([&] { LoadHistory(program); });
+  Guarded([&] { program.hooks.ChartScale(); });
+  BuildFinalTable(workspace);
+  SortTables(workspace);
+  form2.Caption = MachineTitle(workspace);
+
+  workspace.CallerWord = caller::kModule1;
+  workspace.PrimaryIndex = 1;
+  workspace.FinalIndex = 1;
+  form2.Label6.Caption = workspace.PrimaryTable[1].Text;
+  form2.Label8.Caption = workspace.FinalTable[1].Text;
+  ShowNoPlan(program);
+  workspace.ModeWord = mode::kBasing;
+  workspace.DataChanged = dirty::kZero;
+  program.form3.Hide();
+}
+
+}  // namespace veldrin

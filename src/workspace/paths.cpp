@@ -1,0 +1,26 @@
+#include "workspace/paths.h"
+
+#include "runtime/text.h"
+
+namespace veldrin {
+
+std::string JoinPath(const PathRules& rules, const std::string& folder, const std::string& name) {
+  return folder + rules.separator + name;
+}
+
+std::string TrimRoot(const PathRules& rules, const std::string& folder) {
+  if (folder.empty() || folder.back() != rules.separator) return folder;
+  return Left(folder, rules.rootLength);
+}
+
+std::string FolderOf(const PathRules& rules, const std::string& path) {
+  const std::size_t at = path.rfind(rules.separator);
+  return at == std::string::npos ? "" : path.substr(0, at);
+}
+
+std::string LastPartOf(const PathRules& rules, const std::string& path) {
+  const std::size_t at = path.rfind(rules.separator);
+  return at == std::string::npos ? path : path.substr(at + 1);
+}
+
+}  // namespace veldrin

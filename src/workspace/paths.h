@@ -1,0 +1,25 @@
+// All cutting and joining of paths, by the machine's own rules.
+#pragma once
+
+#include <string>
+
+#include "platform/files.h"
+
+namespace veldrin {
+
+/// `folder`, a separator, `name`. A drive root must come as TrimRoot gives it, or two separators would meet.
+std::string JoinPath(const PathRules& rules, const std::string& folder, const std::string& name);
+
+/// A folder as the rules join to it: one that ends in a separator is cut to the root's own characters ("C:\"
+/// to "C:", "/" to nothing), any other stays whole.
+/// Kept: a longer path with a separator at its end is cut to the drive as well.
+std::string TrimRoot(const PathRules& rules, const std::string& folder);
+
+/// What stands before the last separator; empty when there is none.
+std::string FolderOf(const PathRules& rules, const std::string& path);
+
+/// What stands behind the last separator; the whole text when there is none. Of a folder it is the last
+/// folder's name.
+std::string LastPartOf(const PathRules& rules, const std::string& path);
+
+}  // namespace veldrin

@@ -1,0 +1,333 @@
+#include "workspace/plan_file.h"
+
+#include "runtime/conversion.h"
+#include "runtime/text.h"
+#include "workspace/captions.h"
+#include "workspace/decimal.h"
+#include "workspace/language.h"
+#include "workspace/list_tables.h"
+#include "workspace/paths.h"
+#include "workspace/title.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace veldrin {
+
+namespace {
+
+constexpr double kHighestMaxSpeed = 340;  // km/h
+constexpr int kTeethCharacters = 2;       // of each of the two numbers of a row's text
+
+// ---- Reading ----
+
+/// Both readers begin here.
+void ForgetChanges(Workspace& workspace) {
+  workspace.DataChanged = dirty::kNo;
+  workspace.RemarkChanged = dirty::kNo;
+}
+
+void EmptyChart(Picture& chart) {
+  if (chart.Image == 0 && chart.surface.Drawing().empty()) return;
+  chart.Image = 0;
+  chart.surface.Clear();
+}
+
+float ReadDecimal(const Workspace& workspace, TextReader& reader) {
+  return ParseSingle(FixDecimal(workspace, reader.Line()), DecimalSeparator(workspace));
+}
+
+void ReadSpeeds(Workspace& workspace, TextReader& reader) {
+  for (int gear = 1; gear <= kGears; ++gear) workspace.SpeedBaseline[gear] = ReadDecimal(workspace, reader);
+}
+
+/// Makes room on the chart for revolutions beyond its end.
+void WidenRevolutions(Program& program) {
+  Workspace& workspace = program.workspace;
+  if (workspace.ShiftNe <= workspace.MaxNe) return;
+  workspace.MaxNe = ToInt16(workspace.ShiftNe + 1000.0);
+  program.hooks.ChartScale();
+}
+
+/// Makes room on the chart for a 6th gear above its top.
+void RaiseTopSpeed(Program& program) {
+  Workspace& workspace = program.workspace;
+  const double fastest = workspace.SpeedBaseline[kGears];
+  if (fastest <= workspace.MaxSpeed) return;
+  workspace.MaxSpeed = ToInt16(std::min(std::floor(fastest / 10) * 10 + 20, kHighestMaxSpeed));
+  program.hooks.ChartScale();
+}
+
+/// The teeth, the plan line and the remark's first line.
+void ReadChoice(Workspace& workspace, TextReader& reader) {
+  workspace.FilePrimaryDrive = reader.Int16Field();
+  workspace.FilePrimaryDriven = reader.Int16Field();
+  workspace.FileFinalDrive = reader.Int16Field();
+  workspace.FileFinalDriven = reader.Int16Field();
+  workspace.PlanLine = reader.Line();
+  workspace.RemarkFirstLine = reader.Line();
+}
+
+void ReadRemark(Program& program, TextReader& reader) {
+  TextBox& remark = program.form2.Text6;
+  remark.Text = "";
+  remark.Text = program.workspace.RemarkFirstLine;
+  // The further lines are joined first: writing a long remark once for each of its lines would take minutes.
+  std::string further;
+  while (!reader.AtEnd()) further.append(kCrLf).append(reader.Line());
+  if (!further.empty()) remark.Text = remark.Text + further;
+}
+
+/// Row 1..`count` whose text is "drive-driven" exactly; `otherwise` when there is none.
+template <class Rows>
+std::int16_t RowOf(const Rows& rows, int count, int drive, int driven, std::int16_t otherwise) {
+  const std::string text = std::to_string(drive) + "-" + std::to_string(driven);
+  for (int row = 1; row <= count; ++row) {
+    if (rows[row].Text == text) return static_cast<std::int16_t>(row);
+  }
+  return otherwise;
+}
+
+void FindRows(Workspace& workspace) {
+  workspace.PrimaryIndex = RowOf(workspace.PrimaryTable, workspace.PrimaryCount, workspace.FilePrimaryDrive,
+                                 workspace.FilePrimaryDriven, workspace.PrimaryIndex);
+  workspace.FinalIndex = RowOf(workspace.FinalTable, FinalRowCount(workspace), workspace.FileFinalDrive,
+                               workspace.FileFinalDriven, workspace.FinalIndex);
+}
+
+/// Cuts the plan line at its hyphens; pieces beyond the line's end are empty.
+/// Kept: a gear text with a hyphen of its own shifts the pieces behind it.
+void FindGearPairs(Workspace& workspace) {
+  const std::string& line = workspace.PlanLine;
+  std::size_t begin = 0;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    const std::size_t end = std::min(line.find('-', begin), line.size());
+    const std::string piece = line.substr(begin, end - begin);
+    for (int row = 1; row <= workspace.GearRows; ++row) {
+      if (workspace.GearTable(gear, row) != piece) continue;
+      workspace.PlanIndex[gear] = static_cast<std::int16_t>(row);
+      break;
+    }
+    begin = std::min(end + 1, line.size());
+  }
+}
+
+void ShowRows(Program& program) {
+  const Workspace& workspace = program.workspace;
+  program.form2.Label6.Caption = workspace.PrimaryTable[workspace.PrimaryIndex].Text;
+  program.form2.Label8.Caption = workspace.FinalTable[workspace.FinalIndex].Text;
+}
+
+void ShowGears(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    ShowSpeed(workspace, form2.Label2[gear], workspace.SpeedBaseline[gear]);
+    form2.Label12[gear].Caption = workspace.GearTable(gear, workspace.PlanIndex[gear]);
+    if (gear < 2) continue;
+    const float step = workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1];
+    workspace.SpeedStepBaseline[gear - 1] = step;
+    ShowStep(workspace, form2.Label39[gear - 1], step);
+  }
+}
+
+/// Remark, rows, gear pairs and baseline, found in the machine's tables and shown.
+void TakePlan(Program& program, TextReader& reader) {
+  Workspace& workspace = program.workspace;
+  ReadChoice(workspace, reader);
+  workspace.CallerWord = caller::kModule1;
+  ReadRemark(program, reader);
+  FindRows(workspace);
+  FindGearPairs(workspace);
+  ShowRows(program);
+  ShowGears(program);
+  workspace.ReferenceNe = workspace.ShiftNe;
+  workspace.CallerWord = caller::kInit;
+  program.form2.HScroll1.Value = workspace.ShiftNe;
+  workspace.CallerWord = caller::kModule1;
+}
+
+/// The main window of a plan in force.
+void ShowPlanControls(Program& program) {
+  const Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  form2.Text3.Text = SingleText(workspace, workspace.TyreLength);
+  form2.Text4.Text = std::to_string(workspace.ShiftNe);
+  form2.Text6.Visible = true;
+  form2.Label13.Visible = true;
+  for (Picture* panel : {&form2.Picture2, &form2.Picture3, &form2.Picture12, &form2.Picture14,
+                         &form2.Picture15, &form2.Picture29}) {
+    panel->Visible = true;
+  }
+  form2.HScroll1.Visible = true;
+  form2.HScroll2.Visible = true;
+  form2.Picture3.BringToFront();
+  for (Picture* panel : {&form2.Picture4, &form2.Picture9, &form2.Picture30}) panel->Visible = false;
+  form2.Label38.Visible = false;
+  form2.Label6.Enabled = true;
+  form2.Label8.Enabled = true;
+  form2.Command11.Enabled = true;
+  form2.Command5.Enabled = true;
+  for (Menu* entry : {&form2.menu_save, &form2.menu_print, &form2.menu_comb, &form2.menu_edit}) {
+    entry->Enabled = true;
+  }
+  form2.HScroll1.Enabled = true;
+  form2.HScroll2.Enabled = true;
+  form2.Spin5.Enabled = true;
+  form2.Spin5.ForeColor = kBlack;
+  if (workspace.PrimaryCount >= 2) {
+    form2.Spin4.Enabled = true;
+    form2.Spin4.ForeColor = kBlack;
+  }
+  form2.f_calc.Enabled = false;
+  form2.Picture28.MousePointer = kPointerDefault;
+}
+
+/// The first refresh of a plan that was read.
+void RefreshAfterReading(Program& program) {
+  program.workspace.CallerWord = caller::kRead2;
+  program.workspace.DataChanged = dirty::kZero;
+  program.hooks.RefreshDisplay();
+  program.workspace.CallerWord = caller::kUser;
+}
+
+/// The stored speeds belong to other tables: the user chooses between them and the stored plan.
+void AskWhatToBelieve(Program& program) {
+  const Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  form2.Picture20.Visible = true;
+  form2.Picture20.BringToFront();
+  form2.Label17.Caption = Message(workspace, 13);
+  form2.Command8.Caption = Message(workspace, 18);
+  form2.Command9.Caption = Message(workspace, 22);
+  form2.Command11.Enabled = false;
+  for (TextBox* box : {&form2.Text2, &form2.Text3, &form2.Text4, &form2.Text6}) box->Enabled = false;
+  form2.HScroll1.Enabled = false;
+  form2.HScroll2.Enabled = false;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    form2.Label12[gear].Enabled = false;
+    form2.Spin6[gear].Enabled = false;
+  }
+}
+
+void ShowPlanMode(Program& program) {
+  Form2& form2 = program.form2;
+  form2.Picture31.Visible = true;
+  form2.Label43.Caption = "CHG";
+  form2.Picture1.Visible = false;
+  form2.Command4.Enabled = true;
+  form2.f_comp.Enabled = true;
+  form2.Label12[3].BackColor = kLightGrey;
+  form2.Label12[4].BackColor = kLightGrey;
+}
+
+void EnableRestore(Program& program, bool enabled) {
+  program.form2.Command7.Enabled = enabled;
+  program.form2.f_rest.Enabled = enabled;
+}
+
+// ---- Writing ----
+
+/// All lines of the plan, line ends included.
+/// Kept: teeth outside 10 to 99 do not fit the two characters of their line and are not found again.
+std::string PlanText(const Program& program) {
+  const Workspace& workspace = program.workspace;
+  std::string text;
+  const auto addLine = [&](const std::string& line) { text.append(line).append(kCrLf); };
+  addLine("FROM:" + workspace.MachineName + ".RAT");
+  addLine(SingleText(workspace, workspace.TyreLength));
+  addLine(std::to_string(workspace.ShiftNe));
+  for (int gear = 1; gear <= kGears; ++gear) addLine(SingleText(workspace, workspace.SpeedNow[gear]));
+  for (const RatioRow* row :
+       {&workspace.PrimaryTable[workspace.PrimaryIndex], &workspace.FinalTable[workspace.FinalIndex]}) {
+    addLine(Left(row->Text, kTeethCharacters));
+    addLine(Right(row->Text, kTeethCharacters));
+  }
+  std::string plan;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    if (gear > 1) plan += '-';
+    plan += workspace.GearTable(gear, workspace.PlanIndex[gear]);
+  }
+  addLine(plan);
+  addLine(program.form2.Text6.Text);
+  return text;
+}
+
+}  // namespace
+
+void ReadPlanFile(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  TextReader& reader = program.files.Reader(Handle::Reader);
+  ForgetChanges(workspace);
+  EmptyChart(form2.Picture21);
+  workspace.ResultWord = result::kOk;
+
+  workspace.TyreLength = ReadDecimal(workspace, reader);
+  workspace.ShiftNe = ToInt16(ReadDecimal(workspace, reader));
+  WidenRevolutions(program);
+  form2.HScroll1.Value = workspace.ShiftNe;
+  ReadSpeeds(workspace, reader);
+  RaiseTopSpeed(program);
+  TakePlan(program, reader);
+
+  workspace.DataFile = workspace.OpenFile;
+  form2.Caption = PlanTitle(program, LastPartOf(program.machine.files.Rules(), workspace.DataFile));
+  ShowPlanControls(program);
+  workspace.ModeWord = mode::kChange;
+  program.files.Close(Handle::Reader);
+  program.form3.Hide();
+
+  RefreshAfterReading(program);
+  if (workspace.ResultWord == result::kDifferent) AskWhatToBelieve(program);
+  ShowPlanMode(program);
+  WriteWorkFile(program);
+  EnableRestore(program, false);
+}
+
+void RestorePlan(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  // Read at one stroke and not through a handle, so that a fault on the way leaves none open.
+  TextReader reader(program.machine.files.ReadText(workspace.WorkFile));
+  workspace.CallerWord = caller::kOriginal;
+  ForgetChanges(workspace);
+  form2.Picture21.surface.Clear();
+  workspace.ResultWord = result::kOk;
+
+  reader.Line();
+  workspace.TyreLength = ReadDecimal(workspace, reader);
+  workspace.ShiftNe = ToInt16(ReadDecimal(workspace, reader));
+  form2.HScroll1.Value = workspace.ShiftNe;
+  ReadSpeeds(workspace, reader);
+  TakePlan(program, reader);
+
+  UnmarkTitle(program);
+  ShowPlanControls(program);
+  if (workspace.ModeWord != mode::kData) workspace.ModeWord = mode::kChange;
+  // The chooser stays: a save restores from inside its OK and may go on in another role.
+
+  RefreshAfterReading(program);
+  ShowPlanMode(program);
+  EnableRestore(program, false);
+}
+
+void SavePlanFile(Program& program) {
+  program.files.Write(Handle::Plan, PlanText(program));
+  WriteWorkFile(program);
+  program.workspace.DataChanged = dirty::kNo;
+  EnableRestore(program, true);
+}
+
+void WriteWorkFile(Program& program) {
+  Workspace& workspace = program.workspace;
+  const std::string text = PlanText(program);
+  Guarded([&] { program.machine.files.Delete(workspace.WorkFile); });
+  program.files.OpenOutput(Handle::WorkFile, workspace.WorkFile);
+  const int fault = Guarded([&] { program.files.Write(Handle::WorkFile, text); });
+  program.files.Close(Handle::WorkFile);
+  if (fault != 0) Raise(fault);
+  workspace.WorkFileStale = false;
+}
+
+}  // namespace veldrin

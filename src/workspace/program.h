@@ -1,0 +1,82 @@
+// The program as one record: the machine below it, the workspace, the windows, and the operations that stand
+// above their callers. Units are free functions that take it.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "view/form1.h"
+#include "view/form10.h"
+#include "view/form2.h"
+#include "view/form3.h"
+#include "view/form4.h"
+#include "view/form5.h"
+#include "view/form6.h"
+#include "view/form7.h"
+#include "view/form9.h"
+#include "workspace/dialog_state.h"
+#include "workspace/file_handles.h"
+#include "workspace/workspace.h"
+
+namespace veldrin {
+
+/// An operation whose unit stands above its caller. Empty until the program is put together; calling an
+/// empty one does nothing.
+class Hook {
+ public:
+  Hook& operator=(std::function<void()> operation) {
+    operation_ = std::move(operation);
+    return *this;
+  }
+  void operator()() const {
+    if (operation_) operation_();
+  }
+
+ private:
+  std::function<void()> operation_;
+};
+
+struct Hooks {
+  Hook ChartScale;
+  Hook ChartPlan;
+  Hook RefreshDisplay;
+  /// The extension menu: built when the main window loads, brought up to date when a list was read.
+  Hook BuildExtensionMenu;
+  Hook UpdateExtensionMenu;
+  /// The chooser in one of its loading roles, after the question for unsaved changes.
+  Hook OpenListChooser;
+  Hook OpenDataChooser;
+  Hook OpenQuickRatioChooser;
+  Hook OpenReferenceChooser;
+};
+
+struct Program {
+  explicit Program(Machine& theMachine) : machine(theMachine), files(theMachine.files), desk(theMachine) {}
+
+  Machine& machine;
+  FileHandles files;
+  Workspace workspace;
+  PlanDialogState planDialog;
+  CompareState compare;
+  SettingsDialogState settingsDialog;
+  Hooks hooks;
+
+  /// How the program ended: not at all, at its own word (fault 0), or by a fault.
+  bool ended = false;
+  int endFault = 0;
+  /// Events that are running now, one inside the other through modal windows.
+  int eventDepth = 0;
+
+  Desk desk;
+  Form1 form1{desk};
+  Form2 form2{desk};
+  Form3 form3{desk};
+  TransientWindow<Form4> form4{desk};
+  TransientWindow<Form5> form5{desk};
+  TransientWindow<Form6> form6{desk};
+  TransientWindow<Form7> form7{desk};
+  TransientWindow<Form9> form9{desk};
+  TransientWindow<Form10> form10{desk};
+};
+
+}  // namespace veldrin

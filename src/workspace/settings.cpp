@@ -1,0 +1,252 @@
+#include "workspace/settings.h"
+
+#include "runtime/conversion.h"
+#include "runtime/fault.h"
+#include "runtime/text.h"
+#include "workspace/decimal.h"
+#include "workspace/paths.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace veldrin {
+
+namespace {
+
+constexpr std::size_t kReadLimit = 1024;  // bytes of a stored text
+constexpr char kOlderSettingsFile[] = "VELDRIN.INI";
+constexpr char kDefaultSeparator[] = ".";
+constexpr char kDefaultValue[] = "";  // the name of a key's default value
+constexpr int kFirstGearColour = 9;   // palette number of gear 1
+
+/// `text` without its bytes from `limit` on; a character that the limit cuts goes as a whole.
+std::string CutBytes(std::string text, std::size_t limit) {
+  if (text.size() <= limit) return text;
+  while (limit > 0 && (static_cast<unsigned char>(text[limit]) & 0xC0) == 0x80) --limit;
+  text.resize(limit);
+  return text;
+}
+
+std::string Stored(const Program& program, const std::string& value) {
+  return ReadSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value);
+}
+
+void Store(Program& program, const std::string& value, const std::string& text) {
+  WriteSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value, text);
+}
+
+std::string StoredText(const Program& program, const std::string& value, const std::string& whenEmpty) {
+  const std::string text = Stored(program, value);
+  return text.empty() ? whenEmpty : text;
+}
+
+std::int16_t StoredInt16(const Program& program, const std::string& value, std::int16_t whenZero) {
+  const std::string text = Stored(program, value);
+  if (text.empty()) return whenZero;
+  const std::int16_t number = ParseInt16(text, DecimalSeparator(program.workspace));
+  return number == 0 ? whenZero : number;
+}
+
+float StoredSingle(const Program& program, const std::string& value, float whenZero) {
+  const Workspace& workspace = program.workspace;
+  const std::string text = Stored(program, value);
+  if (text.empty()) return whenZero;
+  const float number = ParseSingle(FixDecimal(workspace, text), DecimalSeparator(workspace));
+  return number == 0 ? whenZero : number;
+}
+
+/// Kept: black is stored as 0 and so cannot be a gear's colour.
+Colour StoredColour(const Program& program, const std::string& value, Colour whenZero) {
+  const std::string text = Stored(program, value);
+  if (text.empty()) return whenZero;
+  const std::int32_t number = ParseInt32(text, DecimalSeparator(program.workspace));
+  return number == 0 ? whenZero : Colour{static_cast<std::uint32_t>(number)};
+}
+
+std::string ColourValue(int gear) {
+  return "Color_" + std::to_string(gear);
+}
+
+/// One character of the profile.
+std::string Separator(const Program& program, const char* entry) {
+  const std::string text = program.machine.profile.International(entry).value_or("");
+  return text.empty() ? kDefaultSeparator : Left(text, 1);
+}
+
+// ---- Migration ----
+
+/// What the older settings file's text has to be.
+enum class Rule { Anything, UpperCased, Int16, Int32, Single };
+
+struct MigratedKey {
+  const char* key;
+  const char* value;
+  Rule rule;
+  int low = 0;  // both ends are allowed; no limits where they are equal
+  int high = 0;
+};
+
+// clang-format off
+constexpr MigratedKey kMigratedKeys[] = {
+    {"TYRE_L",      "Tyre_L",      Rule::Single, 1, 3},
+    {"CHECK_NE",    "Check_Ne",    Rule::Int16, 5000, 24000},
+    {"SHIFT_NE",    "Shift_Ne",    Rule::Int16, 5000, 24000},
+    {"MAX_SPEED",   "Max_Speed",   Rule::Int16, 100, 340},
+    {"MAX_NE",      "Max_Ne",      Rule::Int16, 5000, 24000},
+    {"LIST_FILE",   "List_File",   Rule::Anything},
+    {"LIST_PATH",   "List_Path",   Rule::Anything},
+    {"DATA_PATH",   "Data_Path",   Rule::Anything},
+    {"HISTORY",     "His_Num",     Rule::Int16},
+    {"QUICKQUIT",   "QuickQuit",   Rule::UpperCased},
+    {"FONT",        "Pr_Font",     Rule::Anything},
+    {"LANGUAGE",    "Language",    Rule::UpperCased},
+    {"SEPARATE_34", "Separate_34", Rule::Anything},
+    {"1st",         "Color_1",     Rule::Int32},
+    {"2nd",         "Color_2",     Rule::Int32},
+    {"3rd",         "Color_3",     Rule::Int32},
+    {"4th",         "Color_4",     Rule::Int32},
+    {"5th",         "Color_5",     Rule::Int32},
+    {"6th",         "Color_6",     Rule::Int32},
+};
+// clang-format on
+
+/// The number that `text` spells in the width of `rule`. Raises faults 13 and 6.
+double NumberOf(const std::string& text, Rule rule, char separator) {
+  switch (rule) {
+    case Rule::Int16:
+      return ParseInt16(text, separator);
+    case Rule::Int32:
+      return ParseInt32(text, separator);
+    default:
+      return ParseSingle(text, separator);
+  }
+}
+
+/// `text` as it goes into the store, or nothing when the key does not take it.
+std::optional<std::string> Accepted(const Workspace& workspace, const MigratedKey& key,
+                                    const std::string& text) {
+  if (key.rule == Rule::Anything) return text;
+  if (key.rule == Rule::UpperCased) return UpperCase(text);
+  const std::string repaired = key.rule == Rule::Single ? FixDecimal(workspace, text) : text;
+  double number = 0;
+  const int fault = Guarded([&] { number = NumberOf(repaired, key.rule, DecimalSeparator(workspace)); });
+  const bool limited = key.low != key.high;
+  if (fault != 0 || (limited && (number < key.low || number > key.high))) return std::nullopt;
+  return repaired;
+}
+
+void MigrateOlderSettings(Program& program, const std::string& path) {
+  program.files.OpenInput(Handle::OlderSettings, path);
+  TextReader& reader = program.files.Reader(Handle::OlderSettings);
+  while (!reader.AtEnd()) {
+    const std::optional<StoredValue> stored = MigrateLine(program.workspace, reader.Line());
+    if (stored) Store(program, stored->value, stored->text);
+  }
+  program.files.Close(Handle::OlderSettings);
+  program.machine.files.Delete(path);
+}
+
+void RegisterFileType(Program& program) {
+  const std::string type = kFileTypeKey;
+  const std::string executable =
+      JoinPath(program.machine.files.Rules(), program.workspace.AppPath, "veldrin.exe");
+  const auto write = [&](const std::string& key, const std::string& text) {
+    WriteSetting(program, RegistryRoot::ClassesRoot, key, kDefaultValue, text);
+  };
+  write(type, "「べるどりん君」ﾌｧｲﾙ");
+  write(type + "\\DefaultIcon", executable + ",1");
+  write(type + "\\Shell\\open", "「べるどりん君」で開く");
+  write(type + "\\Shell\\open\\command", executable + " %1");
+}
+
+}  // namespace
+
+std::string ReadSetting(const Program& program, RegistryRoot root, const std::string& key,
+                        const std::string& value) {
+  std::string text = CutBytes(program.machine.registry.Read(root, key, value).value_or(""), kReadLimit);
+  text.resize(std::min(text.find('\0'), text.size()));
+  return text;
+}
+
+bool WriteSetting(Program& program, RegistryRoot root, const std::string& key, const std::string& value,
+                  const std::string& text) {
+  return program.machine.registry.Write(root, key, value, text);
+}
+
+bool DeleteKey(Program& program, RegistryRoot root, const std::string& key) {
+  return program.machine.registry.DeleteKey(root, key);
+}
+
+int CountryCode(const Program& program, int absent) {
+  const std::string text = Trim(program.machine.profile.International("iCountry").value_or(""));
+  if (text.empty()) return absent;
+  int code = 0;
+  std::from_chars(text.data(), text.data() + text.size(), code);
+  return code;
+}
+
+void ReadRegionalValues(Program& program) {
+  Workspace& workspace = program.workspace;
+  workspace.DecimalSep = Separator(program, "sDecimal");
+  workspace.ThousandSep = Separator(program, "sThousand");
+  workspace.PrintFontBold = false;
+  workspace.PrintFontItalic = false;
+}
+
+bool ReadAppPath(Program& program) {
+  program.workspace.AppPath = Stored(program, "App Path");
+  return program.workspace.AppPath.empty();
+}
+
+void CreateSettings(Program& program) {
+  Workspace& workspace = program.workspace;
+  workspace.AppPath = program.machine.files.CurrentFolder();
+  Store(program, "App Path", workspace.AppPath);
+  Store(program, "NumExtReg", "0");
+  RegisterFileType(program);
+  const std::string older = JoinPath(program.machine.files.Rules(), workspace.AppPath, kOlderSettingsFile);
+  if (program.machine.files.FileExists(older)) MigrateOlderSettings(program, older);
+}
+
+std::optional<StoredValue> MigrateLine(const Workspace& workspace, const std::string& line) {
+  const std::size_t equals = line.find('=');
+  if (equals == std::string::npos) return std::nullopt;
+  const std::string key = line.substr(0, equals);
+  for (const MigratedKey& migrated : kMigratedKeys) {
+    if (key != migrated.key) continue;
+    const std::optional<std::string> text = Accepted(workspace, migrated, line.substr(equals + 1));
+    if (!text) return std::nullopt;
+    return StoredValue{migrated.value, *text};
+  }
+  return std::nullopt;
+}
+
+void ReadSettings(Program& program) {
+  Workspace& workspace = program.workspace;
+  const PathRules rules = program.machine.files.Rules();
+  workspace.TyreLength = StoredSingle(program, "Tyre_l", 1.9F);
+  workspace.CheckNe = StoredInt16(program, "Check_Ne", 10000);
+  workspace.ShiftNe = StoredInt16(program, "Shift_Ne", 13000);
+  workspace.MaxSpeed = StoredInt16(program, "Max_Speed", 340);
+  workspace.MaxNe = StoredInt16(program, "Max_Ne", 15000);
+  workspace.ListFile = StoredText(program, "List_File", "NX4.RAT");
+  workspace.ListPath = StoredText(program, "List_Path", JoinPath(rules, workspace.AppPath, "LIST"));
+  workspace.DataPath = StoredText(program, "Data_Path", JoinPath(rules, workspace.AppPath, "DAT"));
+  workspace.HistoryMax = StoredInt16(program, "His_Num", 6);
+  workspace.MinPlan = StoredInt16(program, "Min Plan", 1);
+  workspace.QuickQuit = StoredText(program, "QuickQuit", kNoWord);
+  workspace.Language = StoredText(program, "Language", kJapanese);
+  workspace.PrintFont = StoredText(program, "Pr_Font", "ＭＳ ゴシック");
+  workspace.Separate34 = StoredText(program, "Separate_34", "nv0");
+  for (int gear = 1; gear <= kGears; ++gear) {
+    const Colour designed = PaletteColour(kFirstGearColour + gear - 1);
+    workspace.GearColour[gear] = StoredColour(program, ColourValue(gear), designed);
+  }
+  workspace.InitialDataPath = workspace.DataPath;
+  if (CountryCode(program, 0) != kJapan) {
+    workspace.PrintFont = "Arial";
+    workspace.Language = kEnglish;
+  }
+}
+
+}  // namespace veldrin

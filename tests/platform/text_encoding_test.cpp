@@ -1,0 +1,250 @@
+#include "platform/text_encoding.h"
+
+#include <gtest/gtest.h>
+
+#include <iconv.h>
+#include <string>
+
+namespace veldrin {
+namespace {
+
+/// `text` from one code of the C library to another; nothing when it is no text of the first or does not fit
+/// the second.
+std::optional<std::string> Convert(const char* to, const char* from, std::string_view text) {
+  const iconv_t converter = iconv_open(to, from);
+  if (converter == reinterpret_cast<iconv_t>(-1)) return std::nullopt;
+  std::string input(text);
+  std::string output(text.size() * 4 + 16, '\0');
+  char* in = input.data();
+  char* out = output.data();
+  std::size_t inLeft = input.size();
+  std::size_t outLeft = output.size();
+  const std::size_t irreversible = iconv(converter, &in, &inLeft, &out, &outLeft);
+  iconv_close(converter);
+  if (irreversible != 0) return std::nullopt;
+  output.resize(output.size() - outLeft);
+  return output;
+}
+
+CodePages Pages(int systemPage, bool japanese) {
+  CodePages pages;
+  pages.systemPage = systemPage;
+  pages.japanese = japanese;
+  pages.decode = [](int page, std::string_view bytes) {
+    return page == kJapanesePage ? Convert("UTF-8", "CP932", bytes) : std::nullopt;
+  };
+  pages.encode = [](int page, std::string_view text) {
+    return page == kJapanesePage ? Convert("CP932", "UTF-8", text) : std::nullopt;
+  };
+  return pages;
+}
+
+const char kPath[] = "C:\\DAT\\RAIN.nx4";
+const char kRain[] = "雨の日の設定です。\r\n";
+// The same in code page 932.
+const char kRainBytes[] = "\x89\x4A\x82\xCC\x93\xFA\x82\xCC\x90\xDD\x92\xE8\x82\xC5\x82\xB7\x81\x42\r\n";
+
+TEST(Utf8, IsToldFromOtherBytes) {
+  struct Case {
+    std::string bytes;
+    bool valid;
+  };
+  const Case cases[] = {
+      {"", true},
+      {"FROM:NX4.RAT\r\n", true},
+      {"\xC3\xA9", true},           // é
+      {"\xE9\x9B\xA8", true},       // 雨
+      {"\xF0\x9F\x8F\x8D", true},   // beyond 16 bits
+      {"\xEF\xBB\xBF", true},       // a byte order mark
+      {"\xF4\x8F\xBF\xBF", true},   // the last character
+      {"\xF4\x90\x80\x80", false},  // one beyond it
+      {"\xC1\xBF", false},          // a letter in two bytes
+      {"\xE0\x9F\xBF", false},      // two bytes would do
+      {"\xF0\x8F\xBF\xBF", false},  // three bytes would do
+      {"\xED\x9F\xBF", true},       // the last before the surrogates
+      {"\xED\xA0\x80", false},      // a surrogate
+      {"\xEE\x80\x80", true},       // the first behind them
+      {"\xC3", false},              // ends inside a character
+      {"\xE9\x9B", false},          //
+      {"\x80", false},              // begins inside one
+      {"\xE9\x9B"
+       "A",
+       false},                         // breaks off
+      {"\xFF", false},                 // no byte of UTF-8
+      {"caf\xE9", false},              // code page 1252
+      {"\x89\x4A", false},             // code page 932
+      {std::string("a\0b", 3), true},  // zero is a character
+  };
+  for (const Case& c : cases) EXPECT_EQ(IsValidUtf8(c.bytes), c.valid) << c.bytes;
+}
+
+TEST(Western, EveryByteGoesThereAndBack) {
+  for (int byte = 0; byte < 256; ++byte) {
+    const std::string bytes(1, static_cast<char>(byte));
+    const std::string text = DecodeWestern(bytes);
+    EXPECT_TRUE(IsValidUtf8(text)) << byte;
+    EXPECT_EQ(EncodeWestern(text), bytes) << byte;
+    // The C library knows all but the five bytes without a character.
+    const std::optional<std::string> known = Convert("UTF-8", "CP1252", bytes);
+    if (known) {
+      EXPECT_EQ(text, *known) << byte;
+    }
+  }
+}
+
+TEST(Western, BytesWithoutACharacterBecomeControlCharacters) {
+  EXPECT_EQ(DecodeWestern("\x81\x8D\x8F\x90\x9D"), "\xC2\x81\xC2\x8D\xC2\x8F\xC2\x90\xC2\x9D");
+}
+
+TEST(Western, WhatDoesNotFitIsToldAsNothing) {
+  EXPECT_EQ(EncodeWestern("50 €"), "50 \x80");
+  EXPECT_EQ(EncodeWestern("Ünÿ"), "\xDCn\xFF");
+  EXPECT_EQ(EncodeWestern("雨"), std::nullopt);
+  EXPECT_EQ(EncodeWestern("\xC2\x80"), std::nullopt);
+  EXPECT_EQ(EncodeWestern("\xF0\x9F\x8F\x8D"), std::nullopt);
+  EXPECT_EQ(EncodeWestern("\xC3"), std::nullopt);
+}
+
+TEST(TextEncoding, JapaneseFileRoundTripsUnderUtf8) {
+  TextEncoding encoding(Pages(kUtf8Page, true));
+  EXPECT_EQ(encoding.Decode(kPath, kRainBytes), kRain);
+  EXPECT_EQ(encoding.Encode(kPath, kRain), kRainBytes);
+}
+
+TEST(TextEncoding, JapaneseRemarkKeepsEveryKindOfCharacter) {
+  // Half-width and double-byte katakana, a backslash as second byte (0x5C of 表), blanks, numbers in circles.
+  const std::string bytes =
+      "FROM:NX4.RAT\r\n1.9\r\n\xD9\xC3\xDE \x83\x65\x83\x58\x83\x67\x81\x40\x95\x5C \x87\x40\x81\x60\r\n";
+  TextEncoding encoding(Pages(kUtf8Page, true));
+  const std::string text = encoding.Decode(kPath, bytes);
+  EXPECT_EQ(text, "FROM:NX4.RAT\r\n1.9\r\nﾙﾃﾞ テスト　表 ①～\r\n");
+  EXPECT_EQ(encoding.Encode(kPath, text), bytes);
+}
+
+TEST(TextEncoding, WesternFileRoundTripsUnderUtf8) {
+  TextEncoding encoding(Pages(kUtf8Page, false));
+  const std::string text = encoding.Decode(kPath, "caf\xE9 \x96 50 \x80\r\n");
+  EXPECT_EQ(text, "café – 50 €\r\n");
+  EXPECT_EQ(encoding.Encode(kPath, text), "caf\xE9 \x96 50 \x80\r\n");
+}
+
+TEST(TextEncoding, Utf8FileStaysUtf8) {
+  for (const bool japanese : {false, true}) {
+    TextEncoding encoding(Pages(kUtf8Page, japanese));
+    EXPECT_EQ(encoding.Decode(kPath, kRain), kRain);
+    EXPECT_EQ(encoding.Encode(kPath, kRain), kRain);
+    EXPECT_EQ(encoding.Encode(kPath, "café"), "café");
+  }
+}
+
+TEST(TextEncoding, FileOfPlainLettersIsUtf8) {
+  TextEncoding encoding(Pages(kUtf8Page, true));
+  EXPECT_EQ(encoding.Decode(kPath, "FROM:NX4.RAT\r\n"), "FROM:NX4.RAT\r\n");
+  EXPECT_EQ(encoding.Encode(kPath, kRain), kRain);
+}
+
+TEST(TextEncoding, WhatDoesNotFitThePageTurnsTheFileIntoUtf8) {
+  TextEncoding encoding(Pages(kUtf8Page, true));
+  encoding.Decode(kPath, kRainBytes);
+  EXPECT_EQ(encoding.Encode(kPath, "雨 é"), "雨 é");
+  // Without it, the page serves again.
+  EXPECT_EQ(encoding.Encode(kPath, kRain), kRainBytes);
+  // Read as UTF-8, it stays so.
+  encoding.Decode(kPath, "雨 é");
+  EXPECT_EQ(encoding.Encode(kPath, kRain), kRain);
+}
+
+TEST(TextEncoding, BytesThatWouldPassForUtf8AreNotWritten) {
+  TextEncoding encoding(Pages(kUtf8Page, false));
+  encoding.Decode(kPath, "caf\xE9");
+  // In 1252 this is C3 A9, which would be read as "é".
+  EXPECT_EQ(encoding.Encode(kPath, "Ã©"), "Ã©");
+}
+
+TEST(TextEncoding, LikenessOfACharacterIsNotEnough) {
+  CodePages pages = Pages(kUtf8Page, true);
+  // A machine that writes "e" for "é" and calls it done.
+  pages.encode = [](int, std::string_view) { return "\x89\x4A e"; };
+  TextEncoding encoding(pages);
+  encoding.Decode(kPath, kRainBytes);
+  EXPECT_EQ(encoding.Encode(kPath, "雨 é"), "雨 é");
+  EXPECT_EQ(encoding.Encode(kPath, "雨 e"), "\x89\x4A e");
+}
+
+TEST(TextEncoding, ByteOrderMarkIsDroppedAndPutBack) {
+  TextEncoding encoding(Pages(kUtf8Page, false));
+  EXPECT_EQ(encoding.Decode(kPath,
+                            "\xEF\xBB\xBF"
+                            "LIST\r\n"),
+            "LIST\r\n");
+  EXPECT_EQ(encoding.Encode(kPath, "LIST é\r\n"),
+            "\xEF\xBB\xBF"
+            "LIST é\r\n");
+  // Only of this file.
+  EXPECT_EQ(encoding.Encode("C:\\DAT\\OTHER.nx4", "LIST\r\n"), "LIST\r\n");
+  // Read without it, the file keeps none.
+  encoding.Decode(kPath, "LIST\r\n");
+  EXPECT_EQ(encoding.Encode(kPath, "LIST\r\n"), "LIST\r\n");
+}
+
+TEST(TextEncoding, FileOfAByteOrderMarkAloneIsEmpty) {
+  TextEncoding encoding(Pages(kUtf8Page, true));
+  EXPECT_EQ(encoding.Decode(kPath, "\xEF\xBB\xBF"), "");
+  EXPECT_EQ(encoding.Encode(kPath, ""), "\xEF\xBB\xBF");
+}
+
+TEST(TextEncoding, FileThatWasNeverReadIsWrittenInTheSystemsPage) {
+  EXPECT_EQ(TextEncoding(Pages(kUtf8Page, true)).Encode(kPath, kRain), kRain);
+  EXPECT_EQ(TextEncoding(Pages(kJapanesePage, true)).Encode(kPath, kRain), kRainBytes);
+  EXPECT_EQ(TextEncoding(Pages(kWesternPage, false)).Encode(kPath, "café"), "caf\xE9");
+}
+
+TEST(TextEncoding, PathsAreComparedWithoutCase) {
+  TextEncoding encoding(Pages(kUtf8Page, true));
+  encoding.Decode("C:\\Dat\\Éñ Ｒain.NX4", kRainBytes);
+  EXPECT_EQ(encoding.Encode("c:\\dAT\\éÑ ｒAIN.nx4", kRain), kRainBytes);
+  EXPECT_EQ(encoding.Encode("c:\\dat\\en Rain.nx4", kRain), kRain);
+}
+
+TEST(TextEncoding, SystemsPageServesForBoth) {
+  TextEncoding japanese(Pages(kJapanesePage, true));
+  EXPECT_EQ(japanese.Decode(kPath, kRainBytes), kRain);
+  EXPECT_EQ(japanese.Encode(kPath, kRain), kRainBytes);
+  // Bytes that are valid UTF-8 as well are read in the page all the same.
+  EXPECT_EQ(japanese.Decode(kPath, "\xC2\xB1"), "ﾂｱ");
+  EXPECT_EQ(japanese.Encode(kPath, "ﾂｱ"), "\xC2\xB1");
+
+  TextEncoding western(Pages(kWesternPage, false));
+  EXPECT_EQ(western.Decode(kPath, "\xC3\xA9"), "Ã©");
+  EXPECT_EQ(western.Encode(kPath, "Ã©"), "\xC3\xA9");
+  EXPECT_EQ(western.Decode(kPath, "\xEF\xBB\xBF"), "ï»¿");
+}
+
+TEST(TextEncoding, SystemsPageWritesAQuestionMarkForWhatDoesNotFit) {
+  EXPECT_EQ(TextEncoding(Pages(kWesternPage, false)).Encode(kPath, "é雨a"), "\xE9?a");
+  EXPECT_EQ(TextEncoding(Pages(kJapanesePage, true)).Encode(kPath, "é雨a"),
+            "?\x89\x4A"
+            "a");
+}
+
+TEST(TextEncoding, BytesThatThePageCannotHoldAreReadByteForByte) {
+  // 0x81 wants a second byte.
+  for (const int page : {kUtf8Page, kJapanesePage}) {
+    TextEncoding encoding(Pages(page, true));
+    const std::string text = encoding.Decode(kPath, "a\xFF\x81");
+    EXPECT_EQ(text, "aÿ\xC2\x81");
+    EXPECT_EQ(encoding.Encode(kPath, text), "a\xFF\x81");
+  }
+}
+
+TEST(TextEncoding, MachineWithoutConversionsStillReadsEverything) {
+  CodePages pages;
+  pages.japanese = true;
+  TextEncoding encoding(pages);
+  const std::string text = encoding.Decode(kPath, kRainBytes);
+  EXPECT_TRUE(IsValidUtf8(text));
+  EXPECT_EQ(encoding.Encode(kPath, text), kRainBytes);
+}
+
+}  // namespace
+}  // namespace veldrin
