@@ -25,13 +25,17 @@ struct Form2 : Window {
   static constexpr Look kPartHead{.fore = kLightGrey, .back = kBlack, .transparent = true};
   // ... figures of the gears, which the constructor gives the colours of their gears, ...
   static constexpr Look kGearName{.back = kBlack, .fontSize = 10, .fontBold = true, .align = Align::Centre};
-  static constexpr Look kSpeed{.back = kBlack, .fontBold = true};
-  static constexpr Look kFigure{.back = kBlack, .fontBold = true, .align = Align::Right};
-  static constexpr Look kTolerance{
-      .caption = "--", .back = kBlack, .fontBold = true, .align = Align::Centre, .enabled = false};
+  static constexpr Look kSpeed{.back = kBlack, .fontSize = 8, .fontBold = true};
+  static constexpr Look kFigure{.back = kBlack, .fontSize = 8, .fontBold = true, .align = Align::Right};
+  static constexpr Look kTolerance{.caption = "--",
+                                   .back = kBlack,
+                                   .fontSize = 8,
+                                   .fontBold = true,
+                                   .align = Align::Centre,
+                                   .enabled = false};
   static constexpr Look kPart{.back = kBlack, .fontSize = 11, .transparent = true};
   // ... chosen rows, boxes and the rest.
-  static constexpr Look kPair{.fontBold = true, .align = Align::Centre, .border = true};
+  static constexpr Look kPair{.fontSize = 8, .fontBold = true, .align = Align::Centre, .border = true};
   static constexpr Look kRow{
       .fontSize = 11, .fontBold = true, .align = Align::Centre, .border = true, .enabled = false};
   static constexpr Look kBox{.back = kWhite};
@@ -69,10 +73,10 @@ struct Form2 : Window {
   Button     Command2 {"Command2",  Picture13, {  45,   60,  990,  375}, {.caption = "Mode"}};
   Button     Command3 {"Command3",  Picture13, {  45,  540,  990,  375}, {.caption = "Load"}};
   Picture    Picture28{"Picture28", Picture13, {2160,  120,  720,  720}, {.border = true}};
-  Label      Label5   {"Label5",    Picture13, {2925,  135,  690,  225}, Titled("Primary", kTitle)};
+  Label      Label5   {"Label5",    Picture13, {2895,  135,  735,  225}, Titled("Primary", kTitle)};
   Label      Label6   {"Label6",    Picture13, {3660,  105,  810,  300}, kRow};
   SpinButton Spin4    {"Spin4",     Picture13, {4515,   75,  300,  360}, kGreyArrows};
-  Label      Label7   {"Label7",    Picture13, {2925,  630,  690,  225}, Titled("Final", kTitle)};
+  Label      Label7   {"Label7",    Picture13, {2895,  630,  735,  225}, Titled("Final", kTitle)};
   Label      Label8   {"Label8",    Picture13, {3660,  600,  810,  300}, kRow};
   SpinButton Spin5    {"Spin5",     Picture13, {4515,  570,  300,  360}, kGreyArrows};
   Button     Command4 {"Command4",  *this,     {1200,   60,  990,  375}, Titled("Compare", kOff)};
@@ -143,36 +147,36 @@ struct Form2 : Window {
   ControlArray<Label> Label35{1, 6, Elements<Label>("Label35", Picture30, GearColumn(1410, 870, 255), kGearName)};
   ControlArray<SpinButton> SpinButton2{1, 6, Elements<SpinButton>("SpinButton2", Picture30, GearColumn(2295, 300, 375, 300))};
 
-  // The plan. Picture34 lies over the top of Picture32, whose rows begin below it.
+  // The plan. The head Picture34 lies over the blank top of its column and over the end of the head before.
   Picture Picture12{"Picture12", *this,     {1320,  960, 3795, 3795}, kHiddenPanel};
-  Picture Picture25{"Picture25", Picture12, {   0,    0,  330, 3105}, kPanel};
-  ControlArray<Label> Label39{1, 5, Elements<Label>("Label39", Picture25, GearColumn(0, 330, 195, 150), kSmallTitle)};
-  Picture Picture14{"Picture14", Picture12, { 330,    0,  480, 3105}, kPanel};
+  Picture Picture25{"Picture25", Picture12, {   0,    0,  345, 3105}, kPanel};
+  ControlArray<Label> Label39{1, 5, Elements<Label>("Label39", Picture25, GearColumn(0, 345, 195, 150), kSmallTitle)};
+  Picture Picture14{"Picture14", Picture12, { 345,    0,  480, 3105}, kPanel};
   ControlArray<Label> Label9{0, 6, Column("Label9", Picture14, 0, 480, kSpeed, {"CHG"})};
-  ControlArray<Picture> Picture26{0, 0, Elements<Picture>("Picture26", Picture12, [](int) { return Place{810, 0, 330, 3105}; }, kPanel)};
-  ControlArray<Label> Label40{1, 5, Elements<Label>("Label40", Picture26[0], GearColumn(0, 330, 195, 150), kSmallTitle)};
-  Picture Picture16{"Picture16", Picture12, {1140,    0,  570, 3510}, kPanel};
-  ControlArray<Label> Label11{0, 6, Column("Label11", Picture16, 15, 540, kFigure, {"Shift"})};
-  TextBox Text4    {"Text4",     Picture16, {   0, 3150,  555,  330}, kSmallBox};
-  Picture Picture15{"Picture15", Picture12, {1710,    0,  570, 3510}, kPanel};
-  ControlArray<Label> Label10{0, 6, Column("Label10", Picture15, 15, 540, kFigure, {"+/- "})};
-  TextBox Text2    {"Text2",     Picture15, {  15, 3150,  555,  330}, kSmallBox};
-  Picture Picture32{"Picture32", Picture12, {2280,    0,  750, 3105}, kPanel};
-  ControlArray<Label> Label_Dif{1, 6, Elements<Label>("Label_Dif", Picture32, GearColumn(75, 600, 255), kFigure)};
-  Picture Picture34{"Picture34", Picture12, {2280,    0,  750,  300}, kPanel};
-  Label   Label45  {"Label45",   Picture34, {   0,    0,  750,  255}, Titled("Difference", kHead)};
+  ControlArray<Picture> Picture26{0, 0, Elements<Picture>("Picture26", Picture12, [](int) { return Place{825, 0, 345, 3105}; }, kPanel)};
+  ControlArray<Label> Label40{1, 5, Elements<Label>("Label40", Picture26[0], GearColumn(0, 345, 195, 150), kSmallTitle)};
+  Picture Picture16{"Picture16", Picture12, {1170,    0,  630, 3510}, kPanel};
+  ControlArray<Label> Label11{0, 6, Column("Label11", Picture16, 15, 600, kFigure, {"Shift"})};
+  TextBox Text4    {"Text4",     Picture16, {  15, 3150,  600,  330}, kSmallBox};
+  Picture Picture15{"Picture15", Picture12, {1800,    0,  630, 3510}, kPanel};
+  ControlArray<Label> Label10{0, 6, Column("Label10", Picture15, 15, 600, kFigure, {"+/- "})};
+  TextBox Text2    {"Text2",     Picture15, {  15, 3150,  600,  330}, kSmallBox};
+  Picture Picture32{"Picture32", Picture12, {2430,    0,  600, 3105}, kPanel};
+  ControlArray<Label> Label_Dif{1, 6, Elements<Label>("Label_Dif", Picture32, GearColumn(0, 585, 255), kFigure)};
+  Picture Picture34{"Picture34", Picture12, {2175,    0,  855,  300}, kPanel};
+  Label   Label45  {"Label45",   Picture34, {   0,    0,  855,  255}, Titled("Difference", kHead)};
   Picture Picture17{"Picture17", Picture12, {3030,    0,  540, 3105}, kPanel};
   ControlArray<Label> Label12{0, 6, Column("Label12", Picture17, 0, 540, kPair, {"PLAN"})};
   Picture Picture18{"Picture18", Picture12, {3570,    0,  225, 3105}, kPanel};
   ControlArray<SpinButton> Spin6{1, 6, Elements<SpinButton>("Spin6", Picture18, GearColumn(0, 225, 375, 300))};
-  TextBox Text3    {"Text3",     Picture12, { 375, 3150,  600,  330}, kBox};
-  Label   Label24  {"Label24",   Picture12, { 330, 3510,  690,  225}, Titled("Tyre L", kHead)};
-  Label   Label42  {"Label42",   Picture12, {1710, 3510,  570,  225}, Titled("Check", kHead)};
-  Button  Command7 {"Command7",  Picture12, {2430, 3255, 1230,  375}, Titled("Restore", kOff)};
-  Line    Line16   {"Line16",    Picture12,    0, 3120, 1125, 3120, kLightGrey};
-  Line    Line17   {"Line17",    Picture12, 2295, 3120, 3780, 3120, kLightGrey};
-  Line    Line19   {"Line19",    Picture12, 1125, 3120, 1125, 3765, kLightGrey};
-  Line    Line20   {"Line20",    Picture12, 2295, 3120, 2295, 3765, kLightGrey};
+  TextBox Text3    {"Text3",     Picture12, { 285, 3150,  600,  330}, kSmallBox};
+  Label   Label24  {"Label24",   Picture12, { 240, 3510,  690,  225}, Titled("Tyre L", kHead)};
+  Label   Label42  {"Label42",   Picture12, {1800, 3510,  630,  225}, Titled("Check", kHead)};
+  Button  Command7 {"Command7",  Picture12, {2535, 3255, 1140,  375}, Titled("Restore", kOff)};
+  Line    Line16   {"Line16",    Picture12,    0, 3120, 1155, 3120, kLightGrey};
+  Line    Line17   {"Line17",    Picture12, 2445, 3120, 3780, 3120, kLightGrey};
+  Line    Line19   {"Line19",    Picture12, 1155, 3120, 1155, 3765, kLightGrey};
+  Line    Line20   {"Line20",    Picture12, 2445, 3120, 2445, 3765, kLightGrey};
   Line    Line21   {"Line21",    Picture12,    0, 3765, 3780, 3765, kLightGrey};
 
   // Below the chart and the panels.

@@ -1,8 +1,8 @@
 #include "view/user_input.h"
 
-#include <algorithm>
-
 #include "runtime/text.h"
+
+#include <algorithm>
 
 namespace veldrin::user {
 

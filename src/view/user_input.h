@@ -1,19 +1,20 @@
-// What a user does with mouse and keys, as the view sees it: which events a gesture fires, and in which order.
+// What a user does with mouse and keys, as the view sees it: which events a gesture fires, and in which
+// order.
 //
 //   the window becomes the active one -> the focus moves -> mouse down -> mouse up -> Click -> DblClick
 //
-// Labels, pictures, spin buttons, scroll bars and menus do not take the focus; a menu entry knows Click alone.
-// Each gesture returns whether the user could do it. What cannot be reached stays as it is, and so does a
-// control that the handlers of the gesture's first events have put out of reach: they are asked again behind
-// each step that runs other controls' handlers.
+// Labels, pictures, spin buttons, scroll bars and menus do not take the focus; a menu entry knows Click
+// alone. Each gesture returns whether the user could do it. What cannot be reached stays as it is, and so
+// does a control that the handlers of the gesture's first events have put out of reach: they are asked again
+// behind each step that runs other controls' handlers.
 //
 // Gestures belong into one event of the program each: whoever calls them catches faults and the end.
 #pragma once
 
-#include <string>
-
 #include "view/controls.h"
 #include "view/window.h"
+
+#include <string>
 
 namespace veldrin::user {
 
@@ -40,8 +41,8 @@ bool TypeText(Control& control, const std::string& text);
 /// Whether a text can be written into the control: a text box, or a combo that is editable.
 bool TakesText(const Control& control);
 
-/// Picks the entry with this text of a combo, drive or file box: Click, also when it was the one before. False
-/// where there is no such entry.
+/// Picks the entry with this text of a combo, drive or file box: Click, also when it was the one before.
+/// False where there is no such entry.
 bool SelectEntry(Control& control, const std::string& entry);
 /// A folder box goes to a folder. False where it is not there.
 bool OpenFolder(FolderBox& box, const std::string& path);

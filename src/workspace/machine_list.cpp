@@ -6,6 +6,7 @@
 #include "workspace/list_tables.h"
 #include "workspace/paths.h"
 #include "workspace/plan_file.h"
+#include "workspace/settings.h"
 #include "workspace/title.h"
 #include "workspace/working_files.h"
 
@@ -143,7 +144,7 @@ bool OpenByTag(Program& program, const std::string& path) {
 }  // namespace
 
 void ShowBadCommandLine(Program& program) {
-  const bool japanese = CountryCode(program, 0) == kCountryJapan;
+  const bool japanese = CountryCode(program, 0) == kJapan;
   program.machine.boxes.Message(BoxIcon::Exclamation, "", japanese ? kBadCommandLineJapanese : kBadCommandLine,
                                 BoxButtons::Ok);
 }

@@ -48,6 +48,9 @@ struct Hooks {
   Hook OpenDataChooser;
   Hook OpenQuickRatioChooser;
   Hook OpenReferenceChooser;
+  /// The chooser in its saving and in its deleting role.
+  Hook OpenSaveChooser;
+  Hook OpenDeleteChooser;
 };
 
 struct Program {

@@ -7,8 +7,6 @@
 #include "workspace/settings.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdio>
 #include <limits>
 
 namespace veldrin {
@@ -21,9 +19,8 @@ constexpr char kDefaultValue[] = "";  // the name of a key's default value
 constexpr char kCountValue[] = "0";
 
 std::string WorkFileName(int number) {
-  char name[] = "VELD000.TMP";
-  std::snprintf(name, sizeof name, "VELD%03d.TMP", number);
-  return name;
+  const std::string digits = std::to_string(number);
+  return "VELD" + std::string(3 - digits.size(), '0') + digits + ".TMP";
 }
 
 std::string InTempDir(const Program& program, const std::string& name) {

@@ -7,9 +7,9 @@
 // the key "Sub", which serves one machine at a time.
 #pragma once
 
-#include <string>
-
 #include "workspace/program.h"
+
+#include <string>
 
 namespace veldrin {
 

@@ -1,0 +1,293 @@
+#include "dialogs/plan_dialog.h"
+
+#include "calc/gear_chart.h"
+#include "calc/gear_speed.h"
+#include "calc/plan_search.h"
+#include "runtime/conversion.h"
+#include "runtime/text.h"
+#include "view/bind.h"
+#include "workspace/captions.h"
+
+#include <string>
+
+namespace veldrin {
+
+namespace {
+
+constexpr float kOuterWidth = 7140;  // twips
+constexpr float kOuterHeight = 6540;
+constexpr int kWhiteNumber = 15;
+constexpr int kGreyNumber = 7;
+
+// ---- Showing a plan ----
+
+void ShowRows(Program& program) {
+  const Workspace& workspace = program.workspace;
+  const PlanDialogState& dialog = program.planDialog;
+  Form4& form4 = *program.form4;
+  form4.Label6.Caption = std::to_string(dialog.ShownPlan) + "/" + std::to_string(workspace.PlanCount);
+  form4.Label1.Caption = workspace.PrimaryTable[dialog.ShownPrimary].Text;
+  form4.Label2.Caption = workspace.FinalTable[dialog.ShownFinal].Text;
+}
+
+void ShowGear(Program& program, int gear) {
+  const Workspace& workspace = program.workspace;
+  PlanDialogState& dialog = program.planDialog;
+  Form4& form4 = *program.form4;
+  dialog.ShownSpeed[gear] =
+      ToSingle(GearSpeed(workspace, dialog.ShownPrimary, dialog.ShownFinal, gear, dialog.ShownRow[gear]));
+  form4.Label11[gear].Caption = SingleText(workspace, workspace.SpeedRequest[gear]);
+  ShowSpeed(workspace, form4.Label24[gear], dialog.ShownSpeed[gear]);
+  if (gear >= 2) {
+    dialog.ShownStep[gear - 1] = dialog.ShownSpeed[gear] - dialog.ShownSpeed[gear - 1];
+    ShowStep(workspace, form4.Label39[gear - 1], dialog.ShownStep[gear - 1]);
+  }
+  form4.Label12[gear].Caption = workspace.GearTable(gear, dialog.ShownRow[gear]);
+  dialog.ShownSpeed[0] = dialog.ShownSpeed[1];
+  dialog.ShownDrop[gear] =
+      ToSingle(Divide(dialog.ShownSpeed[gear - 1], dialog.ShownSpeed[gear]) * workspace.ShiftNe);
+}
+
+/// The requests stand where the large chart has the baseline, at the shift revolutions like the plan.
+void DrawRays(Program& program) {
+  const Workspace& workspace = program.workspace;
+  Surface& surface = program.form4->Picture21.surface;
+  const auto ray = [&](int style, double speed, Colour colour) {
+    surface.drawStyle = style;
+    DrawRay(surface, workspace.MaxNe, speed, workspace.ShiftNe, colour);
+  };
+  for (int gear = 1; gear <= kGears; ++gear) {
+    ray(kPenSolid, program.planDialog.ShownSpeed[gear], workspace.GearColour[gear]);
+    ray(kPenDotted, workspace.SpeedRequest[gear], workspace.GearColour[gear]);
+  }
+}
+
+void DrawChart(Program& program) {
+  const Workspace& workspace = program.workspace;
+  const PlanDialogState& dialog = program.planDialog;
+  Surface& surface = program.form4->Picture21.surface;
+  surface.Clear();
+  DrawRays(program);
+  DrawMarkLine(surface, workspace.ShiftNe, workspace.MaxSpeed, kPenDashDot, PaletteColour(kWhiteNumber));
+  DrawMarkLine(surface, workspace.CheckNe, workspace.MaxSpeed, kPenDashDotDot, PaletteColour(kGreyNumber));
+  surface.drawStyle = kPenSolid;
+  const auto speed = [&](int gear) { return static_cast<double>(dialog.ShownSpeed[gear]); };
+  const auto drop = [&](int gear) { return static_cast<double>(dialog.ShownDrop[gear]); };
+  const SawTooth tooth{static_cast<double>(workspace.ShiftNe), static_cast<double>(workspace.MaxNe), speed,
+                       drop};
+  DrawSawTooth(surface, tooth, PaletteColour(kWhiteNumber));
+}
+
+/// Raises the faults of a plan text that is none, and those of speeds and requests that cannot be drawn.
+void ShowPlan(Program& program) {
+  SplitPlan(program.workspace, program.planDialog, program.planDialog.ShownPlan);
+  ShowRows(program);
+  for (int gear = 1; gear <= kGears; ++gear) ShowGear(program, gear);
+  DrawChart(program);
+}
+
+// ---- Opening ----
+
+void SetScale(Program& program) {
+  const Workspace& workspace = program.workspace;
+  Form4& form4 = *program.form4;
+  const float thousandNe = TwipsPerThousandNe(workspace);
+  const float twentyKmh = TwipsPerTwentyKmh(workspace);
+  PlaceTicks(form4, thousandNe, twentyKmh);
+  form4.Picture21.surface.SetScale(ChartUnits(workspace));
+  PlaceNumerals(form4, thousandNe, twentyKmh);
+}
+
+void Form4_Load(Program& program) {
+  const Workspace& workspace = program.workspace;
+  Form4& form4 = *program.form4;
+  program.planDialog = {};
+  if (workspace.Language == kJapanese && workspace.IsJapanese == 1) {
+    form4.Caption = "選出されたミッションプラン";
+    form4.Label3.FontName = "ＭＳ ゴシック";
+    form4.Label3.Caption = "選択";
+  }
+  SetScale(program);
+  for (int gear = 1; gear <= kGears; ++gear) {
+    form4.Label17[gear].ForeColor = workspace.GearColour[gear];
+    form4.Label24[gear].ForeColor = workspace.GearColour[gear];
+  }
+  if (workspace.PlanCount == 1) form4.Spin1.Enabled = false;
+  form4.Top = (program.machine.screen.Height() - kOuterHeight) / 2;
+  form4.Left = (program.machine.screen.Width() - kOuterWidth) / 2;
+  program.planDialog.ShownPlan = 1;
+  form4.Label8.Caption = SingleText(workspace, workspace.TyreLength);
+  form4.Label10.Caption = std::to_string(workspace.ShiftNe);
+  // A quick-ratio or reference search cannot be cancelled.
+  form4.Command2.Visible = workspace.ModeWord != mode::kReferenceInForce;
+  ShowPlan(program);
+}
+
+// ---- Paging: the one control of the program that wraps ----
+
+void Spin1_SpinDown(Program& program) {
+  std::int16_t& shown = program.planDialog.ShownPlan;
+  shown = shown > 1 ? static_cast<std::int16_t>(shown - 1) : program.workspace.PlanCount;
+  ShowPlan(program);
+}
+
+void Spin1_SpinUp(Program& program) {
+  std::int16_t& shown = program.planDialog.ShownPlan;
+  shown = shown < program.workspace.PlanCount ? static_cast<std::int16_t>(shown + 1) : std::int16_t{1};
+  ShowPlan(program);
+}
+
+// ---- The two answers ----
+
+void TakePlan(Program& program) {
+  Workspace& workspace = program.workspace;
+  const PlanDialogState& dialog = program.planDialog;
+  workspace.PrimaryIndex = dialog.ShownPrimary;
+  workspace.FinalIndex = dialog.ShownFinal;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    workspace.PlanIndex[gear] = dialog.ShownRow[gear];
+    workspace.SpeedNow[gear] = dialog.ShownSpeed[gear];
+  }
+}
+
+void ShowPlanPanels(Form2& form2) {
+  form2.Picture1.Visible = false;
+  form2.Picture4.Visible = false;
+  form2.Label23.Visible = false;
+  form2.Picture2.Visible = true;
+  form2.Picture3.Visible = true;
+  form2.Picture12.Visible = true;
+  form2.Picture12.BringToFront();
+  form2.Picture15.Visible = true;
+}
+
+void EnableSpin(SpinButton& spin) {
+  spin.Enabled = true;
+  spin.ForeColor = kBlack;
+}
+
+/// The chosen rows and pairs on the main window, without a refresh.
+void ShowChosenRows(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  workspace.CallerWord = caller::kModule1;
+  form2.Label6.Enabled = true;
+  form2.Label8.Enabled = true;
+  form2.HScroll1.Enabled = true;
+  form2.HScroll2.Enabled = true;
+  form2.Command11.Enabled = true;
+  form2.Label6.Caption = workspace.PrimaryTable[workspace.PrimaryIndex].Text;
+  form2.Label8.Caption = workspace.FinalTable[workspace.FinalIndex].Text;
+  form2.Label43.Caption = "CHG";
+  if (workspace.PrimaryCount >= 2) EnableSpin(form2.Spin4);
+  EnableSpin(form2.Spin5);
+  for (int gear = 1; gear <= kGears; ++gear) {
+    form2.Label12[gear].Caption = workspace.GearTable(gear, workspace.PlanIndex[gear]);
+  }
+  form2.Command11.Visible = true;
+  form2.f_rest.Enabled = true;
+}
+
+void EnableSaving(Form2& form2, bool enabled) {
+  form2.menu_save.Enabled = enabled;
+  form2.Command5.Enabled = enabled;
+  form2.menu_print.Enabled = enabled;
+  form2.menu_comb.Enabled = enabled;
+  form2.menu_edit.Enabled = enabled;
+  form2.Picture28.MousePointer = enabled ? kPointerDefault : kPointerNoDrop;
+}
+
+/// Kept: the arrows keep their colour.
+void SetGearsToAuto(Program& program) {
+  Form2& form2 = program.form2;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    form2.Command1[gear].Caption = kAuto;
+    form2.Label14[gear].Enabled = false;
+    form2.Label14[gear].Caption = "--";
+    form2.Label15[gear].Enabled = false;
+    form2.Label15[gear].Caption = "--";
+    form2.Spin1[gear].Enabled = false;
+    form2.Spin3[gear].Enabled = false;
+    program.workspace.ToleranceMinus[gear] = 1;
+    program.workspace.TolerancePlus[gear] = 1;
+  }
+}
+
+void Command1_Click(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  TakePlan(program);
+  ShowPlanPanels(form2);
+  ShowChosenRows(program);
+  workspace.CallerWord = caller::kForm4Ok;
+  RefreshDisplay(program);
+  workspace.CallerWord = caller::kUser;
+  form2.Show();
+  workspace.ResultWord = result::kNone;
+  if (workspace.ModeWord != mode::kReferenceInForce && !workspace.WorkFileStale)
+    form2.Command7.Enabled = true;
+  workspace.ModeWord = mode::kChange;
+  form2.Label38.Visible = false;
+  form2.f_calc.Enabled = false;
+  EnableSaving(form2, true);
+  ShowBaseline(program);
+  SetGearsToAuto(program);
+  form2.Picture28.Enabled = true;
+  form2.Picture28.MousePointer = kPointerDefault;
+  form2.menu_print.Enabled = true;
+  program.form4->UnloadWindow();
+}
+
+/// Kept: after an entry by revolutions the word is "SPEED" all the same, and what that entry hid stays
+/// hidden.
+void Command2_Click(Program& program) {
+  Form2& form2 = program.form2;
+  program.workspace.ModeWord = mode::kSpeed;
+  form2.f_calc.Enabled = true;
+  EnableSaving(form2, false);
+  if (AllGearsAuto(program)) form2.Picture1.Visible = true;
+  program.workspace.ResultWord = result::kNone;
+  program.form4->UnloadWindow();
+}
+
+/// By either button or by closing the window.
+/// Kept: a search that succeeded has emptied `ResultWord` already, so closing does not bring back `Picture1`.
+void Form4_Unload(Program& program) {
+  Form2& form2 = program.form2;
+  if (program.workspace.ResultWord == result::kFullAuto) form2.Picture1.Visible = true;
+  form2.Picture2.Visible = true;
+  form2.Picture3.Visible = true;
+  form2.Picture4.Visible = true;
+  form2.Label23.Visible = false;
+  form2.Show();
+}
+
+}  // namespace
+
+void SplitPlan(const Workspace& workspace, PlanDialogState& dialog, int plan) {
+  const std::string& text = workspace.PlanList[plan];
+  int at = 1;
+  const auto next = [&] {
+    const int comma = at <= Length(text) ? Find(text, ",", at) : 0;
+    const int end = comma == 0 ? Length(text) + 1 : comma;
+    const std::string field = Mid(text, at, end - at);
+    at = end + 1;
+    return ParseInt16(field, DecimalSeparator(workspace));
+  };
+  dialog.ShownPrimary = next();
+  dialog.ShownFinal = next();
+  for (int gear = 1; gear <= kGears; ++gear) dialog.ShownRow[gear] = next();
+}
+
+void AttachPlanDialog(Program& program) {
+  program.form4.attach = [&program](Form4& form4) {
+    On(program, form4.Load, Form4_Load);
+    On(program, form4.Unload, Form4_Unload);
+    On(program, form4.Spin1.SpinDown, Spin1_SpinDown);
+    On(program, form4.Spin1.SpinUp, Spin1_SpinUp);
+    On(program, form4.Command1.Click, Command1_Click);
+    On(program, form4.Command2.Click, Command2_Click);
+  };
+}
+
+}  // namespace veldrin

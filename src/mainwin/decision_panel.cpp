@@ -1,0 +1,168 @@
+#include "mainwin/decision_panel.h"
+
+#include "mainwin/gear_panel_state.h"
+#include "view/bind.h"
+#include "workspace/language.h"
+
+#include <string>
+
+namespace veldrin {
+
+namespace {
+
+/// The panel's questions by their messages.
+enum Question : int {
+  kSpeedsDiffer = 13,
+  kNoPlanFound = 14,
+  kQuitWithChanges = 15,
+  kLoadWithChanges = 16,
+  kHistoryLoadWithChanges = 17,
+  kNoQuestion = 0,
+};
+
+Question AskedQuestion(const Program& program) {
+  for (const Question question :
+       {kSpeedsDiffer, kNoPlanFound, kQuitWithChanges, kLoadWithChanges, kHistoryLoadWithChanges}) {
+    if (program.form2.Label17.Caption == Message(program.workspace, question)) return question;
+  }
+  return kNoQuestion;
+}
+
+void HidePanel(Program& program) {
+  program.form2.Picture20.Visible = false;
+}
+
+/// Takes up what the plan reader has put out of use until the answer. The panel's texts become those that a
+/// search without a plan needs.
+void EndSpeedsDiffer(Program& program) {
+  const Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  HidePanel(program);
+  form2.Label17.Caption = Message(workspace, kNoPlanFound);
+  form2.Command8.Caption = Message(workspace, 19);
+  form2.Command9.Caption = Message(workspace, 23);
+  EnableAll({&form2.Command11, &form2.Text2, &form2.Text3, &form2.Text4, &form2.Text6, &form2.HScroll1,
+             &form2.HScroll2});
+  for (int gear = 1; gear <= kGears; ++gear) EnableAll({&form2.Label12[gear], &form2.Spin6[gear]});
+}
+
+/// Saves first. The plan counts as clean when the chooser has returned.
+/// Kept: also when the user cancelled there.
+void SaveAndLoad(Program& program, const char* pendingAction) {
+  program.workspace.PendingAction = pendingAction;
+  program.form2.Command5.Click();
+  program.workspace.DataChanged = dirty::kNo;
+  HidePanel(program);
+}
+
+void OpenChooserOfMode(Program& program) {
+  const std::string& word = program.workspace.ModeWord;
+  if (word == mode::kReference) {
+    program.hooks.OpenReferenceChooser();
+  } else if (word == mode::kQuickRatio) {
+    program.hooks.OpenQuickRatioChooser();
+  } else if (word == mode::kData) {
+    program.hooks.OpenDataChooser();
+  } else if (word == mode::kList) {
+    program.hooks.OpenListChooser();
+  }
+}
+
+// ---- The left answer ----
+
+/// The file's speeds become requests for a new search.
+void RecalculateBySpeed(Program& program) {
+  Form2& form2 = program.form2;
+  EndSpeedsDiffer(program);
+  form2.Command2.MouseUp(kLeftButton);
+  form2.Command10.Click();
+  form2.Command6.Click();
+}
+
+void RecalculateByFullAuto(Program& program) {
+  Form2& form2 = program.form2;
+  HidePanel(program);
+  form2.Command1[0].Click();
+  form2.Command6.Click();
+}
+
+/// Kept: a save that was cancelled leaves the panel standing, and the next close goes through.
+void SaveAndQuit(Program& program) {
+  Workspace& workspace = program.workspace;
+  workspace.PendingAction = pending::kEnding;
+  program.form2.Timer3.Enabled = false;
+  program.form2.Command5.Click();
+  workspace.QuickQuit = kYesWord;
+}
+
+void Command8_Click(Program& program) {
+  switch (AskedQuestion(program)) {
+    case kSpeedsDiffer:
+      return RecalculateBySpeed(program);
+    case kNoPlanFound:
+      return RecalculateByFullAuto(program);
+    case kQuitWithChanges:
+      return SaveAndQuit(program);
+    case kLoadWithChanges:
+      return SaveAndLoad(program, pending::kChangeLoad);
+    case kHistoryLoadWithChanges:
+      return SaveAndLoad(program, pending::kChangeLoadHistory);
+    case kNoQuestion:
+      return;
+  }
+}
+
+// ---- The right answer ----
+
+void EnterRequestsAgain(Program& program) {
+  Form2& form2 = program.form2;
+  EnableAll({&form2.Command2, &form2.Command8, &form2.menu_file, &form2.menu_f, &form2.menu_opt});
+  HideAll({&form2.Picture20, &form2.Picture12});
+  ShowAll({&form2.Picture4, &form2.Picture3, &form2.Picture2});
+}
+
+void QuitWithoutSaving(Program& program) {
+  program.workspace.QuickQuit = kYesWord;
+  program.form2.Timer3.Enabled = false;
+  program.form2.UnloadWindow();
+}
+
+/// The changes are dropped before the chooser comes up, whose CANCEL may bring them back.
+void LoadWithoutSaving(Program& program) {
+  program.workspace.DataChanged = dirty::kNo;
+  HidePanel(program);
+  program.workspace.PendingAction = pending::kChangeLoad;
+  OpenChooserOfMode(program);
+}
+
+void LoadHistoryWithoutSaving(Program& program) {
+  program.workspace.DataChanged = dirty::kNo;
+  HidePanel(program);
+  program.form2.menu_files[program.workspace.PendingHistoryIndex].Click();
+}
+
+void Command9_Click(Program& program) {
+  switch (AskedQuestion(program)) {
+    case kSpeedsDiffer:
+      return EndSpeedsDiffer(program);
+    case kNoPlanFound:
+      return EnterRequestsAgain(program);
+    case kQuitWithChanges:
+      return QuitWithoutSaving(program);
+    case kLoadWithChanges:
+      return LoadWithoutSaving(program);
+    case kHistoryLoadWithChanges:
+      return LoadHistoryWithoutSaving(program);
+    case kNoQuestion:
+      return;
+  }
+}
+
+}  // namespace
+
+void AttachDecisionPanel(Program& program) {
+  On(program, program.form2.Command8.Click, Command8_Click);
+  On(program, program.form2.Command9.Click, Command9_Click);
+}
+
+}  // namespace veldrin

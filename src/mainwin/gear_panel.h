@@ -1,0 +1,18 @@
+// The gear input panel of the main window: its commands, and the binding of all its units.
+//
+//   gear_panel_modes     which panel stands where     gear_panel_boxes   running conditions and remark
+//   gear_panel_requests  speeds, tolerances           gear_panel_chart   the pointer on the chart
+//   gear_panel_steps     arrows of the plan           gear_panel_state   states set alike by several
+//   gear_panel_lists     lists to pick from           decision_panel     questions and their answers
+//
+// `CallerWord` tells the Change events who is writing; what it holds back stands at the top of each unit.
+#pragma once
+
+#include "workspace/program.h"
+
+namespace veldrin {
+
+/// Binds every event of the panel: its commands and the load menus here, the rest through its units.
+void AttachGearPanel(Program& program);
+
+}  // namespace veldrin

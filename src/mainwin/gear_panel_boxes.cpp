@@ -1,0 +1,176 @@
+#include "mainwin/gear_panel_boxes.h"
+
+#include "calc/gear_speed.h"
+#include "mainwin/gear_panel_state.h"
+#include "runtime/conversion.h"
+#include "view/bind.h"
+#include "workspace/decimal.h"
+#include "workspace/title.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+namespace veldrin {
+
+namespace {
+
+struct NumberRange {
+  double lowest;
+  double highest;
+};
+
+constexpr NumberRange kRevolutions{5000, 24000};  // rev/min
+constexpr NumberRange kTyreLength{1.0, 3.0};      // metres
+
+// ---- Scroll bars ----
+
+void RefreshForScroll(Program& program) {
+  program.workspace.CallerWord = caller::kScroll;
+  RefreshDisplay(program);
+  program.workspace.CallerWord = caller::kUser;
+}
+
+void HScroll1_Change(Program& program) {
+  Workspace& workspace = program.workspace;
+  const std::string& word = workspace.CallerWord;
+  if (word == caller::kInit || word == caller::kOriginal) return;
+  workspace.ShiftNe = ToInt16(program.form2.HScroll1.Value.get());
+  program.form2.Text4.Text = std::to_string(workspace.ShiftNe);
+  if (word == caller::kQuick || workspace.ModeWord == mode::kBasing) return;
+  RefreshForScroll(program);
+}
+
+void HScroll2_Change(Program& program) {
+  Workspace& workspace = program.workspace;
+  workspace.CheckNe = static_cast<float>(program.form2.HScroll2.Value.get());
+  program.form2.Text2.Text = SingleText(workspace, workspace.CheckNe);
+  if (workspace.CallerWord != caller::kInit) RefreshForScroll(program);
+}
+
+// ---- Boxes of the running conditions ----
+
+/// Whether a character sorts after "9". Signs, points and commas all sort before it.
+bool HasLetter(const std::string& text) {
+  return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c > '9'; });
+}
+
+/// The number of a text; nothing for one beyond all floats. Raises fault 13 for a text that is no number.
+std::optional<double> NumberOf(const Workspace& workspace, const std::string& text) {
+  double number = 0;
+  const int fault = Guarded([&] { number = ParseNumber(text, DecimalSeparator(workspace)); });
+  if (fault == kFaultOverflow) return std::nullopt;
+  if (fault != 0) Raise(fault);
+  return number;
+}
+
+/// The number of a box. One with letters or outside the range is refused by a beep and an emptied box.
+/// Kept: an empty box and a text that is no number end the program, and so does leaving a box that a refusal
+/// or a double click has emptied.
+std::optional<double> ValidNumber(Program& program, TextBox& box, const std::string& text,
+                                  const NumberRange& range) {
+  if (!HasLetter(text)) {
+    const std::optional<double> number = NumberOf(program.workspace, text);
+    if (number && *number >= range.lowest && *number <= range.highest) return number;
+  }
+  program.machine.sound.Beep();
+  box.Text = "";
+  return std::nullopt;
+}
+
+void ValidateCheckNe(Program& program) {
+  Form2& form2 = program.form2;
+  const auto number = ValidNumber(program, form2.Text2, form2.Text2.Text, kRevolutions);
+  if (!number) return;
+  const std::int16_t revolutions = ToInt16(*number);
+  program.workspace.CheckNe = revolutions;
+  form2.HScroll2.Value = revolutions;
+}
+
+void ValidateShiftNe(Program& program) {
+  Form2& form2 = program.form2;
+  const auto number = ValidNumber(program, form2.Text4, form2.Text4.Text, kRevolutions);
+  if (!number) return;
+  program.workspace.ShiftNe = ToInt16(*number);
+  form2.HScroll1.Value = program.workspace.ShiftNe;
+}
+
+/// Kept: every validation refreshes, so leaving the box counts as a change also where its number stayed.
+void ValidateTyreLength(Program& program) {
+  Workspace& workspace = program.workspace;
+  TextBox& box = program.form2.Text3;
+  const auto number = ValidNumber(program, box, FixDecimal(workspace, box.Text), kTyreLength);
+  if (!number) return;
+  workspace.TyreLength = ToSingle(*number);
+  workspace.CallerWord = caller::kUser;
+  box.Text = SingleText(workspace, workspace.TyreLength);
+  RefreshDisplay(program);
+}
+
+void Text2_DblClick(Program& program) {
+  program.form2.Text2.Text = "";
+}
+
+void Text2_KeyDown(Program& program, int key) {
+  if (key == kKeyEnter) ValidateCheckNe(program);
+}
+
+void Text3_DblClick(Program& program) {
+  program.form2.Text3.Text = "";
+}
+
+void Text3_KeyDown(Program& program, int key) {
+  if (key == kKeyEnter) ValidateTyreLength(program);
+}
+
+void Text4_DblClick(Program& program) {
+  program.form2.Text4.Text = "";
+}
+
+void Text4_KeyDown(Program& program, int key) {
+  if (key == kKeyEnter) ValidateShiftNe(program);
+}
+
+/// The chooser writes the box when it shows a quick-ratio or reference file: the search for its speeds
+/// begins.
+void Text3_Change(Program& program) {
+  Workspace& workspace = program.workspace;
+  if (workspace.CallerWord != caller::kQuick) return;
+  if (workspace.ModeWord != mode::kReferenceInForce) workspace.ModeWord = mode::kChange;
+  program.form2.f_calc.Enabled = false;
+  EnableOutput(program, true);
+  program.form2.Command2.MouseUp(kLeftButton);
+  program.form2.Command6.Click();
+}
+
+// ---- Remark ----
+
+void Text6_Change(Program& program) {
+  Workspace& workspace = program.workspace;
+  if (workspace.CallerWord == caller::kModule1 || workspace.RemarkChanged == dirty::kYes) return;
+  workspace.DataChanged = dirty::kYes;
+  workspace.RemarkChanged = dirty::kYes;
+  EnableAll({&program.form2.Command7, &program.form2.f_rest});
+  MarkTitle(program);
+}
+
+}  // namespace
+
+void AttachGearPanelBoxes(Program& program) {
+  Form2& form2 = program.form2;
+  On(program, form2.HScroll1.Change, HScroll1_Change);
+  On(program, form2.HScroll2.Change, HScroll2_Change);
+  On(program, form2.Text2.DblClick, Text2_DblClick);
+  On(program, form2.Text2.KeyDown, Text2_KeyDown);
+  On(program, form2.Text2.LostFocus, ValidateCheckNe);
+  On(program, form2.Text3.DblClick, Text3_DblClick);
+  On(program, form2.Text3.KeyDown, Text3_KeyDown);
+  On(program, form2.Text3.LostFocus, ValidateTyreLength);
+  On(program, form2.Text3.Change, Text3_Change);
+  On(program, form2.Text4.DblClick, Text4_DblClick);
+  On(program, form2.Text4.KeyDown, Text4_KeyDown);
+  On(program, form2.Text4.LostFocus, ValidateShiftNe);
+  On(program, form2.Text6.Change, Text6_Change);
+}
+
+}  // namespace veldrin

@@ -1,0 +1,55 @@
+#include "mainwin/gear_panel_chart.h"
+
+#include "calc/gear_chart.h"
+#include "view/bind.h"
+
+namespace veldrin {
+
+namespace {
+
+/// A forbidden pair of 3rd and 4th gear has no combination.
+void ToggleCombination(Program& program) {
+  if (program.form2.Label12[3].BackColor != kRed) program.form2.menu_comb.Click();
+}
+
+void Picture21_DblClick(Program& program) {
+  ToggleCombination(program);
+}
+
+void Picture21_MouseUp(Program& program, int button) {
+  if (button == kRightButton) ToggleCombination(program);
+}
+
+/// Any other pointer than the default tells that printing is not possible.
+void Picture28_MouseUp(Program& program, int button) {
+  Form2& form2 = program.form2;
+  if (form2.Picture28.MousePointer != kPointerDefault) return;
+  if (button == kLeftButton) form2.menu_print.Click();
+  if (button == kRightButton) form2.menu_font.Click();
+}
+
+void Picture9_DblClick(Program& program) {
+  program.form2.Picture9.Visible = false;
+}
+
+}  // namespace
+
+// "Request Mode" stands over the chart as long as requests are entered, also while the decision panel has put
+// another word in the place of the mode.
+void RedrawChart(Program& program) {
+  if (program.form2.Label38.Visible) {
+    ChartRequest(program);
+  } else if (program.workspace.SpeedNow[1] != 0) {
+    ChartPlan(program);
+  }
+}
+
+void AttachGearPanelChart(Program& program) {
+  Form2& form2 = program.form2;
+  On(program, form2.Picture21.DblClick, Picture21_DblClick);
+  On(program, form2.Picture21.MouseUp, Picture21_MouseUp);
+  On(program, form2.Picture28.MouseUp, Picture28_MouseUp);
+  On(program, form2.Picture9.DblClick, Picture9_DblClick);
+}
+
+}  // namespace veldrin

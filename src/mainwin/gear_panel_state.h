@@ -1,0 +1,27 @@
+// States of controls that several units of the gear panel set alike.
+#pragma once
+
+#include "workspace/program.h"
+
+#include <initializer_list>
+
+namespace veldrin {
+
+void ShowAll(std::initializer_list<Control*> controls);
+void HideAll(std::initializer_list<Control*> controls);
+void EnableAll(std::initializer_list<Control*> controls);
+void DisableAll(std::initializer_list<Control*> controls);
+
+/// Arrows that can be used are black, the others light grey.
+void EnableSpin(SpinButton& spin);
+void DisableSpin(SpinButton& spin);
+
+/// What takes a plan out of the main window: saving, printing, the combination and the picture export. The
+/// pointer over the printer tells whether printing is possible. Raises nothing.
+void EnableOutput(Program& program, bool enabled);
+
+/// The arrows of primary and final. A machine with a single primary row leaves nothing to step, so those of
+/// the primary stay as they are. Raises nothing.
+void EnableRowSpins(Program& program);
+
+}  // namespace veldrin

@@ -1,0 +1,216 @@
+#include "mainwin/main_window.h"
+
+#include "runtime/conversion.h"
+#include "runtime/text.h"
+#include "view/bind.h"
+#include "workspace/language.h"
+#include "workspace/paths.h"
+#include "workspace/settings.h"
+#include "workspace/working_files.h"
+
+#include <string>
+
+namespace veldrin {
+
+namespace {
+
+constexpr float kWidthAtStart = 9720;  // twips
+constexpr float kHeightAtStart = 7400;
+constexpr int kLastPictureSize = 5;
+
+// ---- Load ----
+
+/// The three texts of the decision panel: a question and its two answers.
+void SetQuestion(Program& program, int question, int first, int second) {
+  program.form2.Label17.Caption = Message(program.workspace, question);
+  program.form2.Command8.Caption = Message(program.workspace, first);
+  program.form2.Command9.Caption = Message(program.workspace, second);
+}
+
+void SetJapaneseFonts(Form2& form2) {
+  for (PlacedControl* control :
+       {static_cast<PlacedControl*>(&form2.Label17), static_cast<PlacedControl*>(&form2.Command8),
+        static_cast<PlacedControl*>(&form2.Command9), static_cast<PlacedControl*>(&form2.Label23),
+        static_cast<PlacedControl*>(&form2.Text6)}) {
+    control->FontName = "ＭＳ Ｐゴシック";
+  }
+  form2.Label17.FontSize = 8;
+  form2.Command8.FontSize = 8;
+  form2.Command9.FontSize = 8;
+}
+
+std::int16_t StoredPlace(const Program& program, const char* value) {
+  const std::string text = ReadSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value);
+  return ParseInt16(text, DecimalSeparator(program.workspace));
+}
+
+/// In the middle of the screen, and then where it last stood.
+/// Kept: before anything was stored that is the screen's left top corner, and the stored place is not held
+/// against the screen.
+void PlaceWindow(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  const Screen& screen = program.machine.screen;
+  form2.Height = kHeightAtStart;
+  form2.Width = kWidthAtStart;
+  form2.Top = (screen.Height() - form2.Height) / 2;
+  form2.Left = (screen.Width() - form2.Width) / 2;
+  Guarded([&] { workspace.LastTop = StoredPlace(program, "Last Top"); });
+  Guarded([&] { workspace.LastLeft = StoredPlace(program, "Last Left"); });
+  form2.Top = workspace.LastTop;
+  form2.Left = workspace.LastLeft;
+}
+
+void ColourGears(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    workspace.ToleranceMinus[gear] = 1;
+    workspace.TolerancePlus[gear] = 1;
+    for (auto* labels : {&form2.Label1, &form2.Label2, &form2.Label9, &form2.Label31, &form2.Label32,
+                         &form2.Label33, &form2.Label44}) {
+      (*labels)[gear].ForeColor = workspace.GearColour[gear];
+    }
+  }
+}
+
+/// The first picture size that a screen of this width in pixels has no room for.
+/// Kept: only the common widths are known, any other disables nothing.
+int FirstSizeTooLarge(double pixels) {
+  if (pixels >= 630 && pixels <= 650) return 3;
+  if (pixels >= 790 && pixels <= 810) return 4;
+  if (pixels >= 1014 && pixels <= 1034) return 5;
+  return kLastPictureSize + 1;
+}
+
+void DisableLargeSizes(Program& program) {
+  const double pixels = RoundHalfToEven(program.machine.screen.Width() / kTwipsPerPixel);
+  for (int size = FirstSizeTooLarge(pixels); size <= kLastPictureSize; ++size) {
+    program.form2.clip[size].Enabled = false;
+    program.form2.bmp[size].Enabled = false;
+  }
+}
+
+// ---- Closing ----
+
+void ShowSessionEndBox(Program& program) {
+  const bool japanese = program.workspace.IsJapanese == 1;
+  const std::string text = japanese ? "Windowsの終了処理を停止しました\r\n"
+                                      "「べるどりん君」終了後再度終了処理を実行して下さい"
+                                    : "Now Stopped Windows Shutdown Proccess\r\n"
+                                      "Please do Shutdown again after Mr.Veldrin finished !";
+  program.machine.boxes.Message(BoxIcon::Information, "", text, BoxButtons::Ok);
+}
+
+void Form2_Unload(Program& program) {
+  EndProgram(program);
+}
+
+// ---- Timers ----
+
+/// Lets the chooser come up again from outside its own OK.
+void Timer2_Timer(Program& program) {
+  program.form2.Timer2.Enabled = false;
+  program.form3.ShowModal();
+}
+
+void Timer3_Timer(Program& program) {
+  program.machine.windows.Flash(program.form2);
+}
+
+// ---- Menu ----
+
+void menu_del_Click(Program& program) {
+  program.hooks.OpenDeleteChooser();
+}
+
+/// Opens the data folder as it stood at start, not the present one.
+void menu_folder_Click(Program& program) {
+  const Files& files = program.machine.files;
+  const std::string& folder = program.workspace.InitialDataPath;
+  const std::string windows = program.machine.environment.Variable("WINDIR");
+  if (windows.empty()) {
+    program.machine.shell.OpenWithDesktop(folder);
+  } else if (files.FileExists(JoinPath(files.Rules(), windows, "EXPLORER.EXE"))) {
+    program.machine.shell.Run("explorer " + folder);
+  } else if (files.FileExists(JoinPath(files.Rules(), windows, "WINFILE.EXE"))) {
+    program.machine.shell.Run("winfile");
+  }
+}
+
+void menu_quit_Click(Program& program) {
+  program.form2.UnloadWindow();
+}
+
+/// Element 0 is the separator.
+void menu_his_clear_Click(Program& program, int index) {
+  if (index == 1) ClearHistory(program);
+}
+
+/// Kept: the entry has no work.
+void menu_font_Click(Program&) {}
+
+void menu_color_Click(Program& program) {
+  program.form9.Load().ShowModal();
+}
+
+void menu_about_Click(Program& program) {
+  program.form10.Load().ShowModal();
+}
+
+void menu_set_Click(Program& program) {
+  program.form2.Hide();
+  program.form7.Load().Show();
+}
+
+}  // namespace
+
+// Every statement of Load that can fail is guarded, here or in what it calls.
+void Form2_Load(Program& program) {
+  Workspace& workspace = program.workspace;
+  Guarded([&] { LoadLanguage(program); });
+  // After a first search without a plan these are what the panel still holds.
+  SetQuestion(program, 14, 19, 23);
+  if (CountryCode(program, 0) == kJapan) SetJapaneseFonts(program.form2);
+  if (!workspace.FirstInstance) program.form2.menu_opt.Visible = false;
+  Guarded([&] { program.hooks.BuildExtensionMenu(); });
+  workspace.CallerWord = caller::kForm2Load;
+  PlaceWindow(program);
+  workspace.CallerWord = caller::kUser;
+  workspace.HistoryCount = 0;
+  ColourGears(program);
+  DisableLargeSizes(program);
+}
+
+void Form2_QueryUnload(Program& program, int reason) {
+  const Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  if (workspace.QuickQuit == kYesWord || workspace.DataChanged != dirty::kYes) return;
+  form2.closeRefused = true;
+  form2.WindowState = static_cast<int>(WindowState::Normal);
+  form2.Timer3.Enabled = true;
+  if (reason == static_cast<int>(CloseReason::SessionEnd)) ShowSessionEndBox(program);
+  SetQuestion(program, 15, 20, 24);
+  form2.Picture20.Visible = true;
+  form2.Picture20.BringToFront();
+  SetFocus(form2.Command9);
+}
+
+void AttachMainWindow(Program& program) {
+  Form2& form2 = program.form2;
+  On(program, form2.Load, Form2_Load);
+  On(program, form2.QueryUnload, Form2_QueryUnload);
+  On(program, form2.Unload, Form2_Unload);
+  On(program, form2.Timer2.Timer, Timer2_Timer);
+  On(program, form2.Timer3.Timer, Timer3_Timer);
+  On(program, form2.menu_del.Click, menu_del_Click);
+  On(program, form2.menu_folder.Click, menu_folder_Click);
+  On(program, form2.menu_quit.Click, menu_quit_Click);
+  OnEach(program, form2.menu_his_clear, &Menu::Click, menu_his_clear_Click);
+  On(program, form2.menu_font.Click, menu_font_Click);
+  On(program, form2.menu_color.Click, menu_color_Click);
+  On(program, form2.menu_about.Click, menu_about_Click);
+  On(program, form2.menu_set.Click, menu_set_Click);
+}
+
+}  // namespace veldrin

@@ -1,0 +1,205 @@
+#include "script/script_queries.h"
+
+#include "runtime/fault.h"
+#include "script/printed_values.h"
+#include "script/script_error.h"
+#include "script/script_suggest.h"
+#include "script/variables.h"
+
+#include <algorithm>
+
+namespace veldrin {
+
+namespace {
+
+// Questions of one word beside windows and variables.
+
+Answer AskLog(ScriptSession& session) {
+  return LinesAnswer(session.machine.log.lines);
+}
+
+Answer AskBoxes(ScriptSession& session) {
+  return {ValueText(static_cast<int>(session.machine.boxes.shown.size())), {}};
+}
+
+Answer AskBeeps(ScriptSession& session) {
+  return {ValueText(session.machine.log.beeps), {}};
+}
+
+Answer AskFlashes(ScriptSession& session) {
+  return {ValueText(session.machine.log.flashes), {}};
+}
+
+Answer AskBlocked(ScriptSession& session) {
+  return {ValueText(session.blocked), {}};
+}
+
+Answer AskEnded(ScriptSession& session) {
+  if (!session.HasEnded()) return {"no", {}};
+  const int fault = session.Asked().endFault;
+  return {fault == 0 ? "end" : "fault " + std::to_string(fault), {}};
+}
+
+Answer AskResult(ScriptSession& session) {
+  return {session.result, {}};
+}
+
+struct PlainQuestion {
+  const char* name;
+  Answer (*ask)(ScriptSession& session);
+};
+
+constexpr PlainQuestion kPlainQuestions[] = {
+    {"log", AskLog},         {"boxes", AskBoxes}, {"beeps", AskBeeps},   {"flashes", AskFlashes},
+    {"blocked", AskBlocked}, {"ended", AskEnded}, {"Result", AskResult},
+};
+
+/// box(K).Icon, .Title, .Text and .Answer.
+Answer AskBox(ScriptSession& session, const ScriptName& name) {
+  struct Field {
+    const char* name;
+    std::string ShownBox::*text;
+  };
+  static constexpr Field kFields[] = {{"Icon", &ShownBox::icon},
+                                      {"Title", &ShownBox::title},
+                                      {"Text", &ShownBox::text},
+                                      {"Answer", &ShownBox::answer}};
+  if (name.size() == 2 && name[0].indices.size() == 1 && name[1].indices.empty()) {
+    const std::vector<ShownBox>& shown = session.machine.boxes.shown;
+    const auto place = static_cast<std::size_t>(name[0].indices[0]) - 1;  // 0 and below lie beyond the end
+    for (const Field& field : kFields) {
+      if (name[1].name == field.name) return {place < shown.size() ? shown[place].*field.text : kNone, {}};
+    }
+  }
+  throw ScriptError{NameText(name) + ": a box is asked as box(K).Icon, .Title, .Text or .Answer"};
+}
+
+/// Printer and Clipboard, in lines.
+Answer AskDevice(ScriptSession& session, const ScriptName& name) {
+  const bool isPrinter = name[0].name == "Printer";
+  SimulatedMachine& machine = session.machine;
+  if (name.size() == 2 && name[0].indices.empty()) {
+    const NamePart& slot = name[1];
+    if (isPrinter && slot.name == "Documents" && slot.indices.empty()) {
+      return {std::to_string(machine.printer.documents.size()), {}};
+    }
+    const bool subscripts = slot.indices.size() <= (slot.name == "Drawing" ? 1 : 0);
+    if (IsDrawingSlot(slot.name) && subscripts) {
+      if (isPrinter) return DrawingAnswer(DrawingLines(machine.printer.Drawing()), slot);
+      const auto& clipboard = machine.pictures.clipboard;
+      return DrawingAnswer(clipboard ? clipboard->Lines() : std::vector<std::string>(), slot);
+    }
+  }
+  throw ScriptError{NameText(name) + " is unknown - " + name[0].name + " has Drawing, Drawing(k)" +
+                    (isPrinter ? ", DrawingCount and Documents" : " and DrawingCount")};
+}
+
+Answer AskSlot(ScriptSession& session, const ScriptName& name) {
+  Program& program = session.Asked();
+  const std::string& window = name[0].name;
+  if (!name[0].indices.empty()) throw ScriptError{window + " has no subscripts"};
+  if (name.size() == 1) throw ScriptError{window + " is a window: one of its slots can be asked"};
+  if (name.size() > 3) throw ScriptError{NameText(name) + " has too many parts"};
+  Found found;
+  if (name.size() == 3) {
+    found = session.catalogue.FindControl(program, window, name[1]);
+  } else {
+    found = session.catalogue.FindWindow(program, window);
+    const bool isSlot = found.model->FindSlot(name[1].name) != nullptr;
+    if (!isSlot && session.catalogue.HasControl(program, window, name[1].name)) {
+      throw ScriptError{NameText(name) + " is a control: one of its slots can be asked"};
+    }
+  }
+  Answer answer = ReadSlot(found, name.back());
+  if (found.control != nullptr) {
+    const std::optional<std::string> shown = session.hand.Shown(*found.control, NameText(name.back()));
+    if (shown && *shown != answer.text) session.mismatches.push_back({NameText(name), answer.text, *shown});
+  }
+  return answer;
+}
+
+[[noreturn]] void FailUnknown(ScriptSession& session, const std::string& name) {
+  std::vector<std::string> known = VariableNames(session.Asked());
+  const std::vector<std::string>& windows = ScriptCatalogue::WindowNames();
+  known.insert(known.end(), windows.begin(), windows.end());
+  for (const PlainQuestion& question : kPlainQuestions) known.emplace_back(question.name);
+  for (const char* other : {"file", "files", "registry", "box", "Printer", "Clipboard"}) {
+    known.emplace_back(other);
+  }
+  throw ScriptError{"unknown name " + name + Suggestion(name, known)};
+}
+
+Answer AskName(ScriptSession& session, const ScriptName& name) {
+  const NamePart& first = name[0];
+  for (const PlainQuestion& question : kPlainQuestions) {
+    if (first.name == question.name && first.indices.empty() && name.size() == 1)
+      return question.ask(session);
+  }
+  if (first.name == "box") return AskBox(session, name);
+  if (first.name == "Printer" || first.name == "Clipboard") return AskDevice(session, name);
+  if (ScriptCatalogue::IsWindow(first.name)) return AskSlot(session, name);
+  if (!IsVariable(session.Asked(), first.name)) FailUnknown(session, first.name);
+  return {VariableText(FindVariable(session.Asked(), name)), {}};
+}
+
+// Questions of several words.
+
+Answer AskFile(ScriptSession& session, const std::vector<std::string>& arguments) {
+  return {session.machine.files.Text(arguments[0]).value_or(kNone), {}};
+}
+
+Answer AskFiles(ScriptSession& session, const std::vector<std::string>& arguments) {
+  std::string names;
+  for (const std::string& name : session.machine.files.Matches(arguments[0])) {
+    names += (names.empty() ? "" : ",") + name;
+  }
+  return {names, {}};
+}
+
+Answer AskRegistry(ScriptSession& session, const std::vector<std::string>& arguments) {
+  return {session.machine.registry.Read(RootOf(arguments[0]), arguments[1], arguments[2]).value_or(""), {}};
+}
+
+struct LongQuestion {
+  const char* name;
+  std::size_t arguments;
+  const char* usage;
+  Answer (*ask)(ScriptSession& session, const std::vector<std::string>& arguments);
+};
+
+constexpr LongQuestion kLongQuestions[] = {
+    {"file", 1, "file PATH", AskFile},
+    {"files", 1, "files PATTERN", AskFiles},
+    {"registry", 3, "registry ROOT KEY NAME", AskRegistry},
+};
+
+}  // namespace
+
+RegistryRoot RootOf(const std::string& word) {
+  if (word == "HKCU") return RegistryRoot::CurrentUser;
+  if (word == "HKCR") return RegistryRoot::ClassesRoot;
+  if (word == "HKLM") return RegistryRoot::LocalMachine;
+  throw ScriptError{"\"" + word + "\" is no root of the registry: HKCU, HKCR or HKLM"};
+}
+
+std::vector<Asked> Ask(ScriptSession& session, const std::vector<Word>& words, std::size_t& at) {
+  if (at >= words.size()) throw ScriptError{"a name is missing"};
+  const Word& word = words[at++];
+  for (const LongQuestion& question : kLongQuestions) {
+    if (word.text != question.name) continue;
+    std::vector<std::string> arguments;
+    std::string name = word.source;
+    for (; arguments.size() < question.arguments; ++at) {
+      if (at >= words.size()) throw ScriptError{"words are missing: " + std::string(question.usage)};
+      arguments.push_back(words[at].text);
+      name += " " + words[at].source;
+    }
+    return {{name, question.ask(session, arguments)}};
+  }
+  std::vector<Asked> all;
+  for (const ScriptName& name : ParseNames(word.text))
+    all.push_back({NameText(name), AskName(session, name)});
+  return all;
+}
+
+}  // namespace veldrin

@@ -1,0 +1,66 @@
+#include "script/script_session.h"
+
+#include "program/assemble.h"
+#include "program/event_boundary.h"
+#include "script/script_error.h"
+
+#include <utility>
+
+namespace veldrin {
+
+void ScriptSession::LetGo() {
+  if (!program_) return;
+  machine.windows.Forget();
+  hand.ProgramGone(*program_);
+  program_.reset();
+}
+
+void ScriptSession::MakeProgram() {
+  LetGo();
+  // What the windows' records write while they are made is no doing of the program.
+  std::ostream* const trace = std::exchange(machine.windows.trace, nullptr);
+  program_ = AssembleProgram(hand.MachineOf(machine));
+  machine.windows.trace = trace;
+}
+
+void ScriptSession::Start(const std::string& commandLine) {
+  if (started_ && !program_->ended)
+    throw ScriptError{"the program runs already; kill it or let it end first"};
+  MakeProgram();
+  started_ = true;
+  blocked = false;
+  hand.ProgramMade(*program_);
+  StartProgram(*program_, commandLine);
+}
+
+void ScriptSession::Kill() {
+  Program& program = Running();
+  program.ended = true;
+  machine.windows.Forget();
+}
+
+void ScriptSession::Advance(std::int64_t milliseconds) {
+  machine.clock.Advance(milliseconds,
+                        [this](TimerControl& timer) { RunEvent(*program_, [&] { timer.Timer(); }); });
+}
+
+Program& ScriptSession::Running() {
+  if (!started_) throw ScriptError{"the program has not been started"};
+  if (program_->ended) throw ScriptError{"the program has ended; only questions can follow, or start"};
+  return *program_;
+}
+
+Program& ScriptSession::Asked() {
+  if (!program_) MakeProgram();
+  return *program_;
+}
+
+void ScriptSession::Act(const std::function<bool(Program& program)>& action) {
+  Program& program = Running();
+  const std::int64_t number = ++actions_;
+  blocked = false;
+  const bool done = action(program);
+  if (number == actions_) blocked = !done;
+}
+
+}  // namespace veldrin

@@ -1,0 +1,93 @@
+#include "workspace/history_reopen.h"
+
+#include "runtime/text.h"
+#include "workspace/language.h"
+#include "workspace/machine_list.h"
+#include "workspace/paths.h"
+
+#include <string>
+
+namespace veldrin {
+
+namespace {
+
+/// The folder of a path as a file box takes it: a drive's root keeps its separator.
+std::string BoxFolder(const Files& files, const std::string& path) {
+  const PathRules rules = files.Rules();
+  if (path.find(rules.separator) == std::string::npos) return files.CurrentFolder();
+  const std::string folder = FolderOf(rules, path);
+  return Length(folder) <= rules.rootLength ? folder + rules.separator : folder;
+}
+
+/// The path of what is selected in the chooser.
+std::string SelectedPath(const Program& program) {
+  const PathRules rules = program.machine.files.Rules();
+  const FileBox& box = program.form3.File1;
+  return JoinPath(rules, TrimRoot(rules, box.Path), box.FileName);
+}
+
+/// Opens the entry without the chooser's OK; the file box follows where it can.
+void OpenBesideChooser(Program& program, const std::string& path) {
+  Workspace& workspace = program.workspace;
+  FileBox& box = program.form3.File1;
+  const Files& files = program.machine.files;
+  workspace.CallerWord = caller::kCloseOpen;
+  Guarded([&] { box.Path = BoxFolder(files, path); });
+  Guarded([&] { box.FileName = LastPartOf(files.Rules(), path); });
+  OpenAnyFile(program, path);
+  if (workspace.ResultWord == result::kNotGood) program.form3.ShowModal();
+  workspace.CallerWord = caller::kUser;
+}
+
+/// Moves the file box to the entry; the double click that this fires runs the chooser's OK.
+void OpenThroughChooser(Program& program, const std::string& path) {
+  FileBox& box = program.form3.File1;
+  const Files& files = program.machine.files;
+  box.Path = BoxFolder(files, path);
+  // An entry that is selected already would fire nothing.
+  box.FileName = "";
+  box.FileName = LastPartOf(files.Rules(), path);
+}
+
+void OpenEntry(Program& program, const std::string& path) {
+  Form3& form3 = program.form3;
+  const std::string& dataRole = Message(program.workspace, 2);
+  const bool inDataRole = form3.Caption == dataRole;
+  form3.Caption = dataRole;
+  if (inDataRole && SelectedPath(program) == path) {
+    OpenAnyFile(program, path);
+  } else if (!inDataRole && program.machine.files.FileExists(path)) {
+    OpenThroughChooser(program, path);
+  } else {
+    // A file that vanished cannot be selected; opening it anyway drops it from the history.
+    OpenBesideChooser(program, path);
+  }
+}
+
+void AskForChanges(Program& program, int index) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  form2.Label17.Caption = Message(workspace, 17);
+  form2.Command8.Caption = Message(workspace, 21);
+  form2.Command9.Caption = Message(workspace, 25);
+  form2.Picture20.Visible = true;
+  form2.Picture20.BringToFront();
+  SetFocus(form2.Command9);
+  workspace.PendingHistoryIndex = static_cast<std::int16_t>(index);
+}
+
+}  // namespace
+
+void ReopenFromHistory(Program& program, int index) {
+  Workspace& workspace = program.workspace;
+  if (program.form2.Label12[3].BackColor == kRed) workspace.DataChanged = dirty::kNo;
+  if (index < 1) return;
+  const std::string path = program.form2.menu_files[index].Caption;
+  if (workspace.DataChanged != dirty::kYes || workspace.QuickQuit == kYesWord) {
+    OpenEntry(program, path);
+  } else {
+    AskForChanges(program, index);
+  }
+}
+
+}  // namespace veldrin

@@ -1,0 +1,283 @@
+#include "view/user_input.h"
+
+#include "script/simulated_machine.h"
+#include "view/bind.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace veldrin {
+namespace {
+
+/// A window with one control of each kind that a gesture is for.
+struct Sample : Window {
+  explicit Sample(Desk& theDesk, const char* windowName = "Sample")
+      : Window(theDesk, windowName, {0, 0, 9000, 6000}, {}) {}
+
+  Picture Panel{"Panel", *this, {0, 0, 4000, 4000}};
+  Button First{"First", Panel, {0, 0, 900, 300}};
+  Button Second{"Second", *this, {0, 0, 900, 300}};
+  TextBox Box{"Box", *this, {0, 0, 900, 300}, {.caption = "ab"}};
+  Label Text{"Text", *this, {0, 0, 900, 300}};
+  OptionButton One{"One", *this, {0, 0, 900, 300}};
+  OptionButton Two{"Two", *this, {0, 0, 900, 300}};
+  SpinButton Arrows{"Arrows", *this, {0, 0, 900, 300}};
+  ScrollBar Bar{"Bar", *this, {0, 0, 900, 300}, {0, 100, 50, 1, 10}};
+  ComboBox Combo{"Combo", *this, {0, 0, 900, 300}, {}, {"x", "y"}};
+  ComboBox Fixed{"Fixed", *this, {0, 0, 900, 300}, {}, {"x", "y"}, false};
+  DriveBox Drives{"Drives", *this, {0, 0, 900, 300}};
+  FolderBox Folders{"Folders", *this, {0, 0, 900, 300}};
+  FileBox Names{"Names", *this, {0, 0, 900, 300}};
+  Grid Cells{"Cells", *this, {0, 0, 900, 300}};
+  Menu Entry{"Entry", *this, "Entry"};
+  Menu Inner{"Inner", Entry, "Inner"};
+};
+
+struct UserInput : ::testing::Test {
+  UserInput() {
+    machine.files.AddFile("C:\\VELDRIN\\A.RAT", "");
+    machine.files.AddFile("C:\\VELDRIN\\B.RAT", "");
+    window.Names.Refresh();
+    window.Show();
+    machine.windows.trace = &trace;
+  }
+
+  /// The events since the last time, without their window's name.
+  std::string Events() {
+    std::istringstream lines(trace.str());
+    std::string events;
+    for (std::string line; std::getline(lines, line);) {
+      const std::string head = "event Sample.";
+      if (line.rfind(head, 0) == 0) events += (events.empty() ? "" : " ") + line.substr(head.size());
+      if (line.rfind("event Sample", 0) != 0 && line.rfind("event ", 0) == 0) events += " " + line.substr(6);
+    }
+    trace.str("");
+    return events;
+  }
+
+  SimulatedMachine machine;
+  std::ostringstream trace;
+  Desk desk{machine.machine};
+  Sample window{desk};
+};
+
+TEST_F(UserInput, FirstControlHasTheFocusAtFirst) {
+  EXPECT_EQ(window.focus, &window.First);
+}
+
+TEST_F(UserInput, ClickMovesTheFocusFirst) {
+  EXPECT_TRUE(user::Click(window.Second));
+  EXPECT_EQ(Events(), "First.LostFocus Second.GotFocus Second.MouseDown Second.MouseUp Second.Click");
+  EXPECT_TRUE(user::Click(window.Second));
+  EXPECT_EQ(Events(), "Second.MouseDown Second.MouseUp Second.Click");
+}
+
+TEST_F(UserInput, RightButtonClicksNothing) {
+  int button = 0;
+  window.Second.MouseUp.Bind([&](int argument) { button = argument; });
+  EXPECT_TRUE(user::Click(window.Second, kRightButton));
+  EXPECT_EQ(Events(), "First.LostFocus Second.GotFocus Second.MouseDown Second.MouseUp");
+  EXPECT_EQ(button, kRightButton);
+  EXPECT_TRUE(user::Click(window.One, kRightButton));
+  EXPECT_FALSE(window.One.Value);
+}
+
+TEST_F(UserInput, LabelsAndPicturesLeaveTheFocus) {
+  EXPECT_TRUE(user::Click(window.Text));
+  EXPECT_EQ(Events(), "Text.MouseDown Text.MouseUp Text.Click");
+  EXPECT_TRUE(user::DoubleClick(window.Panel));
+  EXPECT_EQ(Events(), "Panel.MouseDown Panel.MouseUp Panel.Click Panel.DblClick");
+  EXPECT_EQ(window.focus, &window.First);
+}
+
+TEST_F(UserInput, MenuEntryKnowsClickAlone) {
+  EXPECT_TRUE(user::Click(window.Inner));
+  EXPECT_EQ(Events(), "Inner.Click");
+  window.Entry.Enabled = false;
+  EXPECT_FALSE(user::Click(window.Inner));
+}
+
+TEST_F(UserInput, OptionIsSetAndClicksOnce) {
+  EXPECT_TRUE(user::Click(window.One));
+  EXPECT_EQ(Events(), "First.LostFocus One.GotFocus One.MouseDown One.MouseUp One.Click");
+  EXPECT_TRUE(window.One.Value);
+  EXPECT_TRUE(user::Click(window.One));
+  EXPECT_EQ(Events(), "One.MouseDown One.MouseUp One.Click");
+  EXPECT_TRUE(user::Click(window.Two));
+  EXPECT_FALSE(window.One.Value);
+}
+
+TEST_F(UserInput, WhatCannotBeReachedStaysAsItIs) {
+  window.Panel.Enabled = false;
+  Events();
+  EXPECT_FALSE(user::Click(window.First));
+  window.Panel.Enabled = true;
+  window.Panel.Visible = false;
+  Events();
+  EXPECT_FALSE(user::Click(window.First));
+  window.Second.Enabled = false;
+  EXPECT_FALSE(user::Click(window.Second));
+  window.Hide();
+  Events();
+  EXPECT_FALSE(user::Click(window.Two));
+  EXPECT_FALSE(user::Resize(window, 100, 100));
+  EXPECT_EQ(Events(), "");
+}
+
+TEST_F(UserInput, ControlBehindAModalWindowCannotBeReached) {
+  Sample other(desk, "Other");
+  bool behind = true;
+  bool inFront = false;
+  machine.windows.modalLoop = [&](Window& modal) {
+    behind = user::Click(window.Second);
+    inFront = user::Click(other.Second);
+    modal.Hide();
+  };
+  other.ShowModal();
+  EXPECT_FALSE(behind);
+  EXPECT_TRUE(inFront);
+  EXPECT_TRUE(user::Click(window.Second));
+}
+
+TEST_F(UserInput, FocusHandlerThatDisablesTheControlEndsTheClick) {
+  window.First.LostFocus.Bind([&](int) { window.Second.Enabled = false; });
+  EXPECT_FALSE(user::Click(window.Second));
+  EXPECT_EQ(Events().find("Second.Click"), std::string::npos);
+}
+
+TEST_F(UserInput, WindowThatIsNotActiveBecomesItFirst) {
+  window.LoseActivity();
+  Events();
+  EXPECT_TRUE(user::Click(window.Text));
+  EXPECT_EQ(Events(), "Activate Text.MouseDown Text.MouseUp Text.Click");
+  EXPECT_TRUE(user::Deactivate(window));
+  EXPECT_TRUE(user::Activate(window));
+  EXPECT_TRUE(user::Activate(window));
+  EXPECT_EQ(Events(), "Deactivate Activate");
+}
+
+TEST_F(UserInput, KeyGoesToTheControlWithTheFocus) {
+  int key = 0;
+  window.Box.KeyDown.Bind([&](int argument) { key = argument; });
+  EXPECT_TRUE(user::PressKey(window.Box, kKeyEnter));
+  EXPECT_EQ(Events(), "First.LostFocus Box.GotFocus Box.KeyDown");
+  EXPECT_EQ(key, kKeyEnter);
+  EXPECT_EQ(window.Box.Text, "ab");
+  EXPECT_FALSE(user::PressKey(window.Text, kKeyEnter));
+}
+
+TEST_F(UserInput, EnteredTextIsOneChange) {
+  EXPECT_TRUE(user::EnterText(window.Box, "xyz"));
+  EXPECT_EQ(Events(), "First.LostFocus Box.GotFocus Box.Change");
+  EXPECT_TRUE(user::EnterText(window.Box, "xyz"));
+  EXPECT_EQ(Events(), "");
+  EXPECT_TRUE(user::EnterText(window.Combo, "free"));
+  EXPECT_EQ(window.Combo.Text, "free");
+  EXPECT_FALSE(user::EnterText(window.Fixed, "free"));
+}
+
+TEST_F(UserInput, TypedTextIsAChangeForEachCharacter) {
+  EXPECT_TRUE(user::TypeText(window.Box, "cぃ\r\n"));
+  EXPECT_EQ(Events(), "First.LostFocus Box.GotFocus Box.Change Box.Change Box.Change");
+  EXPECT_EQ(window.Box.Text, "abcぃ\r\n");
+}
+
+TEST_F(UserInput, TypingStopsWhereTheBoxGoesOutOfReach) {
+  window.Box.Change.Bind([&](int) { window.Box.Enabled = window.Box.Text.get().size() < 4; });
+  EXPECT_TRUE(user::TypeText(window.Box, "cdef"));
+  EXPECT_EQ(window.Box.Text, "abcd");
+}
+
+TEST_F(UserInput, PickedEntryClicks) {
+  EXPECT_TRUE(user::SelectEntry(window.Combo, "y"));
+  EXPECT_EQ(Events(), "First.LostFocus Combo.GotFocus Combo.Click");
+  EXPECT_EQ(window.Combo.Text, "y");
+  EXPECT_TRUE(user::SelectEntry(window.Combo, "Y"));
+  EXPECT_EQ(Events(), "Combo.Click");
+  EXPECT_FALSE(user::SelectEntry(window.Combo, "z"));
+  EXPECT_EQ(window.Combo.Text, "y");
+}
+
+TEST_F(UserInput, PickedFileClicksAndDoubleClicksOnlyWhenAsked) {
+  EXPECT_TRUE(user::SelectEntry(window.Names, "B.RAT"));
+  EXPECT_EQ(Events(), "First.LostFocus Names.GotFocus Names.Click");
+  EXPECT_EQ(window.Names.FileName, "B.RAT");
+  EXPECT_TRUE(user::DoubleClickEntry(window.Names, "A.RAT"));
+  EXPECT_EQ(Events(), "Names.Click Names.DblClick");
+  EXPECT_EQ(window.Names.FileName, "A.RAT");
+  EXPECT_FALSE(user::DoubleClickEntry(window.Names, "C.RAT"));
+}
+
+TEST_F(UserInput, DriveIsPickedByItsName) {
+  EXPECT_TRUE(user::SelectEntry(window.Drives, "D:"));
+  EXPECT_EQ(window.Drives.Drive, "D:");
+  EXPECT_EQ(Events(), "First.LostFocus Drives.GotFocus Drives.Change");
+}
+
+TEST_F(UserInput, FolderIsOpenedOrHighlighted) {
+  EXPECT_TRUE(user::HighlightFolder(window.Folders, "LIST"));
+  EXPECT_EQ(window.Folders.entries[static_cast<std::size_t>(window.Folders.ListIndex.get())],
+            "C:\\VELDRIN\\LIST");
+  EXPECT_TRUE(user::HighlightFolder(window.Folders, "C:\\VELDRIN\\DAT"));
+  EXPECT_EQ(window.Folders.ListIndex.get(), 0);
+  EXPECT_TRUE(user::HighlightFolder(window.Folders, "C:\\VELDRIN"));
+  EXPECT_EQ(window.Folders.ListIndex.get(), -1);
+  EXPECT_FALSE(user::HighlightFolder(window.Folders, "NONE"));
+  EXPECT_EQ(window.Folders.Path, "C:\\VELDRIN");
+  EXPECT_TRUE(user::OpenFolder(window.Folders, "C:\\VELDRIN\\LIST"));
+  EXPECT_EQ(window.Folders.Path, "C:\\VELDRIN\\LIST");
+  EXPECT_FALSE(user::OpenFolder(window.Folders, "C:\\NONE"));
+  EXPECT_EQ(window.Folders.Path, "C:\\VELDRIN\\LIST");
+}
+
+TEST_F(UserInput, CellIsPickedInsideOfTheGrid) {
+  window.Cells.Rows = 2;
+  window.Cells.Cols = 3;
+  EXPECT_TRUE(user::PickCell(window.Cells, 1, 2));
+  EXPECT_EQ(Events(), "First.LostFocus Cells.GotFocus Cells.Pick");
+  EXPECT_EQ(window.Cells.row, 1);
+  EXPECT_EQ(window.Cells.column, 2);
+  EXPECT_FALSE(user::PickCell(window.Cells, 2, 0));
+  EXPECT_FALSE(user::PickCell(window.Cells, 0, -1));
+}
+
+TEST_F(UserInput, SpinButtonsAndScrollBarsLeaveTheFocus) {
+  EXPECT_TRUE(user::Spin(window.Arrows, true));
+  EXPECT_TRUE(user::Spin(window.Arrows, false));
+  EXPECT_EQ(Events(), "Arrows.SpinUp Arrows.SpinDown");
+  EXPECT_TRUE(user::ScrollTo(window.Bar, 1000));
+  EXPECT_EQ(window.Bar.Value.get(), 100);
+  EXPECT_TRUE(user::ScrollTo(window.Bar, 100));
+  EXPECT_EQ(Events(), "Bar.Change");
+  EXPECT_EQ(window.focus, &window.First);
+}
+
+TEST_F(UserInput, WindowsAreSizedMovedAndPutAway) {
+  EXPECT_TRUE(user::Resize(window, 5000, 4000));
+  EXPECT_EQ(Events(), "Resize");
+  EXPECT_TRUE(user::Move(window, 10, 20));
+  EXPECT_EQ(window.Left.get(), 10);
+  EXPECT_EQ(window.Top.get(), 20);
+  EXPECT_TRUE(user::SetState(window, 1));
+  EXPECT_EQ(Events(), "Resize");
+}
+
+TEST_F(UserInput, CloseAsksAndMayBeRefused) {
+  int reason = -1;
+  window.QueryUnload.Bind([&](int argument) {
+    reason = argument;
+    window.closeRefused = argument == static_cast<int>(CloseReason::User);
+  });
+  EXPECT_TRUE(user::Close(window, CloseReason::User));
+  EXPECT_EQ(reason, static_cast<int>(CloseReason::User));
+  EXPECT_TRUE(window.loaded);
+  window.Hide();
+  EXPECT_FALSE(user::Close(window, CloseReason::User));
+  EXPECT_TRUE(user::Close(window, CloseReason::SessionEnd));
+  EXPECT_EQ(reason, static_cast<int>(CloseReason::SessionEnd));
+  EXPECT_FALSE(window.loaded);
+}
+
+}  // namespace
+}  // namespace veldrin
