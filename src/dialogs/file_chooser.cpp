@@ -1,17 +1,29 @@
 #include "dialogs/file_chooser.h"
 
 #include "calc/gear_chart.h"
+#include "dialogs/chooser_boxes.h"
+#include "dialogs/chooser_save.h"
+#include "dialogs/load_dispatch.h"
+#include "dialogs/reference_file.h"
+#include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/language.h"
+#include "workspace/list_tables.h"
 #include "workspace/machine_list.h"
 #include "workspace/paths.h"
+#include "workspace/working_files.h"
+
+#include <string>
 
 namespace veldrin {
 
 namespace {
 
-/// Loaded once, before the main window is shown: the running conditions go to their boxes, and the default
-/// machine is opened.
+constexpr int kMachineChangeMessage = 7;
+constexpr int kOverwriteMessage = 8;
+constexpr int kLongestNameToExtend = 8;
+
+/// The running conditions go to their boxes, and the default machine is opened.
 void Form3_Load(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
@@ -28,10 +40,157 @@ void Form3_Load(Program& program) {
   ChartScale(program);
 }
 
+void Form3_Activate(Program& program) {
+  program.form3.Dir1.Refresh();
+}
+
+void Form3_Deactivate(Program& program) {
+  program.form3.Command1.Caption = "O K";
+  program.form3.Hide();
+}
+
+std::string ChosenPath(const Program& program, const std::string& name) {
+  return JoinPath(program.machine.files.Rules(), program.workspace.TempDir, name);
+}
+
+/// The typed name, with the machine's extension where it has another one and is short.
+/// Kept: a long name without an extension is taken as typed.
+std::string NameToDelete(const Program& program) {
+  const std::string text = program.form3.Combo1.Text;
+  const std::string& key = program.workspace.MachineKey;
+  const std::string tail = LowerCase(Mid(text, Find(text, ".") + 1));
+  return tail != key && Length(text) <= kLongestNameToExtend ? text + "." + key : text;
+}
+
+void HideClearingEntry(Program& program) {
+  program.form2.menu_files[0].Visible = false;
+  program.form2.menu_his_clear[0].Visible = false;
+  program.form2.menu_his_clear[1].Visible = false;
+}
+
+/// The file system is asked for the name first, so a pattern deletes nothing.
+/// Kept: whatever came of it, the button reads "OK" afterwards, and nothing is reported.
+void DeleteFile(Program& program) {
+  const std::string name = NameToDelete(program);
+  const std::string path = ChosenPath(program, name);
+  const bool found = EqualsIgnoringCase(program.machine.files.FindFirst(path), name);
+  if (found && Guarded([&] { program.machine.files.Delete(path); }) == 0) {
+    if (RemoveFromHistory(program, path)) HideClearingEntry(program);
+    program.form3.Hide();
+    program.form2.Show();
+  }
+  program.form3.Command1.Caption = "OK";
+}
+
+void LoadList(Program& program) {
+  Workspace& workspace = program.workspace;
+  workspace.ListPath = workspace.TempDir;
+  workspace.CallerWord = caller::kForm3;
+  program.form3.Command1.Enabled = false;
+  SaveHistory(program);
+  ClearMachine(workspace);
+  OpenAnyFile(program, ChosenPath(program, program.form3.File1.FileName));
+  program.form2.Show();
+}
+
+/// A list file was picked for a plan, and the user has confirmed the change of machine: the file is still
+/// open, behind its tag.
+void ReadConfirmedList(Program& program) {
+  ClearMachine(program.workspace);
+  ReadMachineList(program);
+  program.form2.Text6.Text = "";
+  program.form3.Label4.Caption = "";
+  program.form3.Label4.Visible = false;
+}
+
+void LoadData(Program& program) {
+  Workspace& workspace = program.workspace;
+  const Label& prompt = program.form3.Label4;
+  workspace.DataPath = workspace.TempDir;
+  if (prompt.Visible && prompt.Caption == Message(workspace, kMachineChangeMessage)) {
+    ReadConfirmedList(program);
+    return;
+  }
+  workspace.CallerWord = caller::kForm3DataLoad;
+  OpenAnyFile(program, ChosenPath(program, program.form3.File1.FileName));
+}
+
+/// OK. The folder chosen is kept in the variable of the temporary folder, which who needs that reads anew.
+void Command1_Click(Program& program) {
+  program.workspace.TempDir = TrimRoot(program.machine.files.Rules(), program.form3.File1.Path);
+  switch (RoleOfChooser(program)) {
+    case ChooserRole::LoadList:
+      return LoadList(program);
+    case ChooserRole::LoadData:
+      return LoadData(program);
+    case ChooserRole::Save:
+      return SaveFromChooser(program);
+    case ChooserRole::Delete:
+      return DeleteFile(program);
+    case ChooserRole::QuickRatio:
+      return LoadQuickRatioFile(program);
+    case ChooserRole::Reference:
+      return LoadReferenceFile(program);
+    case ChooserRole::None:
+      if (program.form3.Label4.Visible) SaveFromChooser(program);
+  }
+}
+
+/// The user has backed out of "Save and Load" or "Not save. Load": the plan counts as unsaved again.
+void CancelPendingLoad(Program& program) {
+  Workspace& workspace = program.workspace;
+  const bool pendingLoad =
+      workspace.PendingAction == pending::kChangeLoad || workspace.PendingAction == pending::kChangeLoadHistory;
+  if (!pendingLoad) return;
+  workspace.DataChanged = dirty::kYes;
+  workspace.PendingAction = pending::kNone;
+}
+
+/// CANCEL.
+void Command2_Click(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form3& form3 = program.form3;
+  const ChooserRole role = RoleOfChooser(program);
+  if (role == ChooserRole::LoadData) {
+    form3.Label4.Visible = false;
+    program.files.Close(Handle::Reader);
+    form3.Command1.Enabled = false;
+  } else if (form3.Caption == "Save BMP File Select") {
+    // Kept: no command opens the chooser under this title today.
+    workspace.ResultWord = result::kCancel;
+  } else if (role != ChooserRole::LoadList && role != ChooserRole::Delete) {
+    if (form3.Label4.Visible && form3.Label4.Caption == Message(workspace, kOverwriteMessage)) {
+      form3.Label4.Caption = Message(workspace, kMachineChangeMessage);
+      form3.Label4.Visible = false;
+    }
+    form3.Command1.Enabled = false;
+  }
+  form3.Combo2.Visible = true;
+  form3.Combo1.Visible = true;
+  form3.File1.Visible = true;
+  form3.Label1.Visible = true;
+  CancelPendingLoad(program);
+  form3.Hide();
+  program.form2.Show();
+}
+
+/// QUIT.
+void Command3_Click(Program& program) {
+  Guarded([&] { program.machine.files.Delete(program.workspace.WorkFile); });
+  throw EndOfProgram{};
+}
+
 }  // namespace
 
 void AttachFileChooser(Program& program) {
-  On(program, program.form3.Load, Form3_Load);
+  Form3& form3 = program.form3;
+  On(program, form3.Load, Form3_Load);
+  On(program, form3.Activate, Form3_Activate);
+  On(program, form3.Deactivate, Form3_Deactivate);
+  On(program, form3.Command1.Click, Command1_Click);
+  On(program, form3.Command2.Click, Command2_Click);
+  On(program, form3.Command3.Click, Command3_Click);
+  AttachChooserBoxes(program);
 }
 
 }  // namespace veldrin

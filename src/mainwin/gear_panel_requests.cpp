@@ -102,14 +102,19 @@ void Command6_KeyDown(Program& program, int key) {
   if (key == kKeyUp) SetFocus(program.form2.Text1[1]);
 }
 
+void TakeBaselineAsRequest(Program& program, int gear) {
+  Workspace& workspace = program.workspace;
+  workspace.SpeedRequest[gear] = ToSingle(RoundHalfToEven(workspace.SpeedBaseline[gear]));
+  program.form2.Text1[gear].Text = SingleText(workspace, workspace.SpeedRequest[gear]);
+}
+
 /// The baseline becomes the request.
 void Command10_Click(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
   workspace.CallerWord = caller::kCopyRequests;
   for (int gear = 1; gear <= kGears; ++gear) {
-    workspace.SpeedRequest[gear] = ToSingle(RoundHalfToEven(workspace.SpeedBaseline[gear]));
-    form2.Text1[gear].Text = SingleText(workspace, workspace.SpeedRequest[gear]);
+    TakeBaselineAsRequest(program, gear);
     workspace.RequestNe[gear] = workspace.BaseNe[gear];
     form2.Label35[gear].Caption = form2.Label34[gear].Caption;
   }
@@ -231,6 +236,12 @@ void SpinButton2_SpinUp(Program& program, int gear) {
 }
 
 }  // namespace
+
+void CopyBaselineToRequests(Program& program) {
+  program.workspace.CallerWord = caller::kCopyRequests;
+  for (int gear = 1; gear <= kGears; ++gear) TakeBaselineAsRequest(program, gear);
+  program.workspace.CallerWord = caller::kUser;
+}
 
 void AttachGearPanelRequests(Program& program) {
   Form2& form2 = program.form2;

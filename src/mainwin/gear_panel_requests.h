@@ -8,6 +8,9 @@
 
 namespace veldrin {
 
+/// The baseline speeds, rounded half to even, become the requests and go to the boxes. Raises nothing.
+void CopyBaselineToRequests(Program& program);
+
 /// Binds `Text1`, `Command1`, `Option1`, `Spin1`, `Spin3`, `Command10`, the up arrow of `Command6`,
 /// `SpinButton1`, `SpinButton2` and `Label34`.
 void AttachGearPanelRequests(Program& program);

@@ -4,6 +4,7 @@
 #include "calc/gear_speed.h"
 #include "calc/plan_search.h"
 #include "dialogs/file_chooser.h"
+#include "dialogs/load_dispatch.h"
 #include "dialogs/plan_dialog.h"
 #include "mainwin/gear_panel.h"
 #include "mainwin/main_window.h"
@@ -23,6 +24,7 @@ std::unique_ptr<Program> AssembleProgram(Machine& machine) {
   AttachGearPanel(*program);
   AttachPlanDialog(*program);
   AttachFileChooser(*program);
+  AttachLoadDispatch(*program);
   return program;
 }
 

@@ -84,7 +84,7 @@ void SystemFolder(const CommandLine& line) {
   });
 }
 
-const std::vector<Command> kSystemEntries = {
+constexpr Command kSystemEntries[] = {
     {"iCountry", 1, 1, "N|none", SystemCountry},   {"sDecimal", 1, 1, "C|none", SystemDecimal},
     {"sThousand", 1, 1, "C|none", SystemThousand}, {"screen", 2, 2, "W H", SystemScreen},
     {"instances", 1, 1, "N", SystemInstances},     {"printers", 1, 1, "N", SystemPrinters},

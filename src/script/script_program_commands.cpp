@@ -93,7 +93,7 @@ void AnswerPrint(const CommandLine& line) {
   line.session.machine.boxes.printAnswers.push_back(choice);
 }
 
-const std::vector<Command> kAnswers = {
+constexpr Command kAnswers[] = {
     {"box", 1, 1, "OK|Cancel", AnswerBox},
     {"colour", 1, 1, "R,G,B|cancel", AnswerColour},
     {"print", 1, 2, "ok [COPIES]|cancel|error N", AnswerPrint},

@@ -34,8 +34,8 @@ void ScriptSession::Start(const std::string& commandLine) {
 }
 
 void ScriptSession::Kill() {
-  Program& program = Running();
-  program.ended = true;
+  if (!started_ || program_->ended) return;
+  program_->ended = true;
   machine.windows.Forget();
 }
 

@@ -46,7 +46,8 @@ class ScriptSession {
 
   /// Starts a fresh program on the machine as it is. Throws ScriptError while one runs.
   void Start(const std::string& commandLine);
-  /// The program is gone at once: no event, no unload. Its record stays for questions.
+  /// The program is gone at once: no event, no unload. Its record stays for questions. Where none runs,
+  /// nothing happens.
   void Kill();
   /// Lets the machine's clock run, with or without a program.
   void Advance(std::int64_t milliseconds);

@@ -189,16 +189,16 @@ class Finder {
     Subscripts(0);
     Element(value);
   }
-  template <class T, int First, int Last>
-  void Enter(Table<T, First, Last>& table) {
+  template <class T, int first, int last>
+  void Enter(Table<T, first, last>& table) {
     Subscripts(1);
-    Element(table[CheckedIndex(Part(), 0, First, Last)]);
+    Element(table[CheckedIndex(Part(), 0, first, last)]);
   }
-  template <class T, int Rows, int Columns>
-  void Enter(Grid2D<T, Rows, Columns>& table) {
+  template <class T, int rows, int columns>
+  void Enter(Grid2D<T, rows, columns>& table) {
     Subscripts(2);
-    const int row = CheckedIndex(Part(), 0, 1, Rows);
-    Element(table(row, CheckedIndex(Part(), 1, 1, Columns)));
+    const int row = CheckedIndex(Part(), 0, 1, rows);
+    Element(table(row, CheckedIndex(Part(), 1, 1, columns)));
   }
 
   template <class Value>

@@ -97,7 +97,7 @@ bool DoubleClick(Control& control) {
 
 bool DoubleClickEntry(FileBox& box, const std::string& entry) {
   if (!SelectEntry(box, entry)) return false;
-  if (Reachable(box)) box.DblClick();
+  DoubleClick(box);
   return true;
 }
 

@@ -29,7 +29,7 @@ bool Focus(Control& control);
 bool Click(Control& control, int button = kLeftButton);
 /// Click, then DblClick.
 bool DoubleClick(Control& control);
-/// A double click on an entry of a file box: the entry is picked first.
+/// Picks an entry of a file box, then double-clicks it: two Clicks, then DblClick.
 bool DoubleClickEntry(FileBox& box, const std::string& entry);
 
 /// The focus, then KeyDown and nothing that the key does by itself.

@@ -39,6 +39,8 @@ class FileHandles {
   /// Closes the handle; one that is not open is no error. Raises the file system's faults of a writing that
   /// cannot be finished; the handle is closed all the same.
   void Close(Handle handle);
+  /// Gives a writing up: the file stays as it was.
+  void Abandon(Handle handle) { open_.erase(handle); }
   bool IsOpen(Handle handle) const { return open_.count(handle) != 0; }
 
  private:

@@ -1,6 +1,5 @@
 #include "workspace/history_reopen.h"
 
-#include "runtime/text.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 #include "workspace/paths.h"
@@ -13,10 +12,8 @@ namespace {
 
 /// The folder of a path as a file box takes it: a drive's root keeps its separator.
 std::string BoxFolder(const Files& files, const std::string& path) {
-  const PathRules rules = files.Rules();
-  if (path.find(rules.separator) == std::string::npos) return files.CurrentFolder();
-  const std::string folder = FolderOf(rules, path);
-  return Length(folder) <= rules.rootLength ? folder + rules.separator : folder;
+  const std::string folder = ParentFolder(files.Rules(), path);
+  return folder.empty() ? files.CurrentFolder() : folder;
 }
 
 /// The path of what is selected in the chooser.

@@ -23,4 +23,13 @@ std::string LastPartOf(const PathRules& rules, const std::string& path) {
   return at == std::string::npos ? path : path.substr(at + 1);
 }
 
+bool IsRoot(const PathRules& rules, const std::string& folder) {
+  return Length(folder) == rules.rootLength + 1;
+}
+
+std::string ParentFolder(const PathRules& rules, const std::string& folder) {
+  const std::string parent = FolderOf(rules, folder);
+  return Length(parent) == rules.rootLength ? parent + rules.separator : parent;
+}
+
 }  // namespace veldrin

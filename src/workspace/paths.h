@@ -22,4 +22,10 @@ std::string FolderOf(const PathRules& rules, const std::string& path);
 /// folder's name.
 std::string LastPartOf(const PathRules& rules, const std::string& path);
 
+/// Whether a folder is a root, such as "C:\" or "/".
+bool IsRoot(const PathRules& rules, const std::string& folder);
+
+/// The folder around a folder that is no root; a root keeps its separator.
+std::string ParentFolder(const PathRules& rules, const std::string& folder);
+
 }  // namespace veldrin

@@ -24,10 +24,12 @@ int ChooseWorkFile(Program& program);
 
 /// Adds the stored entries of the loaded machine to the history menu, but for files that are gone. A stored
 /// count that is no number reads as the number it begins with, else as 0. Raises nothing.
+/// Kept: a stored history longer than `HistoryMax` is loaded whole.
 void LoadHistory(Program& program);
 
 /// Stores the history of the loaded machine and the main window's place. Failing writes go unnoticed, and a
 /// place that 16 bits do not hold is not taken. Raises nothing.
+/// Kept: values of entries beyond the stored count are left behind.
 void SaveHistory(Program& program);
 
 /// Makes `path` the newest entry; one that is there already, the case of letters aside, moves up. The oldest
@@ -36,7 +38,8 @@ void SaveHistory(Program& program);
 void AddToHistory(Program& program, const std::string& path);
 
 /// Takes the first entry that is exactly `path` out of the menu. True when that was the only one; then the
-/// separator above is hidden too, the clearing entry and its separator are not. Raises nothing.
+/// separator above is hidden too. Raises nothing.
+/// Kept: the clearing entry and its separator stay; the Delete role hides them by itself.
 bool RemoveFromHistory(Program& program, const std::string& path);
 
 /// Empties the history menu. The store keeps its values until the next SaveHistory. Raises nothing.

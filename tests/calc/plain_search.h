@@ -60,7 +60,8 @@ void Pass(Workspace& w, const Told& told, const Passes& passes) {
         Candidates candidates;
         for (int row = 1; row <= w.GearRows; ++row) {
           if (w.GearTable(gear, row) == "99") continue;
-          const double distance = GearSpeed(w, p, f, gear, row) - static_cast<double>(w.SpeedRequest[gear]);
+          const double distance =
+              plain::GearSpeed(w, p, f, gear, row) - static_cast<double>(w.SpeedRequest[gear]);
           if (passes(gear, distance)) {
             candidates.Add(static_cast<float>(std::fabs(distance)), row, bestRow[gear]);
           }

@@ -39,10 +39,10 @@ CodePages Pages(int systemPage, bool japanese) {
   return pages;
 }
 
-const char kPath[] = "C:\\DAT\\RAIN.nx4";
-const char kRain[] = "雨の日の設定です。\r\n";
+constexpr char kPath[] = "C:\\DAT\\RAIN.nx4";
+constexpr char kRain[] = "雨の日の設定です。\r\n";
 // The same in code page 932.
-const char kRainBytes[] = "\x89\x4A\x82\xCC\x93\xFA\x82\xCC\x90\xDD\x92\xE8\x82\xC5\x82\xB7\x81\x42\r\n";
+constexpr char kRainBytes[] = "\x89\x4A\x82\xCC\x93\xFA\x82\xCC\x90\xDD\x92\xE8\x82\xC5\x82\xB7\x81\x42\r\n";
 
 TEST(Utf8, IsToldFromOtherBytes) {
   struct Case {

@@ -91,6 +91,48 @@ TEST_F(Startup, LongPathsTakeTheNamesOnDisk) {
   }
 }
 
+/// The simulated disk under the rules of a system without drives.
+struct SlashFiles : SimulatedFiles {
+  PathRules Rules() const override { return {'/', 0}; }
+};
+
+TEST(StartupWithSlashes, LongPathsTakeTheNamesOnDisk) {
+  SimulatedMachine simulated;
+  SlashFiles files;
+  files.AddFile("/home/Rider/Plans/Wet Race.nx4", "");
+  Machine machine{files,
+                  simulated.registry,
+                  simulated.profile,
+                  simulated.environment,
+                  simulated.instances,
+                  simulated.screen,
+                  simulated.windows,
+                  simulated.boxes,
+                  simulated.metrics,
+                  simulated.printer,
+                  simulated.pictures,
+                  simulated.shell,
+                  simulated.sound,
+                  simulated.figures};
+  Program program{machine};
+  struct Case {
+    const char* text;
+    const char* path;
+  };
+  const Case cases[] = {
+      {"/HOME/rider/plans/wet race.NX4", "/home/Rider/Plans/Wet Race.nx4"},
+      {"/home/rider/dry.nx4", "/home/Rider/dry.nx4"},
+      {"/", "/"},
+      {"wet race.nx4", "wet race.nx4"},
+      {"", ""},
+  };
+  for (const Case& c : cases) EXPECT_EQ(LongCommandPath(program, c.text), c.path) << c.text;
+  simulated.environment.Set("TEMP", "/");
+  EXPECT_EQ(ChooseWorkFile(program), 1);
+  EXPECT_EQ(program.workspace.WorkFile, "/VELD000.TMP");
+  simulated.windows.Forget();
+}
+
 TEST_F(Startup, LoadPreparesTheWorkspace) {
   Start();
   EXPECT_TRUE(workspace.FirstInstance);

@@ -1,0 +1,109 @@
+#include "desktop/real_path.h"
+
+#include "runtime/fault.h"
+#include "runtime/text.h"
+
+#include <QFile>
+#include <system_error>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
+namespace veldrin {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// `name` as it stands in `folder`; as it came where nothing of the kind is there.
+fs::path Entry(const fs::path& folder, const fs::path& name) {
+#ifndef _WIN32
+  std::error_code failure;
+  if (fs::exists(fs::symlink_status(folder / name, failure))) return name;
+#endif
+  return ListedName(folder, name).value_or(name);
+}
+
+}  // namespace
+
+fs::path NativePath(const std::string& text) {
+  if (text.empty() || text.find('\0') != std::string::npos) Raise(kFaultBadFileName);
+#ifdef _WIN32
+  return QString::fromStdString(text).toStdWString();
+#else
+  return text;
+#endif
+}
+
+std::string PathText(const fs::path& path) {
+#ifdef _WIN32
+  return QString::fromStdWString(path.wstring()).toStdString();
+#else
+  return path.string();
+#endif
+}
+
+QString PathString(const fs::path& path) {
+#ifdef _WIN32
+  return QString::fromStdWString(path.generic_wstring());
+#else
+  return QFile::decodeName(path.c_str());
+#endif
+}
+
+fs::path PathOnDisk(const std::string& text) {
+  std::error_code failure;
+  const fs::path wanted = fs::absolute(NativePath(text), failure);
+  if (failure) Raise(kFaultBadFileName);
+  fs::path found = wanted.root_path();
+  for (const fs::path& part : wanted.relative_path()) {
+    if (part.empty() || part == ".") continue;
+    if (part == "..") {
+      found = found.parent_path();
+    } else {
+      found /= Entry(found, part);
+    }
+  }
+  return found;
+}
+
+#ifdef _WIN32
+
+std::optional<fs::path> ListedName(const fs::path& folder, const fs::path& name) {
+  // Wildcards would find something else.
+  if (name.wstring().find_first_of(L"*?") != std::wstring::npos) return std::nullopt;
+  WIN32_FIND_DATAW found;
+  const HANDLE search = FindFirstFileW((folder / name).c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return std::nullopt;
+  FindClose(search);
+  return fs::path(found.cFileName);
+}
+
+bool IsHidden(const fs::path& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES &&
+         (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+}
+
+#else
+
+std::optional<fs::path> ListedName(const fs::path& folder, const fs::path& name) {
+  const std::string wanted = LowerCase(name.string());
+  std::optional<fs::path> best;
+  std::error_code failure;
+  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
+    fs::path listed = entry->path().filename();
+    if (listed == name) return listed;
+    if (LowerCase(listed.string()) == wanted && (!best || listed < *best)) best = std::move(listed);
+  }
+  return best;
+}
+
+bool IsHidden(const fs::path& path) {
+  return path.filename().string().starts_with('.');
+}
+
+#endif
+
+}  // namespace veldrin

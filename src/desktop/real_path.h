@@ -1,0 +1,32 @@
+// Paths of the program, UTF-8 with the system's separators, as the system wants them, and back. Names are
+// found without regard to case, part by part, also where the system tells "plan" from "Plan"; the name as it
+// is written goes first.
+#pragma once
+
+#include <QString>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace veldrin {
+
+/// Raises fault 52 for the empty path and for one with a zero character in it.
+std::filesystem::path NativePath(const std::string& text);
+std::string PathText(const std::filesystem::path& path);
+/// For Qt's own files.
+QString PathString(const std::filesystem::path& path);
+
+/// The whole path, from the root on and without "." and "..", each part by its name on the disk. Parts that
+/// are not there stay as they are. Raises fault 52 as NativePath does.
+std::filesystem::path PathOnDisk(const std::string& text);
+
+/// The name by which the folder lists `name`, its case and a short form aside; nothing when it has no such
+/// entry or cannot be listed. Of several the one as written comes first, then the one that sorts first.
+std::optional<std::filesystem::path> ListedName(const std::filesystem::path& folder,
+                                                const std::filesystem::path& name);
+
+/// Whether lists leave the entry out: a hidden or system file on Windows, a name with a dot in front
+/// elsewhere.
+bool IsHidden(const std::filesystem::path& path);
+
+}  // namespace veldrin

@@ -1,0 +1,138 @@
+#include "dialogs/chooser_boxes.h"
+
+#include "dialogs/load_dispatch.h"
+#include "runtime/text.h"
+#include "view/bind.h"
+#include "workspace/language.h"
+#include "workspace/paths.h"
+
+#include <string>
+
+namespace veldrin {
+
+namespace {
+
+/// A drive that is not ready leaves the folder box where it is.
+void Drive1_Change(Program& program) {
+  Guarded([&] { program.form3.Dir1.Path = program.form3.Drive1.Drive; });
+}
+
+void Drive1_KeyDown(Program& program, int key) {
+  if (key == kKeyEnter) SetFocus(program.form3.Dir1);
+}
+
+void Dir1_Change(Program& program) {
+  Form3& form3 = program.form3;
+  form3.Label3.Caption = form3.Dir1.Path;
+  form3.File1.Path = form3.Dir1.Path;
+  form3.Command1.Enabled = false;
+}
+
+void OpenHighlightedFolder(FolderBox& box) {
+  if (box.ListIndex >= 0) box.Path = box.entries[static_cast<std::size_t>(box.ListIndex.get())];
+}
+
+/// One level up; from a root to the drive box.
+void LeaveFolder(Program& program) {
+  const PathRules rules = program.machine.files.Rules();
+  FolderBox& box = program.form3.Dir1;
+  if (IsRoot(rules, box.Path)) {
+    SetFocus(program.form3.Drive1);
+  } else {
+    box.Path = ParentFolder(rules, box.Path);
+  }
+}
+
+void Dir1_KeyDown(Program& program, int key) {
+  Form3& form3 = program.form3;
+  form3.Command1.Enabled = false;
+  if (key == kKeyEnter) {
+    OpenHighlightedFolder(form3.Dir1);
+  } else if (key == kKeyBackspace) {
+    LeaveFolder(program);
+  } else if (key == kKeyLeft) {
+    SetFocus(form3.File1);
+    if (!form3.File1.entries.empty()) form3.File1.ListIndex = 0;
+  }
+}
+
+void File1_Click(Program& program) {
+  program.form3.Command1.Enabled = true;
+  program.form3.Combo1.Text = program.form3.File1.FileName;
+}
+
+/// A name that code selects comes here too; the history rests on that, and holds it back by its word.
+void File1_DblClick(Program& program) {
+  if (RoleOfChooser(program) == ChooserRole::Delete) return;
+  if (program.workspace.CallerWord == caller::kCloseOpen) return;
+  program.form3.Command1.Click();
+}
+
+/// Back by one against the list's own movement, then over to the folders.
+void File1_KeyDown(Program& program, int key) {
+  if (key != kKeyRight) return;
+  Form3& form3 = program.form3;
+  if (form3.File1.ListIndex >= 1) form3.File1.ListIndex = form3.File1.ListIndex - 1;
+  form3.Combo1.Text = "";
+  form3.Command1.Enabled = false;
+  SetFocus(form3.Dir1);
+}
+
+void Combo1_Change(Program& program) {
+  Form3& form3 = program.form3;
+  if (RoleOfChooser(program) == ChooserRole::Save) form3.Command1.Enabled = true;
+  if (form3.Combo1.Text.get().empty()) form3.Command1.Enabled = false;
+  if (program.workspace.CallerWord != caller::kForm1Timer) form3.Label4.Visible = false;
+}
+
+/// Selects the typed name, if its extension is the machine's, and runs OK. Selecting an existing file runs OK
+/// already by the double click that it fires; the second run finds the work done. Only where the first one
+/// ended in the question whether to overwrite, the second would be the answer, and is left out.
+void Combo1_Enter(Program& program) {
+  Form3& form3 = program.form3;
+  const std::string text = form3.Combo1.Text;
+  const std::string& key = program.workspace.MachineKey;
+  const int dot = Find(text, ".");
+  if (dot != 0 && LowerCase(Mid(text, dot + 1, 3)) != key) {
+    form3.Combo1.Text = "";
+    return;
+  }
+  const bool askedBefore = form3.Label4.Visible;
+  Guarded([&] { form3.File1.FileName = dot == 0 ? text + "." + key : text; });
+  const bool asksNow = !askedBefore && form3.Label4.Visible &&
+                       form3.Label4.Caption == Message(program.workspace, 8) &&
+                       RoleOfChooser(program) == ChooserRole::Save;
+  if (!asksNow) Guarded([&] { form3.Command1.Click(); });
+}
+
+void Combo1_KeyDown(Program& program, int key) {
+  if (key == kKeyEnter) {
+    Combo1_Enter(program);
+  } else if (key == kKeyDown) {
+    SetFocus(program.form3.File1);
+  }
+}
+
+void Combo2_Click(Program& program) {
+  Form3& form3 = program.form3;
+  form3.Combo1.Text = form3.Combo2.Text;
+  form3.File1.Pattern = form3.Combo2.Text;
+}
+
+}  // namespace
+
+void AttachChooserBoxes(Program& program) {
+  Form3& form3 = program.form3;
+  On(program, form3.Drive1.Change, Drive1_Change);
+  On(program, form3.Drive1.KeyDown, Drive1_KeyDown);
+  On(program, form3.Dir1.Change, Dir1_Change);
+  On(program, form3.Dir1.KeyDown, Dir1_KeyDown);
+  On(program, form3.File1.Click, File1_Click);
+  On(program, form3.File1.DblClick, File1_DblClick);
+  On(program, form3.File1.KeyDown, File1_KeyDown);
+  On(program, form3.Combo1.Change, Combo1_Change);
+  On(program, form3.Combo1.KeyDown, Combo1_KeyDown);
+  On(program, form3.Combo2.Click, Combo2_Click);
+}
+
+}  // namespace veldrin

@@ -1,0 +1,172 @@
+#include "dialogs/chooser_save.h"
+
+#include "dialogs/load_dispatch.h"
+#include "runtime/text.h"
+#include "workspace/history_reopen.h"
+#include "workspace/language.h"
+#include "workspace/paths.h"
+#include "workspace/plan_file.h"
+#include "workspace/title.h"
+#include "workspace/working_files.h"
+
+#include <string>
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kUnknownKindMessage = 6;
+constexpr int kMachineChangeMessage = 7;
+constexpr int kOverwriteMessage = 8;
+constexpr int kReservedMessage = 9;
+
+void ShowPrompt(Program& program, int message) {
+  Label& prompt = program.form3.Label4;
+  prompt.Caption = Message(program.workspace, message);
+  prompt.BringToFront();
+  prompt.Visible = true;
+}
+
+/// The typed name, with the machine's extension behind it unless it has that.
+/// Kept: a name with another extension gets a second one.
+std::string NameToSave(const Program& program) {
+  const std::string text = program.form3.Combo1.Text;
+  const std::string extension = "." + program.workspace.MachineKey;
+  return LowerCase(Right(text, Length(extension))) == extension ? text : text + extension;
+}
+
+std::string TargetPath(const Program& program) {
+  return JoinPath(program.machine.files.Rules(), program.workspace.TempDir, program.workspace.SaveName);
+}
+
+/// The save would overwrite the file that waits to be loaded from the history.
+bool TargetIsReserved(const Program& program) {
+  const Workspace& workspace = program.workspace;
+  return workspace.PendingAction == pending::kChangeLoadHistory &&
+         program.form2.menu_files[workspace.PendingHistoryIndex].Caption == LowerCase(TargetPath(program));
+}
+
+void MakeProgramFolderCurrent(Program& program) {
+  Guarded([&] { program.machine.files.SetCurrentFolder(program.workspace.AppPath); });
+}
+
+/// Writes the plan. False when that failed: the prompt line tells it, the file stays as it was, and the plan
+/// counts as unsaved.
+bool WritePlan(Program& program) {
+  const int fault = Guarded([&] {
+    program.files.OpenOutput(Handle::Plan, TargetPath(program));
+    SavePlanFile(program);
+    AddToHistory(program, TargetPath(program));
+    RestorePlan(program);
+    program.files.Close(Handle::Plan);
+  });
+  if (fault == 0) return true;
+  program.files.Abandon(Handle::Plan);
+  program.workspace.DataChanged = dirty::kYes;
+  ShowPrompt(program, kUnknownKindMessage);
+  program.form3.Command1.Enabled = false;
+  return false;
+}
+
+void TitleSavedPlan(Program& program) {
+  program.form2.Caption = PlanTitle(program, program.workspace.SaveName);
+}
+
+void ReopenWaitingEntry(Program& program) {
+  program.form3.Hide();
+  ReopenFromHistory(program, program.workspace.PendingHistoryIndex);
+  program.form2.Show();
+}
+
+/// Runs the opener that a mode word names; it finds the chooser up and turns it into its role.
+void RunOpener(Program& program, const std::string& modeWord) {
+  if (modeWord == mode::kReference) {
+    OpenReferenceChooser(program);
+  } else if (modeWord == mode::kQuickRatio) {
+    OpenQuickRatioChooser(program);
+  } else if (modeWord == mode::kData) {
+    OpenDataChooser(program);
+  } else if (modeWord == mode::kList) {
+    OpenListChooser(program);
+  }
+}
+
+void LeaveChooser(Program& program) {
+  program.form3.Command1.Enabled = false;
+  program.form3.Hide();
+}
+
+/// What follows the save of a new file.
+void FinishNewFile(Program& program, const std::string& modeWord) {
+  const std::string& pendingAction = program.workspace.PendingAction;
+  if (pendingAction == pending::kEnding) throw EndOfProgram{};
+  if (pendingAction == pending::kChangeLoadHistory) return ReopenWaitingEntry(program);
+  if (pendingAction == pending::kChangeLoad) {
+    RunOpener(program, modeWord);
+    TitleSavedPlan(program);
+    return;
+  }
+  TitleSavedPlan(program);
+  MakeProgramFolderCurrent(program);
+  LeaveChooser(program);
+}
+
+/// What follows the save over an existing file.
+/// Kept: it differs from a new file's in three points: the title names the saved file also after an entry of
+/// the history was loaded, "LIST" runs no opener, and the chooser is hidden after the opener.
+void FinishOverwrittenFile(Program& program, const std::string& modeWord) {
+  const std::string pendingAction = program.workspace.PendingAction;
+  if (pendingAction == pending::kEnding) throw EndOfProgram{};
+  if (pendingAction == pending::kChangeLoad) {
+    if (modeWord != mode::kList) RunOpener(program, modeWord);
+    TitleSavedPlan(program);
+    program.form3.Hide();
+    return;
+  }
+  if (pendingAction == pending::kChangeLoadHistory) ReopenWaitingEntry(program);
+  TitleSavedPlan(program);
+  MakeProgramFolderCurrent(program);
+  program.form3.Label4.Caption = Message(program.workspace, kMachineChangeMessage);
+  program.form3.Label4.Visible = false;
+  LeaveChooser(program);
+}
+
+void FirstOk(Program& program) {
+  Workspace& workspace = program.workspace;
+  workspace.SaveName = NameToSave(program);
+  Guarded([&] { program.machine.files.SetCurrentFolder(program.form3.File1.Path); });
+  workspace.DataPath = workspace.TempDir;
+  if (TargetIsReserved(program)) {
+    ShowPrompt(program, kReservedMessage);
+    program.form3.Command1.Enabled = false;
+    return;
+  }
+  const std::string found = program.machine.files.FindFirst(workspace.SaveName);
+  if (LowerCase(found) == LowerCase(workspace.SaveName)) {
+    ShowPrompt(program, kOverwriteMessage);
+    MakeProgramFolderCurrent(program);
+    return;
+  }
+  // The plan's restore changes the word that the tail is to act on.
+  const std::string modeWord = workspace.ModeWord;
+  if (WritePlan(program)) FinishNewFile(program, modeWord);
+}
+
+/// The old file goes when the new one is complete and takes its place.
+void ConfirmingOk(Program& program) {
+  if (program.form3.Label4.Caption != Message(program.workspace, kOverwriteMessage)) return;
+  const std::string modeWord = program.workspace.ModeWord;
+  if (WritePlan(program)) FinishOverwrittenFile(program, modeWord);
+}
+
+}  // namespace
+
+void SaveFromChooser(Program& program) {
+  if (program.form3.Label4.Visible) {
+    ConfirmingOk(program);
+  } else {
+    FirstOk(program);
+  }
+}
+
+}  // namespace veldrin

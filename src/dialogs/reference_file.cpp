@@ -1,0 +1,179 @@
+#include "dialogs/reference_file.h"
+
+#include "calc/gear_chart.h"
+#include "mainwin/gear_panel_requests.h"
+#include "runtime/conversion.h"
+#include "runtime/text.h"
+#include "workspace/decimal.h"
+#include "workspace/paths.h"
+#include "workspace/title.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kNeAboveShift = 1000;  // rev/min
+constexpr int kHighestMaxSpeed = 340;  // km/h
+
+/// The file on its handle, or an empty one when it could not be opened: every read is then past the end.
+class OpenedReference {
+ public:
+  explicit OpenedReference(Program& program) : program_(program) {
+    const Workspace& workspace = program.workspace;
+    const std::string path =
+        JoinPath(program.machine.files.Rules(), workspace.TempDir, program.form3.File1.FileName);
+    opened_ = Guarded([&] { program.files.OpenInput(Handle::Reference, path); }) == 0;
+  }
+  OpenedReference(const OpenedReference&) = delete;
+  OpenedReference& operator=(const OpenedReference&) = delete;
+  ~OpenedReference() {
+    if (opened_) program_.files.Abandon(Handle::Reference);
+  }
+
+  TextReader& Reader() { return opened_ ? program_.files.Reader(Handle::Reference) : nothing_; }
+
+ private:
+  Program& program_;
+  bool opened_ = false;
+  TextReader nothing_{""};
+};
+
+void Append(Program& program, const std::string& text) {
+  program.form2.Text6.Text = program.form2.Text6.Text + text + std::string(kCrLf);
+}
+
+void ReadRemarkLine(Program& program, TextReader& reader) {
+  Guarded([&] { program.workspace.RemarkFirstLine = reader.Line(); });
+  Append(program, program.workspace.RemarkFirstLine);
+}
+
+/// Revolutions beyond the scale raise its end.
+/// Kept: unlike a plan's, they do not lay out the scale anew, so the scroll bar holds them at its old end.
+void FollowShiftNe(Program& program) {
+  Workspace& workspace = program.workspace;
+  if (workspace.MaxNe < workspace.ShiftNe) {
+    Guarded([&] { workspace.MaxNe = ToInt16(workspace.ShiftNe + kNeAboveShift); });
+  }
+  Guarded([&] { program.form2.HScroll1.Value = workspace.ShiftNe; });
+}
+
+/// A top speed beyond the scale raises its end to the next tens but one.
+void FollowTopSpeed(Workspace& workspace) {
+  const float top = workspace.SpeedBaseline[kGears];
+  if (top <= workspace.MaxSpeed) return;
+  const double tens = std::floor(static_cast<double>(top) / 10) * 10 + 20;
+  workspace.MaxSpeed = ToInt16(std::min<double>(tens, kHighestMaxSpeed));
+}
+
+void AppendRest(Program& program, TextReader& reader) {
+  std::string rest;
+  while (!reader.AtEnd()) rest += reader.Line() + std::string(kCrLf);
+  program.form2.Text6.Text = program.form2.Text6.Text + rest;
+}
+
+void PutInForce(Program& program) {
+  program.workspace.ModeWord = mode::kReferenceInForce;
+  program.form2.Label43.Caption = "REQ";
+  program.form2.Caption = PlanTitle(program, program.form3.File1.FileName.get());
+  program.form2.Text3.Text = "";
+}
+
+/// The running conditions go to their boxes; the tyre length's starts the search.
+void ShowConditions(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  workspace.CallerWord = caller::kQuick;
+  Guarded([&] { form2.Text2.Text = SingleText(workspace, workspace.CheckNe); });
+  Guarded([&] { form2.Text4.Text = std::to_string(workspace.ShiftNe); });
+  Guarded([&] { form2.Text3.Text = SingleText(workspace, workspace.TyreLength); });
+}
+
+void LeaveChooser(Program& program) {
+  program.workspace.CallerWord = caller::kUser;
+  program.form3.Command1.Enabled = false;
+  program.form3.Hide();
+}
+
+void ReadQuickRatioSpeed(Program& program, TextReader& reader, int gear, std::string& field) {
+  Workspace& workspace = program.workspace;
+  Guarded([&] { field = reader.Field(); });
+  Guarded([&] { workspace.SpeedBaseline[gear] = ParseSingle(field); });
+  Guarded([&] { workspace.SpeedRequest[gear] = ParseInt16(field); });
+  Append(program, field);
+}
+
+void ReadReferenceSpeed(Program& program, TextReader& reader, int gear, std::string& line) {
+  Workspace& workspace = program.workspace;
+  Guarded([&] { line = reader.Line(); });
+  workspace.SpeedRequest[gear] = 0;
+  Guarded([&] {
+    workspace.SpeedBaseline[gear] = ParseSingle(FixDecimal(workspace, line), DecimalSeparator(workspace));
+  });
+  Append(program, line);
+}
+
+}  // namespace
+
+void LoadQuickRatioFile(Program& program) {
+  Workspace& workspace = program.workspace;
+  workspace.DataPath = workspace.TempDir;
+  program.form2.Text6.Text = "";
+  {
+    OpenedReference file(program);
+    TextReader& reader = file.Reader();
+    ReadRemarkLine(program, reader);
+    Guarded([&] { workspace.TyreLength = reader.SingleField(); });
+    Append(program, SingleText(workspace, workspace.TyreLength));
+    Guarded([&] { workspace.ShiftNe = reader.Int16Field(); });
+    Append(program, std::to_string(workspace.ShiftNe));
+    FollowShiftNe(program);
+    std::string field;
+    for (int gear = 1; gear <= kGears; ++gear) ReadQuickRatioSpeed(program, reader, gear, field);
+    FollowTopSpeed(workspace);
+    AppendRest(program, reader);
+  }
+  PutInForce(program);
+  ShowConditions(program);
+  program.form2.Text6.Visible = true;
+  LeaveChooser(program);
+}
+
+void LoadReferenceFile(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  workspace.DataPath = workspace.TempDir;
+  workspace.RemarkChanged = dirty::kYes;
+  form2.Text6.Text = "";
+  const char separator = DecimalSeparator(workspace);
+  {
+    OpenedReference file(program);
+    TextReader& reader = file.Reader();
+    ReadRemarkLine(program, reader);
+    std::string line;
+    Guarded([&] { line = reader.Line(); });
+    Guarded([&] { workspace.TyreLength = ParseSingle(FixDecimal(workspace, line), separator); });
+    Append(program, SingleText(workspace, workspace.TyreLength));
+    Guarded([&] { line = reader.Line(); });
+    Guarded([&] { workspace.ShiftNe = ToInt16(ParseSingle(FixDecimal(workspace, line), separator)); });
+    FollowShiftNe(program);
+    workspace.ReferenceNe = workspace.ShiftNe;
+    Append(program, std::to_string(workspace.ShiftNe));
+    for (int gear = 1; gear <= kGears; ++gear) ReadReferenceSpeed(program, reader, gear, line);
+    FollowTopSpeed(workspace);
+    AppendRest(program, reader);
+  }
+  PutInForce(program);
+  CopyBaselineToRequests(program);
+  ShowConditions(program);
+  form2.Text6.Visible = true;
+  form2.Picture29.Visible = true;
+  form2.HScroll1.Visible = true;
+  form2.HScroll2.Visible = true;
+  LeaveChooser(program);
+}
+
+}  // namespace veldrin
