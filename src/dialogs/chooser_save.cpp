@@ -2,6 +2,7 @@
 
 #include "dialogs/load_dispatch.h"
 #include "runtime/text.h"
+#include "workspace/chooser_setup.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
 #include "workspace/paths.h"
@@ -19,13 +20,6 @@ constexpr int kUnknownKindMessage = 6;
 constexpr int kMachineChangeMessage = 7;
 constexpr int kOverwriteMessage = 8;
 constexpr int kReservedMessage = 9;
-
-void ShowPrompt(Program& program, int message) {
-  Label& prompt = program.form3.Label4;
-  prompt.Caption = Message(program.workspace, message);
-  prompt.BringToFront();
-  prompt.Visible = true;
-}
 
 /// The typed name, with the machine's extension behind it unless it has that.
 /// Kept: a name with another extension gets a second one.
@@ -63,7 +57,7 @@ bool WritePlan(Program& program) {
   if (fault == 0) return true;
   program.files.Abandon(Handle::Plan);
   program.workspace.DataChanged = dirty::kYes;
-  ShowPrompt(program, kUnknownKindMessage);
+  ShowChooserPrompt(program, kUnknownKindMessage);
   program.form3.Command1.Enabled = false;
   return false;
 }
@@ -137,13 +131,13 @@ void FirstOk(Program& program) {
   Guarded([&] { program.machine.files.SetCurrentFolder(program.form3.File1.Path); });
   workspace.DataPath = workspace.TempDir;
   if (TargetIsReserved(program)) {
-    ShowPrompt(program, kReservedMessage);
+    ShowChooserPrompt(program, kReservedMessage);
     program.form3.Command1.Enabled = false;
     return;
   }
   const std::string found = program.machine.files.FindFirst(workspace.SaveName);
   if (LowerCase(found) == LowerCase(workspace.SaveName)) {
-    ShowPrompt(program, kOverwriteMessage);
+    ShowChooserPrompt(program, kOverwriteMessage);
     MakeProgramFolderCurrent(program);
     return;
   }

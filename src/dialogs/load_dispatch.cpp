@@ -1,52 +1,14 @@
 #include "dialogs/load_dispatch.h"
 
+#include "workspace/chooser_setup.h"
 #include "workspace/language.h"
-
-#include <string>
-#include <vector>
 
 namespace veldrin {
 
 namespace {
 
-constexpr char kListPattern[] = "*.RAT";
-constexpr char kAnyPattern[] = "*.*";
-
-std::string DataPattern(const Program& program) {
-  return "*." + program.workspace.MachineKey;
-}
-
 void SetTitle(Program& program, ChooserRole role) {
   program.form3.Caption = Message(program.workspace, static_cast<int>(role));
-}
-
-/// Fills the filter list and the name field and points the boxes at the folder. The pattern goes over "*.*",
-/// so that the list is rebuilt even where it is the same as before. A folder that cannot be had leaves the
-/// boxes where they are.
-void SetUpBoxes(Program& program, const std::vector<std::string>& patterns, const std::string& folder) {
-  Form3& form3 = program.form3;
-  form3.Combo2.Clear();
-  for (const std::string& pattern : patterns) form3.Combo2.AddItem(pattern);
-  form3.Combo2.Text = patterns.back();
-  form3.Combo1.Text = patterns.back();
-  form3.Command1.Enabled = false;
-  Guarded([&] { form3.Drive1.Drive = folder; });
-  Guarded([&] { form3.Dir1.Path = folder; });
-  Guarded([&] { form3.File1.Path = folder; });
-  form3.File1.Pattern = kAnyPattern;
-  form3.File1.Pattern = patterns.back();
-}
-
-void OfferCancel(Program& program) {
-  program.form3.Command2.Caption = "CANCEL";
-  program.form3.Command2.Enabled = true;
-}
-
-void ShowPrompt(Program& program, int message) {
-  Label& prompt = program.form3.Label4;
-  prompt.Caption = Message(program.workspace, message);
-  prompt.BringToFront();
-  prompt.Visible = true;
 }
 
 bool MustAsk(const Program& program) {
@@ -83,7 +45,7 @@ ChooserRole RoleOfChooser(const Program& program) {
 void OpenListChooser(Program& program) {
   if (MustAsk(program)) return Ask(program, mode::kList);
   SetTitle(program, ChooserRole::LoadList);
-  SetUpBoxes(program, {kListPattern}, program.workspace.ListPath);
+  SetUpChooserBoxes(program, {kListPattern}, program.workspace.ListPath);
   OfferCancel(program);
   program.form3.ShowModal();
 }
@@ -91,7 +53,7 @@ void OpenListChooser(Program& program) {
 void OpenDataChooser(Program& program) {
   if (MustAsk(program)) return Ask(program, mode::kData);
   SetTitle(program, ChooserRole::LoadData);
-  SetUpBoxes(program, {kListPattern, DataPattern(program)}, program.workspace.DataPath);
+  SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);
   OfferCancel(program);
   program.form3.Command3.Visible = false;
   program.form3.ShowModal();
@@ -100,31 +62,31 @@ void OpenDataChooser(Program& program) {
 void OpenQuickRatioChooser(Program& program) {
   if (MustAsk(program)) return Ask(program, mode::kQuickRatio);
   SetTitle(program, ChooserRole::QuickRatio);
-  SetUpBoxes(program, {kAnyPattern}, program.workspace.DataPath);
-  ShowPrompt(program, 10);
+  SetUpChooserBoxes(program, {kAnyPattern}, program.workspace.DataPath);
+  ShowChooserPrompt(program, 10);
   program.form3.ShowModal();
 }
 
 void OpenReferenceChooser(Program& program) {
   if (MustAsk(program)) return Ask(program, mode::kReference);
   SetTitle(program, ChooserRole::Reference);
-  SetUpBoxes(program, {kAnyPattern}, program.workspace.DataPath);
+  SetUpChooserBoxes(program, {kAnyPattern}, program.workspace.DataPath);
   OfferCancel(program);
   program.form3.Command3.Visible = false;
-  ShowPrompt(program, 28);
+  ShowChooserPrompt(program, 28);
   program.form3.ShowModal();
 }
 
 void OpenSaveChooser(Program& program) {
   SetTitle(program, ChooserRole::Save);
-  SetUpBoxes(program, {kListPattern, DataPattern(program)}, program.workspace.DataPath);
+  SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);
   OfferCancel(program);
   program.form3.ShowModal();
 }
 
 void OpenDeleteChooser(Program& program) {
   SetTitle(program, ChooserRole::Delete);
-  SetUpBoxes(program, {DataPattern(program)}, program.workspace.DataPath);
+  SetUpChooserBoxes(program, {DataPattern(program.workspace)}, program.workspace.DataPath);
   program.form3.Command2.Caption = "CANCEL";
   program.form3.Command1.Caption = "Delete";
   program.form3.ShowModal();

@@ -107,6 +107,12 @@ void ValidateTyreLength(Program& program) {
   RefreshDisplay(program);
 }
 
+/// A reader that hides the panel takes the focus away as well; that is no leaving of the box.
+template <void (*validate)(Program&)>
+void Box_LostFocus(Program& program) {
+  if (program.workspace.CallerWord != caller::kModule1) validate(program);
+}
+
 void Text2_DblClick(Program& program) {
   program.form2.Text2.Text = "";
 }
@@ -162,14 +168,14 @@ void AttachGearPanelBoxes(Program& program) {
   On(program, form2.HScroll2.Change, HScroll2_Change);
   On(program, form2.Text2.DblClick, Text2_DblClick);
   On(program, form2.Text2.KeyDown, Text2_KeyDown);
-  On(program, form2.Text2.LostFocus, ValidateCheckNe);
+  On(program, form2.Text2.LostFocus, Box_LostFocus<ValidateCheckNe>);
   On(program, form2.Text3.DblClick, Text3_DblClick);
   On(program, form2.Text3.KeyDown, Text3_KeyDown);
-  On(program, form2.Text3.LostFocus, ValidateTyreLength);
+  On(program, form2.Text3.LostFocus, Box_LostFocus<ValidateTyreLength>);
   On(program, form2.Text3.Change, Text3_Change);
   On(program, form2.Text4.DblClick, Text4_DblClick);
   On(program, form2.Text4.KeyDown, Text4_KeyDown);
-  On(program, form2.Text4.LostFocus, ValidateShiftNe);
+  On(program, form2.Text4.LostFocus, Box_LostFocus<ValidateShiftNe>);
   On(program, form2.Text6.Change, Text6_Change);
 }
 

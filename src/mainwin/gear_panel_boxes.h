@@ -8,6 +8,8 @@
 //
 //   HScroll1  "INIT" and "ORIGINAL": nothing; "QUICK" and without a plan: no refresh
 //   HScroll2  "INIT": no refresh
+//   Text6     "MODULE1": the remark does not count as changed
+//   the rest  "MODULE1": a box that loses the focus to a reader is not validated
 #pragma once
 
 #include "workspace/program.h"

@@ -93,7 +93,9 @@ void Text1_KeyDown(Program& program, int gear, int key) {
   ChartRequest(program);
 }
 
+/// A reader that hides the panel takes the focus away as well; that is no leaving of the box.
 void Text1_LostFocus(Program& program, int gear) {
+  if (program.workspace.CallerWord == caller::kModule1) return;
   HoldAtFloor(program, program.form2.Text1[gear]);
   if (program.workspace.ModeWord == mode::kSpeed) ChartRequest(program);
 }

@@ -25,16 +25,16 @@ int Row(const std::string& word) {
       WholeNumber(word, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max()));
 }
 
-std::string CallFixDecimal(ScriptSession& session, const Arguments& arguments) {
-  return FixDecimal(session.Running().workspace, arguments[0]);
+std::string CallFixDecimal(ScriptWorld& world, const Arguments& arguments) {
+  return FixDecimal(world.Running().workspace, arguments[0]);
 }
 
 /// Gives the caption as it reads afterwards.
-std::string CallAlignCaption(ScriptSession& session, const Arguments& arguments) {
+std::string CallAlignCaption(ScriptWorld& world, const Arguments& arguments) {
   const int column = Row(arguments[0]);
   const ScriptName name = ParseName(arguments[1]);
   if (name.size() != 2) throw ScriptError{arguments[1] + " is no label"};
-  const Found found = session.catalogue.FindControl(session.Running(), name[0].name, name[1]);
+  const Found found = world.catalogue.FindControl(world.Running(), name[0].name, name[1]);
   if (found.model->kind != ControlKind::Label) throw ScriptError{arguments[1] + " is no label"};
   if (found.control == nullptr) throw ScriptError{arguments[1] + " is not there now"};
   auto& label = static_cast<Label&>(*found.control);
@@ -42,20 +42,20 @@ std::string CallAlignCaption(ScriptSession& session, const Arguments& arguments)
   return label.Caption;
 }
 
-std::string CallGearSpeed(ScriptSession& session, const Arguments& arguments) {
-  return ValueText(GearSpeed(session.Running().workspace, Row(arguments[0]), Row(arguments[1]),
+std::string CallGearSpeed(ScriptWorld& world, const Arguments& arguments) {
+  return ValueText(GearSpeed(world.Running().workspace, Row(arguments[0]), Row(arguments[1]),
                              Row(arguments[2]), Row(arguments[3])));
 }
 
 /// An operation of the program alone.
 template <void (*operation)(Program&)>
-std::string Plain(ScriptSession& session, const Arguments& /*arguments*/) {
-  operation(session.Running());
+std::string Plain(ScriptWorld& world, const Arguments& /*arguments*/) {
+  operation(world.Running());
   return "";
 }
 
-std::string CallAddToHistory(ScriptSession& session, const Arguments& arguments) {
-  AddToHistory(session.Running(), arguments[0]);
+std::string CallAddToHistory(ScriptWorld& world, const Arguments& arguments) {
+  AddToHistory(world.Running(), arguments[0]);
   return "";
 }
 
@@ -63,7 +63,7 @@ struct Operation {
   const char* name;
   std::size_t arguments;
   const char* usage;
-  std::string (*run)(ScriptSession& session, const Arguments& arguments);
+  std::string (*run)(ScriptWorld& world, const Arguments& arguments);
 };
 
 // clang-format off
@@ -91,14 +91,13 @@ const Operation& Find(const std::string& name) {
 
 }  // namespace
 
-void CallOperation(ScriptSession& session, const std::string& name,
-                   const std::vector<std::string>& arguments) {
+void CallOperation(ScriptWorld& world, const std::string& name, const std::vector<std::string>& arguments) {
   const Operation& operation = Find(name);
   if (arguments.size() != operation.arguments) {
     throw ScriptError{"wrong number of words: call " + name + " " + operation.usage};
   }
-  session.result = "";
-  RunEvent(session.Running(), [&] { session.result = operation.run(session, arguments); });
+  world.result = "";
+  RunEvent(world.Running(), [&] { world.result = operation.run(world, arguments); });
 }
 
 }  // namespace veldrin

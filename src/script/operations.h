@@ -1,16 +1,16 @@
 // Operations of the program that scripts call by their names: one line each in operations.cpp.
 #pragma once
 
-#include "script/script_session.h"
+#include "script/script_world.h"
 
 #include <string>
 #include <vector>
 
 namespace veldrin {
 
-/// Runs an operation as one event of the program and keeps its result, empty where it has none, as the
-/// session's. Throws ScriptError for an unknown name, a wrong number of arguments and one that does not fit.
-void CallOperation(ScriptSession& session, const std::string& name,
-                   const std::vector<std::string>& arguments);
+/// Runs an operation as one event of the program and keeps what it gave, empty where it gives nothing.
+/// Throws ScriptError for an unknown name, a wrong number of arguments and one that does not fit.
+/// ScriptError for an unknown name, a wrong number of arguments and one that does not fit.
+void CallOperation(ScriptWorld& world, const std::string& name, const std::vector<std::string>& arguments);
 
 }  // namespace veldrin

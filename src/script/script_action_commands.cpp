@@ -23,11 +23,11 @@ struct Target {
 };
 
 Target TargetOf(const CommandLine& line) {
-  Program& program = line.session.Running();
+  Program& program = line.world.Running();
   const ScriptName name = ParseName(line[1]);
   if (name.size() > 2) throw ScriptError{line[1] + " is neither a control nor a window"};
-  if (name.size() == 2) return {line.session.catalogue.FindControl(program, name[0].name, name[1]), line[1]};
-  return {line.session.catalogue.FindWindow(program, NameText(name)), line[1]};
+  if (name.size() == 2) return {line.world.catalogue.FindControl(program, name[0].name, name[1]), line[1]};
+  return {line.world.catalogue.FindWindow(program, NameText(name)), line[1]};
 }
 
 Target WindowOf(const CommandLine& line) {
@@ -39,8 +39,8 @@ Target WindowOf(const CommandLine& line) {
 /// Does the gesture to the control; one that is not there is out of reach.
 template <class Gesture>
 void Act(const CommandLine& line, const Target& target, Gesture&& gesture) {
-  line.session.Act([&](Program& program) {
-    return target.found.control != nullptr && gesture(line.session.hand, program, *target.found.control);
+  line.world.Act([&](Program& program) {
+    return target.found.control != nullptr && gesture(line.world.hand, program, *target.found.control);
   });
 }
 
@@ -49,7 +49,7 @@ template <class Gesture>
 void ActWithin(const CommandLine& line, const Target& target, const std::string& what, Gesture&& gesture) {
   const bool reachable = target.found.control != nullptr && user::Reachable(*target.found.control);
   Act(line, target, gesture);
-  if (reachable && line.session.blocked) line.session.notes.push_back(target.name + " has no " + what);
+  if (reachable && line.world.blocked) line.world.notes.push_back(target.name + " has no " + what);
 }
 
 // ---- mouse ----

@@ -2,9 +2,9 @@
 // of three matters.
 #pragma once
 
-#include "script/script_session.h"
 #include "script/script_source.h"
 #include "script/script_words.h"
+#include "script/script_world.h"
 
 #include <limits>
 #include <string>
@@ -14,7 +14,7 @@ namespace veldrin {
 
 /// What a command works on.
 struct CommandLine {
-  ScriptSession& session;
+  ScriptWorld& world;
   ScriptSource& source;
   /// The command first.
   const std::vector<Word>& words;

@@ -69,19 +69,19 @@ Comparison AsNumber(const std::string& toleranceWord) {
 
 }  // namespace
 
-void Show(ScriptSession& session, const std::vector<Word>& words) {
+void Show(ScriptWorld& world, const std::vector<Word>& words) {
   std::size_t at = 1;
-  const std::vector<Asked> all = Ask(session, words, at);
+  const std::vector<Asked> all = Ask(world, words, at);
   if (at != words.size()) throw ScriptError{"too many words behind " + words[at - 1].source};
   for (const Asked& asked : all) {
-    session.out << asked.name << " = " << Printed(asked.answer.text) << "\n";
-    if (asked.name == "log") session.machine.log.lines.clear();
+    world.out << asked.name << " = " << Printed(asked.answer.text) << "\n";
+    if (asked.name == "log") world.machine.log.lines.clear();
   }
 }
 
-std::vector<Failure> Expect(ScriptSession& session, const std::vector<Word>& words, bool wanted) {
+std::vector<Failure> Expect(ScriptWorld& world, const std::vector<Word>& words, bool wanted) {
   std::size_t at = 1;
-  const std::vector<Asked> all = Ask(session, words, at);
+  const std::vector<Asked> all = Ask(world, words, at);
   const std::size_t left = words.size() - at;
   const auto marked = [&](const char* mark, std::size_t extra) {
     return left == all.size() + extra && words[at].plain && words[at].text == mark;

@@ -6,8 +6,8 @@
 // A range of subscripts takes one value for each.
 #pragma once
 
-#include "script/script_session.h"
 #include "script/script_words.h"
+#include "script/script_world.h"
 
 #include <string>
 #include <vector>
@@ -23,10 +23,10 @@ struct Failure {
 
 /// Prints the answers to the question in `words`, behind the command. Empties the log when that was asked.
 /// Throws ScriptError, as the next one does, for a wrong question or number of words.
-void Show(ScriptSession& session, const std::vector<Word>& words);
+void Show(ScriptWorld& world, const std::vector<Word>& words);
 
 /// Holds the question's answers against what the words behind it expect; those that differ come back. With
 /// `wanted` false, those that do not differ.
-std::vector<Failure> Expect(ScriptSession& session, const std::vector<Word>& words, bool wanted);
+std::vector<Failure> Expect(ScriptWorld& world, const std::vector<Word>& words, bool wanted);
 
 }  // namespace veldrin

@@ -42,41 +42,41 @@ std::int64_t Amount(const CommandLine& line, std::size_t place) {
 
 void SystemCountry(const CommandLine& line) {
   if (ProfileEntry(line)) Figure(line, 2);
-  line.session.machine.profile.iCountry = ProfileEntry(line);
+  line.world.machine.profile.iCountry = ProfileEntry(line);
 }
 
 void SystemDecimal(const CommandLine& line) {
-  line.session.machine.profile.sDecimal = ProfileEntry(line);
+  line.world.machine.profile.sDecimal = ProfileEntry(line);
 }
 
 void SystemThousand(const CommandLine& line) {
-  line.session.machine.profile.sThousand = ProfileEntry(line);
+  line.world.machine.profile.sThousand = ProfileEntry(line);
 }
 
 void SystemScreen(const CommandLine& line) {
-  line.session.machine.screen.pixelWidth = Figure(line, 2);
-  line.session.machine.screen.pixelHeight = Figure(line, 3);
+  line.world.machine.screen.pixelWidth = Figure(line, 2);
+  line.world.machine.screen.pixelHeight = Figure(line, 3);
 }
 
 void SystemInstances(const CommandLine& line) {
-  line.session.machine.instances.others = Figure(line, 2);
+  line.world.machine.instances.others = Figure(line, 2);
 }
 
 void SystemPrinters(const CommandLine& line) {
-  line.session.machine.printer.printers = Figure(line, 2);
+  line.world.machine.printer.printers = Figure(line, 2);
 }
 
 void SystemMemory(const CommandLine& line) {
-  line.session.machine.figures.memory = {Amount(line, 2), Amount(line, 3)};
+  line.world.machine.figures.memory = {Amount(line, 2), Amount(line, 3)};
 }
 
 void SystemDisk(const CommandLine& line) {
-  line.session.machine.figures.disk = {Amount(line, 2), Amount(line, 3), Amount(line, 4), Amount(line, 5)};
+  line.world.machine.figures.disk = {Amount(line, 2), Amount(line, 3), Amount(line, 4), Amount(line, 5)};
 }
 
 /// A folder that is not there yet is made.
 void SystemFolder(const CommandLine& line) {
-  SimulatedFiles& files = line.session.machine.files;
+  SimulatedFiles& files = line.world.machine.files;
   OnMachine(line[2], [&] {
     const int fault = Guarded([&] { files.ResolveFolder(line[2]); });
     if (fault == kFaultPathNotFound) files.AddFolder(line[2]);
@@ -105,7 +105,7 @@ void System(const CommandLine& line) {
 }
 
 void SetEnvironment(const CommandLine& line) {
-  SimulatedEnvironment& environment = line.session.machine.environment;
+  SimulatedEnvironment& environment = line.world.machine.environment;
   if (line.Says(2, "none")) {
     environment.Remove(line[1]);
   } else {
@@ -114,13 +114,13 @@ void SetEnvironment(const CommandLine& line) {
 }
 
 void WriteRegistry(const CommandLine& line) {
-  line.session.machine.registry.Write(RootOf(line[1]), line[2], line[3], line[4]);
+  line.world.machine.registry.Write(RootOf(line[1]), line[2], line[3], line[4]);
 }
 
 // ---- files and folders ----
 
 void MakeFolder(const CommandLine& line) {
-  OnMachine(line[1], [&] { line.session.machine.files.AddFolder(line[1]); });
+  OnMachine(line[1], [&] { line.world.machine.files.AddFolder(line[1]); });
 }
 
 void MakeFile(const CommandLine& line) {
@@ -130,12 +130,11 @@ void MakeFile(const CommandLine& line) {
   } else {
     for (const std::string& own : line.source.NextBlock()) text += own + std::string(kCrLf);
   }
-  OnMachine(line[1], [&] { line.session.machine.files.AddFile(line[1], text); });
+  OnMachine(line[1], [&] { line.world.machine.files.AddFile(line[1], text); });
 }
 
 void ShortName(const CommandLine& line) {
-  OnMachine(line[1],
-            [&] { RequireThere(line.session.machine.files.AddShortName(line[1], line[2]), line[1]); });
+  OnMachine(line[1], [&] { RequireThere(line.world.machine.files.AddShortName(line[1], line[2]), line[1]); });
 }
 
 std::filesystem::path HostPath(const std::string& path) {
@@ -147,17 +146,17 @@ void Import(const CommandLine& line) {
   std::ifstream file(path, std::ios::binary);
   if (!file || std::filesystem::is_directory(path)) throw ScriptError{"there is no file " + path.string()};
   const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-  OnMachine(line[1], [&] { line.session.machine.files.AddFile(line[1], bytes); });
+  OnMachine(line[1], [&] { line.world.machine.files.AddFile(line[1], bytes); });
 }
 
 void Delete(const CommandLine& line) {
   OnMachine(line[1], [&] {
-    if (!line.session.machine.files.Remove(line[1])) line.session.notes.push_back("there is no " + line[1]);
+    if (!line.world.machine.files.Remove(line[1])) line.world.notes.push_back("there is no " + line[1]);
   });
 }
 
 void ReadOnly(const CommandLine& line) {
-  OnMachine(line[1], [&] { RequireThere(line.session.machine.files.SetReadOnly(line[1]), line[1]); });
+  OnMachine(line[1], [&] { RequireThere(line.world.machine.files.SetReadOnly(line[1]), line[1]); });
 }
 
 }  // namespace

@@ -13,24 +13,24 @@ namespace veldrin {
 namespace {
 
 void Start(const CommandLine& line) {
-  line.session.Start(line.Count() > 1 ? line[1] : "");
+  line.world.Start(line.Count() > 1 ? line[1] : "");
 }
 
 void Kill(const CommandLine& line) {
-  line.session.Kill();
+  line.world.Kill();
 }
 
 void Advance(const CommandLine& line) {
-  line.session.Advance(WholeNumber(line[1], 0, std::numeric_limits<std::int32_t>::max()));
+  line.world.Advance(WholeNumber(line[1], 0, std::numeric_limits<std::int32_t>::max()));
 }
 
 // ---- set ----
 
 /// Writes one slot as an event of the program.
-void SetSlot(ScriptSession& session, Program& program, const ScriptName& name, const std::string& value) {
+void SetSlot(ScriptWorld& world, Program& program, const ScriptName& name, const std::string& value) {
   if (name.size() < 2 || name.size() > 3) throw ScriptError{NameText(name) + " is no slot"};
-  const Found found = name.size() == 3 ? session.catalogue.FindControl(program, name[0].name, name[1])
-                                       : session.catalogue.FindWindow(program, name[0].name);
+  const Found found = name.size() == 3 ? world.catalogue.FindControl(program, name[0].name, name[1])
+                                       : world.catalogue.FindWindow(program, name[0].name);
   RunEvent(program, [&] { WriteSlot(found, name.back(), value); });
 }
 
@@ -40,11 +40,11 @@ void Set(const CommandLine& line) {
   if (values != 1 && values != names.size()) {
     throw ScriptError{"set needs one value, or one for each of the " + std::to_string(names.size())};
   }
-  line.session.Act([&](Program& program) {
+  line.world.Act([&](Program& program) {
     for (std::size_t i = 0; i < names.size() && !program.ended; ++i) {
       const std::string& value = line[values == 1 ? 2 : 2 + i];
       if (ScriptCatalogue::IsWindow(names[i][0].name)) {
-        SetSlot(line.session, program, names[i], value);
+        SetSlot(line.world, program, names[i], value);
       } else {
         SetVariable(FindVariable(program, names[i]), value);
       }
@@ -56,8 +56,8 @@ void Set(const CommandLine& line) {
 void Call(const CommandLine& line) {
   std::vector<std::string> arguments;
   for (std::size_t i = 2; i < line.Count(); ++i) arguments.push_back(line[i]);
-  line.session.Act([&](Program& /*program*/) {
-    CallOperation(line.session, line[1], arguments);
+  line.world.Act([&](Program& /*program*/) {
+    CallOperation(line.world, line[1], arguments);
     return true;
   });
 }
@@ -69,13 +69,13 @@ void AnswerBox(const CommandLine& line) {
   if (!ok && !EqualsIgnoringCase(line[2], "Cancel")) {
     throw ScriptError{"\"" + line[2] + "\" is no answer to a box: OK or Cancel"};
   }
-  line.session.machine.boxes.boxAnswers.push_back(ok ? BoxAnswer::Ok : BoxAnswer::Cancel);
+  line.world.machine.boxes.boxAnswers.push_back(ok ? BoxAnswer::Ok : BoxAnswer::Cancel);
 }
 
 void AnswerColour(const CommandLine& line) {
   std::optional<Colour> colour;
   if (!EqualsIgnoringCase(line[2], "cancel")) colour = ColourOf(line[2]);
-  line.session.machine.boxes.colourAnswers.push_back(colour);
+  line.world.machine.boxes.colourAnswers.push_back(colour);
 }
 
 void AnswerPrint(const CommandLine& line) {
@@ -90,7 +90,7 @@ void AnswerPrint(const CommandLine& line) {
   } else {
     throw ScriptError{"the printer dialog is answered by ok [COPIES], cancel or error N"};
   }
-  line.session.machine.boxes.printAnswers.push_back(choice);
+  line.world.machine.boxes.printAnswers.push_back(choice);
 }
 
 constexpr Command kAnswers[] = {
@@ -114,14 +114,14 @@ void AnswerNext(const CommandLine& line) {
 void Trace(const CommandLine& line) {
   const bool on = line[1] == "on";
   if (!on && line[1] != "off") throw ScriptError{"trace is on or off"};
-  line.session.machine.windows.trace = on ? &line.session.out : nullptr;
+  line.world.machine.windows.trace = on ? &line.world.out : nullptr;
 }
 
 void Screenshot(const CommandLine& line) {
-  Program& program = line.session.Running();
-  const Found found = line.session.catalogue.FindWindow(program, line[1]);
+  Program& program = line.world.Running();
+  const Found found = line.world.catalogue.FindWindow(program, line[1]);
   const bool taken = found.control != nullptr &&
-                     line.session.hand.Screenshot(program, static_cast<Window&>(*found.control), line[2]);
+                     line.world.hand.Screenshot(program, static_cast<Window&>(*found.control), line[2]);
   if (!taken)
     throw ScriptError{"there is no picture of " + line[1] + ": pictures need widgets and a window on show"};
 }

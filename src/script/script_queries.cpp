@@ -14,39 +14,39 @@ namespace {
 
 // Questions of one word beside windows and variables.
 
-Answer AskLog(ScriptSession& session) {
-  return LinesAnswer(session.machine.log.lines);
+Answer AskLog(ScriptWorld& world) {
+  return LinesAnswer(world.machine.log.lines);
 }
 
-Answer AskBoxes(ScriptSession& session) {
-  return {ValueText(static_cast<int>(session.machine.boxes.shown.size())), {}};
+Answer AskBoxes(ScriptWorld& world) {
+  return {ValueText(static_cast<int>(world.machine.boxes.shown.size())), {}};
 }
 
-Answer AskBeeps(ScriptSession& session) {
-  return {ValueText(session.machine.log.beeps), {}};
+Answer AskBeeps(ScriptWorld& world) {
+  return {ValueText(world.machine.log.beeps), {}};
 }
 
-Answer AskFlashes(ScriptSession& session) {
-  return {ValueText(session.machine.log.flashes), {}};
+Answer AskFlashes(ScriptWorld& world) {
+  return {ValueText(world.machine.log.flashes), {}};
 }
 
-Answer AskBlocked(ScriptSession& session) {
-  return {ValueText(session.blocked), {}};
+Answer AskBlocked(ScriptWorld& world) {
+  return {ValueText(world.blocked), {}};
 }
 
-Answer AskEnded(ScriptSession& session) {
-  if (!session.HasEnded()) return {"no", {}};
-  const int fault = session.Asked().endFault;
+Answer AskEnded(ScriptWorld& world) {
+  if (!world.HasEnded()) return {"no", {}};
+  const int fault = world.Asked().endFault;
   return {fault == 0 ? "end" : "fault " + std::to_string(fault), {}};
 }
 
-Answer AskResult(ScriptSession& session) {
-  return {session.result, {}};
+Answer AskResult(ScriptWorld& world) {
+  return {world.result, {}};
 }
 
 struct PlainQuestion {
   const char* name;
-  Answer (*ask)(ScriptSession& session);
+  Answer (*ask)(ScriptWorld& world);
 };
 
 constexpr PlainQuestion kPlainQuestions[] = {
@@ -55,7 +55,7 @@ constexpr PlainQuestion kPlainQuestions[] = {
 };
 
 /// box(K).Icon, .Title, .Text and .Answer.
-Answer AskBox(ScriptSession& session, const ScriptName& name) {
+Answer AskBox(ScriptWorld& world, const ScriptName& name) {
   struct Field {
     const char* name;
     std::string ShownBox::*text;
@@ -65,7 +65,7 @@ Answer AskBox(ScriptSession& session, const ScriptName& name) {
                                       {"Text", &ShownBox::text},
                                       {"Answer", &ShownBox::answer}};
   if (name.size() == 2 && name[0].indices.size() == 1 && name[1].indices.empty()) {
-    const std::vector<ShownBox>& shown = session.machine.boxes.shown;
+    const std::vector<ShownBox>& shown = world.machine.boxes.shown;
     const auto place = static_cast<std::size_t>(name[0].indices[0]) - 1;  // 0 and below lie beyond the end
     for (const Field& field : kFields) {
       if (name[1].name == field.name) return {place < shown.size() ? shown[place].*field.text : kNone, {}};
@@ -75,9 +75,9 @@ Answer AskBox(ScriptSession& session, const ScriptName& name) {
 }
 
 /// Printer and Clipboard, in lines.
-Answer AskDevice(ScriptSession& session, const ScriptName& name) {
+Answer AskDevice(ScriptWorld& world, const ScriptName& name) {
   const bool isPrinter = name[0].name == "Printer";
-  SimulatedMachine& machine = session.machine;
+  SimulatedMachine& machine = world.machine;
   if (name.size() == 2 && name[0].indices.empty()) {
     const NamePart& slot = name[1];
     if (isPrinter && slot.name == "Documents" && slot.indices.empty()) {
@@ -94,32 +94,32 @@ Answer AskDevice(ScriptSession& session, const ScriptName& name) {
                     (isPrinter ? ", DrawingCount and Documents" : " and DrawingCount")};
 }
 
-Answer AskSlot(ScriptSession& session, const ScriptName& name) {
-  Program& program = session.Asked();
+Answer AskSlot(ScriptWorld& world, const ScriptName& name) {
+  Program& program = world.Asked();
   const std::string& window = name[0].name;
   if (!name[0].indices.empty()) throw ScriptError{window + " has no subscripts"};
   if (name.size() == 1) throw ScriptError{window + " is a window: one of its slots can be asked"};
   if (name.size() > 3) throw ScriptError{NameText(name) + " has too many parts"};
   Found found;
   if (name.size() == 3) {
-    found = session.catalogue.FindControl(program, window, name[1]);
+    found = world.catalogue.FindControl(program, window, name[1]);
   } else {
-    found = session.catalogue.FindWindow(program, window);
+    found = world.catalogue.FindWindow(program, window);
     const bool isSlot = found.model->FindSlot(name[1].name) != nullptr;
-    if (!isSlot && session.catalogue.HasControl(program, window, name[1].name)) {
+    if (!isSlot && world.catalogue.HasControl(program, window, name[1].name)) {
       throw ScriptError{NameText(name) + " is a control: one of its slots can be asked"};
     }
   }
   Answer answer = ReadSlot(found, name.back());
   if (found.control != nullptr) {
-    const std::optional<std::string> shown = session.hand.Shown(*found.control, NameText(name.back()));
-    if (shown && *shown != answer.text) session.mismatches.push_back({NameText(name), answer.text, *shown});
+    const std::optional<std::string> shown = world.hand.Shown(*found.control, NameText(name.back()));
+    if (shown && *shown != answer.text) world.mismatches.push_back({NameText(name), answer.text, *shown});
   }
   return answer;
 }
 
-[[noreturn]] void FailUnknown(ScriptSession& session, const std::string& name) {
-  std::vector<std::string> known = VariableNames(session.Asked());
+[[noreturn]] void FailUnknown(ScriptWorld& world, const std::string& name) {
+  std::vector<std::string> known = VariableNames(world.Asked());
   const std::vector<std::string>& windows = ScriptCatalogue::WindowNames();
   known.insert(known.end(), windows.begin(), windows.end());
   for (const PlainQuestion& question : kPlainQuestions) known.emplace_back(question.name);
@@ -129,42 +129,41 @@ Answer AskSlot(ScriptSession& session, const ScriptName& name) {
   throw ScriptError{"unknown name " + name + Suggestion(name, known)};
 }
 
-Answer AskName(ScriptSession& session, const ScriptName& name) {
+Answer AskName(ScriptWorld& world, const ScriptName& name) {
   const NamePart& first = name[0];
   for (const PlainQuestion& question : kPlainQuestions) {
-    if (first.name == question.name && first.indices.empty() && name.size() == 1)
-      return question.ask(session);
+    if (first.name == question.name && first.indices.empty() && name.size() == 1) return question.ask(world);
   }
-  if (first.name == "box") return AskBox(session, name);
-  if (first.name == "Printer" || first.name == "Clipboard") return AskDevice(session, name);
-  if (ScriptCatalogue::IsWindow(first.name)) return AskSlot(session, name);
-  if (!IsVariable(session.Asked(), first.name)) FailUnknown(session, first.name);
-  return {VariableText(FindVariable(session.Asked(), name)), {}};
+  if (first.name == "box") return AskBox(world, name);
+  if (first.name == "Printer" || first.name == "Clipboard") return AskDevice(world, name);
+  if (ScriptCatalogue::IsWindow(first.name)) return AskSlot(world, name);
+  if (!IsVariable(world.Asked(), first.name)) FailUnknown(world, first.name);
+  return {VariableText(FindVariable(world.Asked(), name)), {}};
 }
 
 // Questions of several words.
 
-Answer AskFile(ScriptSession& session, const std::vector<std::string>& arguments) {
-  return {session.machine.files.Text(arguments[0]).value_or(kNone), {}};
+Answer AskFile(ScriptWorld& world, const std::vector<std::string>& arguments) {
+  return {world.machine.files.Text(arguments[0]).value_or(kNone), {}};
 }
 
-Answer AskFiles(ScriptSession& session, const std::vector<std::string>& arguments) {
+Answer AskFiles(ScriptWorld& world, const std::vector<std::string>& arguments) {
   std::string names;
-  for (const std::string& name : session.machine.files.Matches(arguments[0])) {
+  for (const std::string& name : world.machine.files.Matches(arguments[0])) {
     names += (names.empty() ? "" : ",") + name;
   }
   return {names, {}};
 }
 
-Answer AskRegistry(ScriptSession& session, const std::vector<std::string>& arguments) {
-  return {session.machine.registry.Read(RootOf(arguments[0]), arguments[1], arguments[2]).value_or(""), {}};
+Answer AskRegistry(ScriptWorld& world, const std::vector<std::string>& arguments) {
+  return {world.machine.registry.Read(RootOf(arguments[0]), arguments[1], arguments[2]).value_or(""), {}};
 }
 
 struct LongQuestion {
   const char* name;
   std::size_t arguments;
   const char* usage;
-  Answer (*ask)(ScriptSession& session, const std::vector<std::string>& arguments);
+  Answer (*ask)(ScriptWorld& world, const std::vector<std::string>& arguments);
 };
 
 constexpr LongQuestion kLongQuestions[] = {
@@ -182,7 +181,7 @@ RegistryRoot RootOf(const std::string& word) {
   throw ScriptError{"\"" + word + "\" is no root of the registry: HKCU, HKCR or HKLM"};
 }
 
-std::vector<Asked> Ask(ScriptSession& session, const std::vector<Word>& words, std::size_t& at) {
+std::vector<Asked> Ask(ScriptWorld& world, const std::vector<Word>& words, std::size_t& at) {
   if (at >= words.size()) throw ScriptError{"a name is missing"};
   const Word& word = words[at++];
   for (const LongQuestion& question : kLongQuestions) {
@@ -194,11 +193,10 @@ std::vector<Asked> Ask(ScriptSession& session, const std::vector<Word>& words, s
       arguments.push_back(words[at].text);
       name += " " + words[at].source;
     }
-    return {{name, question.ask(session, arguments)}};
+    return {{name, question.ask(world, arguments)}};
   }
   std::vector<Asked> all;
-  for (const ScriptName& name : ParseNames(word.text))
-    all.push_back({NameText(name), AskName(session, name)});
+  for (const ScriptName& name : ParseNames(word.text)) all.push_back({NameText(name), AskName(world, name)});
   return all;
 }
 

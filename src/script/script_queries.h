@@ -2,9 +2,9 @@
 // run. Nothing is changed by asking.
 #pragma once
 
-#include "script/script_session.h"
 #include "script/script_slots.h"
 #include "script/script_words.h"
+#include "script/script_world.h"
 
 #include <string>
 #include <vector>
@@ -19,7 +19,7 @@ struct Asked {
 
 /// The answers to the question that begins at `words[at]`, one for each subscript of a range; `at` moves
 /// behind the question. Throws ScriptError for an unknown name.
-std::vector<Asked> Ask(ScriptSession& session, const std::vector<Word>& words, std::size_t& at);
+std::vector<Asked> Ask(ScriptWorld& world, const std::vector<Word>& words, std::size_t& at);
 
 /// A root of the registry by its word. Throws ScriptError for others.
 RegistryRoot RootOf(const std::string& word);

@@ -19,8 +19,8 @@ namespace {
 class Runner {
  public:
   Runner(ScriptSource& source, ScriptHand& hand, std::ostream& out, std::ostream& err)
-      : source_(source), session_(hand, out), err_(err) {
-    session_.machine.windows.modalLoop = [this](Window& window) { RunModal(window); };
+      : source_(source), world_(hand, out), err_(err) {
+    world_.machine.windows.modalLoop = [this](Window& window) { RunModal(window); };
   }
 
   ScriptVerdict Run() {
@@ -38,10 +38,10 @@ class Runner {
  private:
   /// The lines of a modal window. What ends the program, or the script, leaves the routine that showed it.
   void RunModal(const Window& window) {
-    while (window.Visible && !session_.HasEnded()) {
+    while (window.Visible && !world_.HasEnded()) {
       if (!RunNextLine()) throw EndOfProgram{};
     }
-    if (session_.HasEnded()) throw EndOfProgram{};
+    if (world_.HasEnded()) throw EndOfProgram{};
   }
 
   /// False at the end of the script.
@@ -64,21 +64,21 @@ class Runner {
   void Do(const std::vector<Word>& words, const std::string& place, const std::string& phase) {
     const std::string& name = words[0].text;
     if (name == "show") {
-      Show(session_, words);
+      Show(world_, words);
     } else if (name == "expect" || name == "expect-not") {
-      for (const Failure& failure : Expect(session_, words, name == "expect")) {
+      for (const Failure& failure : Expect(world_, words, name == "expect")) {
         Fail(place, failure.name, phase, "expected", failure.expected, "found", failure.found);
       }
     } else {
       const Command& command = FindCommand(name);
       CheckNumberOfWords(command, words.size() - 1);
-      command.run({session_, source_, words});
+      command.run({world_, source_, words});
     }
-    for (const Mismatch& mismatch : session_.mismatches) {
+    for (const Mismatch& mismatch : world_.mismatches) {
       Fail(place, mismatch.name, phase, "slot", Printed(Quoted(mismatch.slot)), "widget",
            Printed(Quoted(mismatch.shown)));
     }
-    session_.mismatches.clear();
+    world_.mismatches.clear();
   }
 
   static const Command& FindCommand(const std::string& name) {
@@ -95,7 +95,7 @@ class Runner {
   /// The stream for messages, behind all that the script printed.
   std::ostream& Tell() { return Tell(source_.Place()); }
   std::ostream& Tell(const std::string& place) {
-    session_.out.flush();
+    world_.out.flush();
     return err_ << place << ": ";
   }
 
@@ -115,18 +115,18 @@ class Runner {
   }
 
   void TellNotes(const std::string& place) {
-    for (const std::string& note : session_.notes) Tell(place) << "warning: " << note << "\n";
-    session_.notes.clear();
+    for (const std::string& note : world_.notes) Tell(place) << "warning: " << note << "\n";
+    world_.notes.clear();
   }
 
   void WarnOfAnswers() {
-    const SimulatedBoxes& boxes = session_.machine.boxes;
+    const SimulatedBoxes& boxes = world_.machine.boxes;
     const std::size_t left = boxes.boxAnswers.size() + boxes.colourAnswers.size() + boxes.printAnswers.size();
     if (left > 0) Tell(source_.Name()) << "warning: nobody asked for " << left << " of the answers\n";
   }
 
   ScriptSource& source_;
-  ScriptSession session_;
+  ScriptWorld world_;
   std::ostream& err_;
   bool failed_ = false;
 };

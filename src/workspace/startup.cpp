@@ -2,6 +2,7 @@
 
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/chooser_setup.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
@@ -20,8 +21,6 @@ constexpr int kSecondTick = 1200;      // ms
 constexpr int kSecondTickFrom = 1000;  // ms: an interval from here on marks the second tick
 constexpr int kSplashWidth = 500;      // pixels of the ellipse that shows of the window
 constexpr int kSplashHeight = 100;
-constexpr char kListPattern[] = "*.RAT";
-constexpr char kAnyPattern[] = "*.*";
 
 /// The command line as one path: without blanks at its ends and without the quotes around it.
 std::string Unquoted(const std::string& commandLine) {
@@ -58,45 +57,20 @@ void HandOverToMainWindow(Program& program) {
   ShowMainWindow(program);
 }
 
-/// Points the chooser's boxes at a folder. One that cannot be had leaves them where they are.
-void PointChooserAt(Form3& form3, const std::string& folder) {
-  Guarded([&] { form3.Drive1.Drive = folder; });
-  Guarded([&] { form3.Dir1.Path = folder; });
-  Guarded([&] { form3.File1.Path = folder; });
-}
-
 void SetUpListChooser(Program& program) {
   Form3& form3 = program.form3;
   form3.Left = (program.machine.screen.Width() - form3.Width) / 2;
   form3.Top = (program.machine.screen.Height() - form3.Height) / 2;
   form3.Caption = Message(program.workspace, 1);
-  form3.Combo2.Clear();
-  form3.Combo2.AddItem(kListPattern);
-  form3.Combo2.ListIndex = 0;
-  form3.Combo1.Text = kListPattern;
-  form3.Command2.Caption = "CANCEL";
-  form3.Command2.Enabled = true;
-  PointChooserAt(form3, program.workspace.ListPath);
-  form3.File1.Pattern = kListPattern;
-  form3.Command1.Enabled = false;
+  OfferCancel(program);
+  SetUpChooserBoxes(program, {kListPattern}, program.workspace.ListPath);
 }
 
 void SetUpDataChooser(Program& program) {
-  Form3& form3 = program.form3;
-  const std::string pattern = "*." + program.workspace.MachineKey;
-  form3.Caption = Message(program.workspace, 2);
-  form3.Command2.Caption = "CANCEL";
-  form3.Command2.Enabled = true;
-  form3.Command3.Visible = false;
-  form3.Combo2.Clear();
-  form3.Combo2.AddItem(kListPattern);
-  form3.Combo2.AddItem(pattern);
-  form3.Combo2.ListIndex = 1;
-  form3.Combo1.Text = pattern;
-  PointChooserAt(form3, program.workspace.DataPath);
-  form3.File1.Pattern = kAnyPattern;
-  form3.File1.Pattern = pattern;
-  form3.Command1.Enabled = false;
+  program.form3.Caption = Message(program.workspace, 2);
+  OfferCancel(program);
+  program.form3.Command3.Visible = false;
+  SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);
 }
 
 /// Sets the chooser up and shows it until it hides, so that what the opener wrote on it stays.

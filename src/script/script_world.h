@@ -23,13 +23,13 @@ struct Mismatch {
   std::string shown;
 };
 
-class ScriptSession {
+class ScriptWorld {
  public:
   /// `out` takes what the script prints.
-  ScriptSession(ScriptHand& theHand, std::ostream& theOut) : hand(theHand), out(theOut) {}
-  ScriptSession(const ScriptSession&) = delete;
-  ScriptSession& operator=(const ScriptSession&) = delete;
-  ~ScriptSession() { LetGo(); }
+  ScriptWorld(ScriptHand& theHand, std::ostream& theOut) : hand(theHand), out(theOut) {}
+  ScriptWorld(const ScriptWorld&) = delete;
+  ScriptWorld& operator=(const ScriptWorld&) = delete;
+  ~ScriptWorld() { LetGo(); }
 
   ScriptHand& hand;
   std::ostream& out;

@@ -1,4 +1,4 @@
-#include "script/script_session.h"
+#include "script/script_world.h"
 
 #include "program/assemble.h"
 #include "program/event_boundary.h"
@@ -8,14 +8,14 @@
 
 namespace veldrin {
 
-void ScriptSession::LetGo() {
+void ScriptWorld::LetGo() {
   if (!program_) return;
   machine.windows.Forget();
-  hand.ProgramGone(*program_);
+  if (started_) hand.ProgramGone(*program_);
   program_.reset();
 }
 
-void ScriptSession::MakeProgram() {
+void ScriptWorld::MakeProgram() {
   LetGo();
   // What the windows' records write while they are made is no doing of the program.
   std::ostream* const trace = std::exchange(machine.windows.trace, nullptr);
@@ -23,7 +23,7 @@ void ScriptSession::MakeProgram() {
   machine.windows.trace = trace;
 }
 
-void ScriptSession::Start(const std::string& commandLine) {
+void ScriptWorld::Start(const std::string& commandLine) {
   if (started_ && !program_->ended)
     throw ScriptError{"the program runs already; kill it or let it end first"};
   MakeProgram();
@@ -33,29 +33,29 @@ void ScriptSession::Start(const std::string& commandLine) {
   StartProgram(*program_, commandLine);
 }
 
-void ScriptSession::Kill() {
+void ScriptWorld::Kill() {
   if (!started_ || program_->ended) return;
   program_->ended = true;
   machine.windows.Forget();
 }
 
-void ScriptSession::Advance(std::int64_t milliseconds) {
+void ScriptWorld::Advance(std::int64_t milliseconds) {
   machine.clock.Advance(milliseconds,
                         [this](TimerControl& timer) { RunEvent(*program_, [&] { timer.Timer(); }); });
 }
 
-Program& ScriptSession::Running() {
+Program& ScriptWorld::Running() {
   if (!started_) throw ScriptError{"the program has not been started"};
   if (program_->ended) throw ScriptError{"the program has ended; only questions can follow, or start"};
   return *program_;
 }
 
-Program& ScriptSession::Asked() {
+Program& ScriptWorld::Asked() {
   if (!program_) MakeProgram();
   return *program_;
 }
 
-void ScriptSession::Act(const std::function<bool(Program& program)>& action) {
+void ScriptWorld::Act(const std::function<bool(Program& program)>& action) {
   Program& program = Running();
   const std::int64_t number = ++actions_;
   blocked = false;

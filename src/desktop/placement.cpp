@@ -1,0 +1,73 @@
+#include "desktop/placement.h"
+
+#include "view/window.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace veldrin {
+
+namespace {
+
+/// Pixels of the units in which the children of a control are placed.
+struct Units {
+  double across;
+  double down;
+  double border;
+};
+
+Units UnitsInside(const Control& parent, const Zoom& zoom) {
+  const double border = BorderPixels(parent, zoom);
+  const Units twips{zoom.Pixels(1), zoom.Pixels(1), border};
+  if (parent.kind != ControlKind::Picture) return twips;
+  const Surface& surface = static_cast<const Picture&>(parent).surface;
+  const Scale scale = surface.UserScale();
+  const bool isSize = scale.width == surface.PhysicalWidth() && scale.height == surface.PhysicalHeight();
+  const bool serves = scale.left == 0 && scale.top == 0 && scale.width > 0 && scale.height > 0;
+  if (isSize || !serves) return twips;
+  const QRectF place = PlaceInParent(parent, zoom);
+  return {(place.width() - 2 * border) / scale.width, (place.height() - 2 * border) / scale.height, border};
+}
+
+}  // namespace
+
+double BorderPixels(const Control& control, const Zoom& zoom) {
+  return control.look.border ? std::max(1.0, std::round(zoom.Factor())) : 0;
+}
+
+QRectF PlaceInParent(const Control& control, const Zoom& zoom) {
+  const Units units = UnitsInside(*control.parent, zoom);
+  const auto x = [&](float value) { return units.border + static_cast<double>(value) * units.across; };
+  const auto y = [&](float value) { return units.border + static_cast<double>(value) * units.down; };
+  if (control.kind == ControlKind::Line) {
+    const auto& line = static_cast<const Line&>(control);
+    return QRectF(QPointF(x(line.X1), y(line.Y1)), QPointF(x(line.X2), y(line.Y2))).normalized();
+  }
+  const auto& placed = static_cast<const PlacedControl&>(control);
+  return {x(placed.Left), y(placed.Top), static_cast<double>(placed.Width) * units.across,
+          static_cast<double>(placed.Height) * units.down};
+}
+
+QRect PixelsInParent(const Control& control, const Zoom& zoom) {
+  const QRectF place = PlaceInParent(control, zoom);
+  const QPoint corner(qRound(place.left()), qRound(place.top()));
+  const QPoint end(qRound(place.right()), qRound(place.bottom()));
+  QSize size(std::max(0, end.x() - corner.x()), std::max(0, end.y() - corner.y()));
+  if (control.kind == ControlKind::Line) {
+    const int width = LineWidth(zoom);
+    if (size.width() == 0) size.setWidth(width);
+    if (size.height() == 0) size.setHeight(width);
+  }
+  return {corner, size};
+}
+
+int LineWidth(const Zoom& zoom) {
+  return std::max(1, qRound(zoom.Factor()));
+}
+
+QSize ClientPixels(const Window& window, const Zoom& zoom) {
+  return {std::max(1, qRound(zoom.Pixels(window.InnerWidth()))),
+          std::max(1, qRound(zoom.Pixels(window.InnerHeight())))};
+}
+
+}  // namespace veldrin

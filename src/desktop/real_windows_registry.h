@@ -1,0 +1,24 @@
+// The registry of Windows. What is written to the classes root goes to the user's own classes, which the
+// system shows in the root and which need no administrator.
+#pragma once
+
+#ifdef _WIN32
+
+#include "platform/system.h"
+
+namespace veldrin {
+
+class WindowsRegistry : public Registry {
+ public:
+  /// The value "CPU", which newer systems no longer have where the program asks for it, is answered with the
+  /// processor's name.
+  std::optional<std::string> Read(RegistryRoot root, const std::string& key,
+                                  const std::string& value) const override;
+  bool Write(RegistryRoot root, const std::string& key, const std::string& value,
+             const std::string& text) override;
+  bool DeleteKey(RegistryRoot root, const std::string& key) override;
+};
+
+}  // namespace veldrin
+
+#endif

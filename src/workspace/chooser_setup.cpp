@@ -1,0 +1,37 @@
+#include "workspace/chooser_setup.h"
+
+#include "workspace/language.h"
+
+namespace veldrin {
+
+std::string DataPattern(const Workspace& workspace) {
+  return "*." + workspace.MachineKey;
+}
+
+void SetUpChooserBoxes(Program& program, const std::vector<std::string>& patterns, const std::string& folder) {
+  Form3& form3 = program.form3;
+  form3.Combo2.Clear();
+  for (const std::string& pattern : patterns) form3.Combo2.AddItem(pattern);
+  form3.Combo2.ListIndex = static_cast<int>(patterns.size()) - 1;
+  form3.Combo1.Text = patterns.back();
+  Guarded([&] { form3.Drive1.Drive = folder; });
+  Guarded([&] { form3.Dir1.Path = folder; });
+  Guarded([&] { form3.File1.Path = folder; });
+  form3.File1.Pattern = kAnyPattern;
+  form3.File1.Pattern = patterns.back();
+  form3.Command1.Enabled = false;
+}
+
+void ShowChooserPrompt(Program& program, int message) {
+  Label& prompt = program.form3.Label4;
+  prompt.Caption = Message(program.workspace, message);
+  prompt.BringToFront();
+  prompt.Visible = true;
+}
+
+void OfferCancel(Program& program) {
+  program.form3.Command2.Caption = "CANCEL";
+  program.form3.Command2.Enabled = true;
+}
+
+}  // namespace veldrin

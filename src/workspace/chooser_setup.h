@@ -1,0 +1,29 @@
+// The file chooser before it is shown: its filter list, its name field and its folder. The start and every
+// role set it up alike.
+#pragma once
+
+#include "workspace/program.h"
+
+#include <string>
+#include <vector>
+
+namespace veldrin {
+
+inline constexpr char kListPattern[] = "*.RAT";
+inline constexpr char kAnyPattern[] = "*.*";
+
+/// "*." and the machine's key: the plans of the loaded machine.
+std::string DataPattern(const Workspace& workspace);
+
+/// Fills `Combo2` with the patterns, the last of them picked and in `Combo1`, disables OK, and points the boxes
+/// at the folder; one that cannot be had leaves them where they are. The pattern goes over "*.*", so that the
+/// list is rebuilt even where it is the same as before. Raises nothing.
+void SetUpChooserBoxes(Program& program, const std::vector<std::string>& patterns, const std::string& folder);
+
+/// Shows a message on the prompt line, in front.
+void ShowChooserPrompt(Program& program, int message);
+
+/// `Command2` reads "CANCEL" and can be pressed.
+void OfferCancel(Program& program);
+
+}  // namespace veldrin
