@@ -60,7 +60,8 @@ int SystemPage() {
 /// A conversion of the C library.
 class Conversion {
  public:
-  Conversion(const std::string& to, const std::string& from) : handle_(iconv_open(to.c_str(), from.c_str())) {}
+  Conversion(const std::string& to, const std::string& from)
+      : handle_(iconv_open(to.c_str(), from.c_str())) {}
   Conversion(const Conversion&) = delete;
   Conversion& operator=(const Conversion&) = delete;
   ~Conversion() {

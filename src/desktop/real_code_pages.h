@@ -6,7 +6,8 @@
 namespace veldrin {
 
 /// The system's page and its conversions. Everywhere but on Windows the page is UTF-8. `japanese` tells
-/// whether the system is a Japanese one. Raises nothing; a page that the system does not know converts nothing.
+/// whether the system is a Japanese one. Raises nothing; a page that the system does not know converts
+/// nothing.
 CodePages SystemCodePages(bool japanese);
 
 }  // namespace veldrin

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStorageInfo>
+
 #include <algorithm>
 
 namespace veldrin {
@@ -14,7 +15,8 @@ namespace veldrin {
 
 std::vector<std::string> SystemDrives() {
   std::vector<std::string> drives;
-  for (const QFileInfo& drive : QDir::drives()) drives.push_back(drive.path().left(2).toUpper().toStdString());
+  for (const QFileInfo& drive : QDir::drives())
+    drives.push_back(drive.path().left(2).toUpper().toStdString());
   return drives;
 }
 

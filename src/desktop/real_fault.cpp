@@ -13,27 +13,27 @@ int SystemFault(const std::error_code& failure) {
 #ifdef _WIN32
   if (failure.category() != std::system_category()) return 0;
   switch (failure.value()) {
-    case 3:     // ERROR_PATH_NOT_FOUND
-    case 53:    // ERROR_BAD_NETPATH
-    case 67:    // ERROR_BAD_NET_NAME
-    case 267:   // ERROR_DIRECTORY
+    case 3:    // ERROR_PATH_NOT_FOUND
+    case 53:   // ERROR_BAD_NETPATH
+    case 67:   // ERROR_BAD_NET_NAME
+    case 267:  // ERROR_DIRECTORY
       return kFaultPathNotFound;
-    case 15:    // ERROR_INVALID_DRIVE
+    case 15:  // ERROR_INVALID_DRIVE
       return kFaultDeviceUnavailable;
-    case 19:    // ERROR_WRITE_PROTECT
-    case 32:    // ERROR_SHARING_VIOLATION
-    case 33:    // ERROR_LOCK_VIOLATION
+    case 19:  // ERROR_WRITE_PROTECT
+    case 32:  // ERROR_SHARING_VIOLATION
+    case 33:  // ERROR_LOCK_VIOLATION
       return kFaultPermissionDenied;
     case 21:    // ERROR_NOT_READY
     case 1005:  // ERROR_UNRECOGNIZED_VOLUME
     case 1112:  // ERROR_NO_MEDIA_IN_DRIVE
       return kFaultDriveNotReady;
-    case 39:    // ERROR_HANDLE_DISK_FULL
-    case 112:   // ERROR_DISK_FULL
+    case 39:   // ERROR_HANDLE_DISK_FULL
+    case 112:  // ERROR_DISK_FULL
       return kFaultDiskFull;
-    case 123:   // ERROR_INVALID_NAME
-    case 161:   // ERROR_BAD_PATHNAME
-    case 206:   // ERROR_FILENAME_EXCED_RANGE
+    case 123:  // ERROR_INVALID_NAME
+    case 161:  // ERROR_BAD_PATHNAME
+    case 206:  // ERROR_FILENAME_EXCED_RANGE
       return kFaultBadFileName;
     default:
       return 0;

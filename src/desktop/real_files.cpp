@@ -86,7 +86,8 @@ template <class Wanted>
 std::vector<std::string> NamesIn(const fs::path& folder, Wanted wanted) {
   std::vector<std::pair<std::string, std::string>> found;
   std::error_code failure;
-  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
+  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end;
+       entry.increment(failure)) {
     const std::string name = PathText(entry->path().filename());
     if (wanted(*entry, name) && !IsHidden(entry->path())) found.emplace_back(LowerCase(name), name);
   }

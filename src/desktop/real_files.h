@@ -1,5 +1,5 @@
-// The system's files and folders. Texts go through the rule of text_encoding.h; names are found by the rule of
-// real_path.h; what is written replaces the old file when it is closed.
+// The system's files and folders. Texts go through the rule of text_encoding.h; names are found by the rule
+// of real_path.h; what is written replaces the old file when it is closed.
 #pragma once
 
 #include "platform/files.h"
@@ -34,7 +34,8 @@ class RealFiles : public Files {
   std::string FindFirst(const std::string& pattern) const override;
   std::string LongName(const std::string& path) const override;
 
-  /// Names in the order of their small letters, without the hidden ones. Both raise what ResolveFolder raises.
+  /// Names in the order of their small letters, without the hidden ones. Both raise what ResolveFolder
+  /// raises.
   std::vector<std::string> FileNames(const std::string& folder, const std::string& pattern) const override;
   std::vector<std::string> FolderNames(const std::string& folder) const override;
   /// Raises fault 75 for a folder that may not be entered, 68 for a drive that is not there.

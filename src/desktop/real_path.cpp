@@ -4,6 +4,7 @@
 #include "runtime/text.h"
 
 #include <QFile>
+
 #include <system_error>
 
 #ifdef _WIN32
@@ -92,7 +93,8 @@ std::optional<fs::path> ListedName(const fs::path& folder, const fs::path& name)
   const std::string wanted = LowerCase(name.string());
   std::optional<fs::path> best;
   std::error_code failure;
-  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
+  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end;
+       entry.increment(failure)) {
     fs::path listed = entry->path().filename();
     if (listed == name) return listed;
     if (LowerCase(listed.string()) == wanted && (!best || listed < *best)) best = std::move(listed);

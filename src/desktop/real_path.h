@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+
 #include <filesystem>
 #include <optional>
 #include <string>

@@ -3,6 +3,7 @@
 #include "runtime/text.h"
 
 #include <QSysInfo>
+
 #include <fstream>
 
 namespace veldrin {

@@ -1,16 +1,19 @@
 // A registry kept in one settings file, for systems that have none. Several running copies share the file:
 // each write reads it anew under a lock and replaces it as a whole.
 //
-// What cannot be put on the disk, as in a folder that denies writing, is kept for this run and goes along with
-// the next write that can. The local machine's root is not kept: it answers what is known of the processor.
+// What cannot be put on the disk, as in a folder that denies writing, is kept for this run and goes along
+// with the next write that can. The local machine's root is not kept: it answers what is known of the
+// processor.
 #pragma once
 
 #include "desktop/real_settings_tree.h"
 #include "platform/system.h"
 
 #include <QString>
+
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace veldrin {

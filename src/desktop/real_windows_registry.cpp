@@ -5,9 +5,9 @@
 #include "runtime/text.h"
 
 #include <QString>
-#include <windows.h>
 
 #include <vector>
+#include <windows.h>
 
 namespace veldrin {
 
@@ -74,8 +74,8 @@ bool WindowsRegistry::Write(RegistryRoot root, const std::string& key, const std
   if (root == RegistryRoot::LocalMachine) return false;
   const Place place = WritePlace(root, key);
   HKEY opened = nullptr;
-  if (RegCreateKeyExW(place.root, place.key.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &opened, nullptr) !=
-      ERROR_SUCCESS) {
+  if (RegCreateKeyExW(place.root, place.key.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &opened,
+                      nullptr) != ERROR_SUCCESS) {
     return false;
   }
   const std::wstring wide = Wide(text);

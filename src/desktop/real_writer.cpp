@@ -5,6 +5,7 @@
 #include "runtime/fault.h"
 
 #include <QFileInfo>
+
 #include <utility>
 
 namespace veldrin {
@@ -15,7 +16,8 @@ namespace {
 
 bool IsReadOnly(const fs::path& path, fs::perms permissions) {
   // The system lets its administrator write everything; the file's owner meant otherwise.
-  return (permissions & fs::perms::owner_write) == fs::perms::none || !QFileInfo(PathString(path)).isWritable();
+  return (permissions & fs::perms::owner_write) == fs::perms::none ||
+         !QFileInfo(PathString(path)).isWritable();
 }
 
 void CheckTarget(const fs::path& path) {

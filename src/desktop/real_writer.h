@@ -6,6 +6,7 @@
 #include "platform/text_encoding.h"
 
 #include <QSaveFile>
+
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -16,9 +17,9 @@ namespace veldrin {
 /// The bytes of a file that replace those on the disk at once or not at all.
 class ReplacingFile {
  public:
-  /// Raises fault 76 where the folder is not there, 75 where `path` is no plain file, 70 where the file or its
-  /// folder denies writing, 52 for a name that the system refuses. A file whose owner may not write it counts
-  /// as denied for everybody.
+  /// Raises fault 76 where the folder is not there, 75 where `path` is no plain file, 70 where the file or
+  /// its folder denies writing, 52 for a name that the system refuses. A file whose owner may not write it
+  /// counts as denied for everybody.
   explicit ReplacingFile(const std::filesystem::path& path);
 
   /// Raises fault 61 when there is no room; Commit then raises it again.

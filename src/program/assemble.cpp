@@ -3,11 +3,15 @@
 #include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
 #include "calc/plan_search.h"
+#include "dialogs/compare_window.h"
 #include "dialogs/file_chooser.h"
 #include "dialogs/load_dispatch.h"
 #include "dialogs/plan_dialog.h"
+#include "mainwin/combination.h"
 #include "mainwin/gear_panel.h"
+#include "mainwin/layout.h"
 #include "mainwin/main_window.h"
+#include "mainwin/report.h"
 #include "program/event_boundary.h"
 #include "workspace/startup.h"
 
@@ -22,7 +26,11 @@ std::unique_ptr<Program> AssembleProgram(Machine& machine) {
   AttachPlanSearch(*program);
   AttachMainWindow(*program);
   AttachGearPanel(*program);
+  AttachReport(*program);
+  AttachLayout(*program);
+  AttachCombination(*program);
   AttachPlanDialog(*program);
+  AttachCompareWindow(*program);
   AttachFileChooser(*program);
   AttachLoadDispatch(*program);
   return program;

@@ -1,4 +1,5 @@
-// The hidden canvas of the report: its own surface, and the picture that is handed over in the end.
+// The hidden canvas of the report: its own surface, and the picture that is handed over in the end. The
+// window's scale is pixels, so the picture's place and size are given in them.
 #pragma once
 
 #include "view/control_array.h"
@@ -14,7 +15,7 @@ struct Form6 : Window {
 
   Surface surface;
   // clang-format off
-  Picture Picture1{"Picture1", *this, {0, 0, 9600, 7200}, {.back = kWhite}};
+  Picture Picture1{"Picture1", *this, {0, 0, 640, 480}, {.back = kWhite}};
   // clang-format on
 };
 

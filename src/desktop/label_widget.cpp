@@ -1,0 +1,74 @@
+#include "desktop/label_widget.h"
+
+#include "desktop/fitted_text.h"
+#include "desktop/fonts.h"
+#include "desktop/placement.h"
+#include "desktop/text_ends.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kMiddleGrey = 128;
+const QColor kOffOnDark(150, 150, 150);
+const QColor kOffOnPale(100, 100, 100);
+
+Qt::Alignment AlignmentOf(Align align) {
+  switch (align) {
+    case Align::Right:
+      return Qt::AlignRight;
+    case Align::Centre:
+      return Qt::AlignHCenter;
+    default:
+      return Qt::AlignLeft;
+  }
+}
+
+}  // namespace
+
+LabelWidget::LabelWidget(Label& label, Stage& stage, QWidget* parent)
+    : ControlWidget(label, stage, parent), look_(label.look) {
+  setTextFormat(Qt::PlainText);
+  setAlignment(AlignmentOf(look_.align) | Qt::AlignVCenter);
+}
+
+void LabelWidget::Take(std::string_view slot) {
+  if (slot == "Caption") {
+    setText(ToWidgetText(Shows().Caption));
+  } else {
+    ControlWidget::Take(slot);
+  }
+}
+
+Shown LabelWidget::WhatShows() const {
+  Shown shown = ControlWidget::WhatShows();
+  shown.text = ToSlotText(text());
+  return shown;
+}
+
+/// Text that is off is grey, pale enough or dark enough to read on what is behind it.
+QColor LabelWidget::TextColour() const {
+  if (isEnabled()) return palette().color(QPalette::WindowText);
+  return qGray(palette().color(QPalette::Window).rgb()) < kMiddleGrey ? kOffOnDark : kOffOnPale;
+}
+
+void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  if (!look_.transparent) painter.fillRect(rect(), palette().color(QPalette::Window));
+  const double factor = stage_->zoom.Factor();
+  const double border = look_.border ? std::max(1.0, std::round(factor)) : 0;
+  if (look_.border) {
+    painter.setPen(QPen(QColor(Qt::darkGray), border));
+    painter.drawRect(QRectF(rect()).adjusted(border / 2, border / 2, -border / 2, -border / 2));
+  }
+  // A pixel between text and edge, where the label is not as wide as its text on purpose.
+  const double margin = border + factor;
+  painter.setPen(TextColour());
+  DrawFitted(painter, QRectF(rect()).adjusted(margin, border, -margin, -border), text(), font(), alignment());
+}
+
+}  // namespace veldrin

@@ -1,0 +1,27 @@
+// Labels.
+#pragma once
+
+#include "desktop/control_widget.h"
+
+#include <QLabel>
+
+namespace veldrin {
+
+class LabelWidget : public ControlWidget<QLabel> {
+ public:
+  LabelWidget(Label& label, Stage& stage, QWidget* parent);
+
+  void Take(std::string_view slot) override;
+  Shown WhatShows() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const Label& Shows() const { return static_cast<const Label&>(*control_); }
+  QColor TextColour() const;
+
+  const Look look_;
+};
+
+}  // namespace veldrin

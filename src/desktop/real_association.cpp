@@ -1,0 +1,161 @@
+#include "desktop/real_association.h"
+
+#ifdef _WIN32
+
+#include <shlobj.h>
+#include <windows.h>
+
+namespace veldrin {
+
+namespace {
+
+void TellDesktop() {
+  SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
+}
+
+}  // namespace
+
+void AssociateOnDesktop(const QString& /*extension*/) {
+  TellDesktop();
+}
+
+void DropOnDesktop(const QString& /*extension*/) {
+  TellDesktop();
+}
+
+}  // namespace veldrin
+
+#else
+
+#include "desktop/real_path.h"
+#include "desktop/real_writer.h"
+#include "runtime/fault.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kToolPatience = 20000;  // ms
+constexpr char kDesktopEntry[] = "veldrin-plan.desktop";
+constexpr char kType[] = "application/x-veldrin-plan";
+
+QString DataFolder() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
+QString PackageFile(const QString& extension) {
+  const QString name = QString::fromLatin1(QUrl::toPercentEncoding(extension.toLower()));
+  return DataFolder() + "/mime/packages/veldrin-" + name + ".xml";
+}
+
+QString DesktopFile() {
+  return DataFolder() + "/applications/" + kDesktopEntry;
+}
+
+/// A pattern that matches names with this extension, in small letters as the database wants it for any case.
+QString Pattern(const QString& extension) {
+  QString pattern = "*.";
+  for (const QChar c : extension.toLower())
+    pattern += QString("*?[").contains(c) ? "[" + QString(c) + "]" : QString(c);
+  return pattern;
+}
+
+QString Package(const QString& extension) {
+  return QString(
+             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+             "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n"
+             "  <mime-type type=\"%1\">\n"
+             "    <comment>Veldrin mission plan</comment>\n"
+             "    <comment xml:lang=\"ja\">べるどりん ミッションプラン</comment>\n"
+             "    <sub-class-of type=\"text/plain\"/>\n"
+             "    <glob weight=\"60\" pattern=\"%2\"/>\n"
+             "  </mime-type>\n"
+             "</mime-info>\n")
+      .arg(kType, Pattern(extension).toHtmlEscaped());
+}
+
+/// The program's path as a word of an Exec line: quoted, escaped within the quotes, and once more as a value.
+QString ExecWord(const QString& path) {
+  QString word;
+  for (const QChar c : path) {
+    if (QString("\"`$\\").contains(c)) word += '\\';
+    word += c;
+    if (c == '%') word += c;
+  }
+  return "\"" + word.replace("\\", "\\\\") + "\"";
+}
+
+QString Entry() {
+  return QString(
+             "[Desktop Entry]\n"
+             "Type=Application\n"
+             "Name=Veldrin\n"
+             "Name[ja]=べるどりん君\n"
+             "Exec=%1 %f\n"
+             "NoDisplay=true\n"
+             "MimeType=%2;\n")
+      .arg(ExecWord(QCoreApplication::applicationFilePath()), kType);
+}
+
+bool WriteFile(const QString& path, const QString& text) {
+  QDir().mkpath(QFileInfo(path).path());
+  return Guarded([&] {
+           ReplacingFile file(NativePath(path.toStdString()));
+           file.Append(text.toStdString());
+           file.Commit();
+         }) == 0;
+}
+
+/// Runs one of the desktop's tools to its end, without its words; one that is not installed is passed over.
+void RunTool(const QString& name, const QStringList& arguments) {
+  const QString tool = QStandardPaths::findExecutable(name);
+  if (tool.isEmpty()) return;
+  QProcess process;
+  process.setStandardInputFile(QProcess::nullDevice());
+  process.setStandardOutputFile(QProcess::nullDevice());
+  process.setStandardErrorFile(QProcess::nullDevice());
+  process.start(tool, arguments);
+  process.waitForFinished(kToolPatience);
+}
+
+bool HasDatabase() {
+  return !QStandardPaths::findExecutable("update-mime-database").isEmpty();
+}
+
+void TakeInPackages() {
+  RunTool("update-mime-database", {DataFolder() + "/mime"});
+}
+
+void TakeInEntries() {
+  RunTool("update-desktop-database", {DataFolder() + "/applications"});
+}
+
+}  // namespace
+
+void AssociateOnDesktop(const QString& extension) {
+  if (extension.isEmpty() || !HasDatabase()) return;
+  if (!WriteFile(PackageFile(extension), Package(extension)) || !WriteFile(DesktopFile(), Entry())) return;
+  TakeInPackages();
+  TakeInEntries();
+  RunTool("xdg-mime", {"default", kDesktopEntry, kType});
+}
+
+void DropOnDesktop(const QString& extension) {
+  if (extension.isEmpty() || !QFile::remove(PackageFile(extension))) return;
+  TakeInPackages();
+  if (!QDir(DataFolder() + "/mime/packages").entryList({"veldrin-*.xml"}, QDir::Files).isEmpty()) return;
+  QFile::remove(DesktopFile());
+  TakeInEntries();
+}
+
+}  // namespace veldrin
+
+#endif

@@ -1,0 +1,20 @@
+// The tie between plan files and the program on a desktop that follows the shared MIME database: one type for
+// all plan files, one package of the user for each extension that is tied to it, and an entry that opens the
+// type with this program as the user's default.
+//
+//   DATA/mime/packages/veldrin-EXTENSION.xml     the extension's pattern
+//   DATA/applications/veldrin-plan.desktop       the program, as long as one extension is tied
+//
+// The desktop's own tools take them in; where they are not installed, nothing happens at all. Windows has its
+// registry for this and is only told that it changed.
+#pragma once
+
+#include <QString>
+
+namespace veldrin {
+
+/// The extension comes without its dot; an empty one is passed over. Failures are silent.
+void AssociateOnDesktop(const QString& extension);
+void DropOnDesktop(const QString& extension);
+
+}  // namespace veldrin

@@ -1,0 +1,171 @@
+#include "desktop/real_boxes.h"
+
+#include "desktop/fonts.h"
+#include "runtime/fault.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+
+namespace veldrin {
+
+namespace {
+
+constexpr char kProgramTitle[] = "Veldrin";
+constexpr int kPrintCancelled = 32755;
+
+QMessageBox::Icon IconFor(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Information:
+      return QMessageBox::Information;
+    case BoxIcon::Exclamation:
+      return QMessageBox::Warning;
+    case BoxIcon::Question:
+      return QMessageBox::Question;
+    case BoxIcon::Critical:
+      return QMessageBox::Critical;
+    case BoxIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+/// Texts of the program end their lines with CR LF.
+QString BoxText(const std::string& text) {
+  return QString::fromStdString(text).replace("\r\n", "\n").replace('\r', '\n');
+}
+
+/// Shows a box and waits for its answer.
+int Ask(QMessageBox::Icon icon, const QString& title, const QString& text,
+        QMessageBox::StandardButtons buttons) {
+  QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+  // The texts are names and paths, and no markup.
+  box.setTextFormat(Qt::PlainText);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return box.exec();
+}
+
+#ifdef _WIN32
+
+bool AskForPdf(QPrinter& device) {
+  const QString file = QFileDialog::getSaveFileName(QApplication::activeWindow(), "Print to PDF",
+                                                    "veldrin.pdf", "PDF (*.pdf)");
+  if (file.isEmpty()) return false;
+  device.setOutputFormat(QPrinter::PdfFormat);
+  device.setOutputFileName(file);
+  return true;
+}
+
+bool HasDialog() {
+  return !QPrinterInfo::availablePrinterNames().isEmpty();
+}
+
+#else
+
+bool AskForPdf(QPrinter& /*device*/) {
+  return false;
+}
+
+/// It offers the PDF file by itself.
+bool HasDialog() {
+  return true;
+}
+
+#endif
+
+bool AskForPrinter(QPrinter& device) {
+  if (!HasDialog()) return AskForPdf(device);
+  QPrintDialog dialog(&device, QApplication::activeWindow());
+  dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+  return dialog.exec() == QDialog::Accepted;
+}
+
+}  // namespace
+
+std::string FaultText(int number) {
+  switch (number) {
+    case kFaultBadCall:
+      return "Invalid procedure call or argument";
+    case kFaultOverflow:
+      return "Overflow";
+    case kFaultSubscript:
+      return "Subscript out of range";
+    case kFaultDivisionByZero:
+      return "Division by zero";
+    case kFaultTypeMismatch:
+      return "Type mismatch";
+    case kFaultBadFileName:
+      return "Bad file name or number";
+    case kFaultFileNotFound:
+      return "File not found";
+    case kFaultFileAlreadyOpen:
+      return "File already open";
+    case kFaultDiskFull:
+      return "Disk full";
+    case kFaultPastEnd:
+      return "Input past end of file";
+    case kFaultDeviceUnavailable:
+      return "Device unavailable";
+    case kFaultPermissionDenied:
+      return "Permission denied";
+    case kFaultDriveNotReady:
+      return "Disk not ready";
+    case kFaultPathAccess:
+      return "Path/File access error";
+    case kFaultPathNotFound:
+      return "Path not found";
+    case kFaultNoControlElement:
+      return "Control array element does not exist";
+    case kFaultBadProperty:
+      return "Invalid property value";
+    default:
+      return "Application-defined or object-defined error";
+  }
+}
+
+BoxAnswer RealBoxes::Message(BoxIcon icon, const std::string& title, const std::string& text,
+                             BoxButtons buttons) {
+  const bool canCancel = buttons == BoxButtons::OkCancel;
+  const int answer =
+      Ask(IconFor(icon), title.empty() ? kProgramTitle : QString::fromStdString(title), BoxText(text),
+          canCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::StandardButtons(QMessageBox::Ok));
+  Closed();
+  return !canCancel || answer == QMessageBox::Ok ? BoxAnswer::Ok : BoxAnswer::Cancel;
+}
+
+void RealBoxes::Fault(int number) {
+  // The program is at its end: nothing is thrown from here.
+  Ask(QMessageBox::Critical, kProgramTitle,
+      QString("Run-time error '%1':\n\n%2").arg(number).arg(QString::fromStdString(FaultText(number))),
+      QMessageBox::Ok);
+}
+
+Colour RealBoxes::ChooseColour(Colour start) {
+  const QColor chosen = QColorDialog::getColor(ToQColor(start), QApplication::activeWindow());
+  Closed();
+  return chosen.isValid() ? ToColour(chosen) : start;
+}
+
+PrintChoice RealBoxes::ChoosePrinter() {
+  QPrinter& device = printer_->Device();
+  const bool accepted = AskForPrinter(device);
+  Closed();
+  PrintChoice choice;
+  if (accepted) {
+    choice.copies = device.copyCount();
+  } else {
+    choice.error = kPrintCancelled;
+  }
+  return choice;
+}
+
+void RealBoxes::Closed() const {
+  if (closed) closed();
+}
+
+}  // namespace veldrin

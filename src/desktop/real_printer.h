@@ -1,0 +1,39 @@
+// The printer, or the PDF file that stands in for one. Its page is a surface of the printable area's size.
+#pragma once
+
+#include "platform/screen.h"
+
+#include <QPrinter>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace veldrin {
+
+class RealPrinter : public Printer {
+ public:
+  /// `metrics` measures the texts on the pages and has to outlive the printer.
+  explicit RealPrinter(const TextMetrics& metrics);
+
+  /// Always: without a printer there is the PDF file.
+  bool Available() const override { return true; }
+  std::vector<std::string> Fonts() const override;
+  void SetCopies(int copies) override;
+  /// As large as the printable area of the paper that is set at this moment, when nothing is drawn yet.
+  Surface& Page() override;
+  /// What cannot be printed is dropped; the desktop tells why.
+  void EndDocument() override;
+
+  /// What the printer dialog sets up. Made when it is first asked for, since looking for printers takes time.
+  QPrinter& Device();
+
+ private:
+  void BeginPage();
+
+  const TextMetrics* metrics_;
+  Surface page_;
+  std::unique_ptr<QPrinter> device_;
+};
+
+}  // namespace veldrin

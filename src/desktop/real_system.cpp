@@ -1,0 +1,133 @@
+#include "desktop/real_system.h"
+
+#include "runtime/text.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QStorageInfo>
+
+#include <algorithm>
+#include <fstream>
+#include <utility>
+
+#ifdef _WIN32
+#include <windows.h>
+#elif defined(__linux__)
+#include <sys/sysinfo.h>
+#endif
+
+namespace veldrin {
+
+namespace {
+
+constexpr char kJapansNumber[] = "81";
+constexpr char kOtherNumber[] = "1";
+constexpr std::int64_t kSectorSize = 512;    // bytes
+constexpr std::int64_t kClusterSize = 4096;  // bytes, where the system tells none
+
+std::string CountryNumber(const QLocale& locale) {
+#ifdef _WIN32
+  wchar_t number[16] = {};
+  if (GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICOUNTRY, number, 16) > 0) {
+    return QString::fromWCharArray(number).toStdString();
+  }
+#endif
+  return locale.territory() == QLocale::Japan ? kJapansNumber : kOtherNumber;
+}
+
+/// The program works with separators of one byte; others it could not tell from its digits.
+std::optional<std::string> OneByte(const QString& separator) {
+  if (separator.size() != 1 || separator[0].unicode() >= 0x80) return std::nullopt;
+  return separator.toStdString();
+}
+
+/// A folder as the program joins names to it.
+std::string FolderText(const QString& folder) {
+  return QDir::toNativeSeparators(QDir::cleanPath(folder)).toStdString();
+}
+
+float Twips(int pixels, double zoom) {
+  return static_cast<float>(pixels * kTwipsPerPixel / zoom);
+}
+
+QSize ScreenSize() {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  return screen == nullptr ? QSize(1024, 768) : screen->size();
+}
+
+}  // namespace
+
+std::optional<std::string> RealProfile::International(const std::string& entry) const {
+  if (EqualsIgnoringCase(entry, "iCountry")) return CountryNumber(locale_);
+  if (EqualsIgnoringCase(entry, "sDecimal")) return OneByte(locale_.decimalPoint());
+  if (EqualsIgnoringCase(entry, "sThousand")) return OneByte(locale_.groupSeparator());
+  return std::nullopt;
+}
+
+bool IsJapanese(const Profile& profile) {
+  return profile.International("iCountry") == kJapansNumber;
+}
+
+std::string RealEnvironment::Variable(const std::string& name) const {
+  const QString value = qEnvironmentVariable(name.c_str());
+  if (!EqualsIgnoringCase(name, "TEMP")) return value.toStdString();
+  return FolderText(QFileInfo(value).isDir() ? value : QDir::tempPath());
+}
+
+float RealScreen::Width() const {
+  return Twips(ScreenSize().width(), zoom);
+}
+
+float RealScreen::Height() const {
+  return Twips(ScreenSize().height(), zoom);
+}
+
+MemoryFigures ReadMemoryFigures(std::istream& list) {
+  MemoryFigures figures{0, 0};
+  std::string name;
+  std::int64_t kilobytes = 0;
+  for (std::string rest; list >> name >> kilobytes; std::getline(list, rest)) {
+    if (name == "MemTotal:") figures.total = kilobytes * 1024;
+    if (name == "MemAvailable:") figures.available = kilobytes * 1024;
+  }
+  return figures;
+}
+
+MemoryFigures RealFigures::Memory() const {
+#ifdef _WIN32
+  MEMORYSTATUSEX status = {};
+  status.dwLength = sizeof status;
+  GlobalMemoryStatusEx(&status);
+  MemoryFigures figures{static_cast<std::int64_t>(status.ullTotalPhys),
+                        static_cast<std::int64_t>(status.ullAvailPhys)};
+#else
+  std::ifstream list("/proc/meminfo");
+  MemoryFigures figures = ReadMemoryFigures(list);
+#ifdef __linux__
+  struct sysinfo status = {};
+  if (figures.total == 0 && sysinfo(&status) == 0) {
+    figures.total = static_cast<std::int64_t>(status.totalram) * status.mem_unit;
+    figures.available = static_cast<std::int64_t>(status.freeram) * status.mem_unit;
+  }
+#endif
+#endif
+  // A share of nothing would be a fault.
+  figures.total = std::max<std::int64_t>(figures.total, 1);
+  return figures;
+}
+
+DiskFigures RealFigures::Disk(const std::string& root) const {
+#ifdef _WIN32
+  const QStorageInfo disk(QDir::fromNativeSeparators(QString::fromStdString(root)));
+#else
+  const bool letter = root.size() >= 2 && root[1] == ':';
+  const QStorageInfo disk(letter ? QDir::rootPath() : QString::fromStdString(root));
+#endif
+  const std::int64_t cluster = disk.blockSize() < kSectorSize ? kClusterSize : disk.blockSize();
+  return {cluster / kSectorSize, kSectorSize, std::max<std::int64_t>(disk.bytesAvailable(), 0) / cluster,
+          std::max<std::int64_t>(disk.bytesTotal() / cluster, 1)};
+}
+
+}  // namespace veldrin

@@ -1,0 +1,53 @@
+#include "desktop/scroll_bar_widget.h"
+
+#include "desktop/wheel.h"
+
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace veldrin {
+
+ScrollBarWidget::ScrollBarWidget(ScrollBar& bar, Stage& stage, QWidget* parent)
+    : ControlWidget(bar, stage, parent) {
+  setOrientation(bar.Width.get() >= bar.Height.get() ? Qt::Horizontal : Qt::Vertical);
+  setSingleStep(bar.smallChange);
+  setPageStep(bar.largeChange);
+  connect(this, &QScrollBar::valueChanged, this, [this](int value) {
+    if (control_ == nullptr || stage_->applying > 0) return;
+    Do([&, control = control_] { return user::ScrollTo(static_cast<ScrollBar&>(*control), value); });
+    if (control_ != nullptr) Take("Value");
+  });
+}
+
+void ScrollBarWidget::Take(std::string_view slot) {
+  const auto& bar = static_cast<const ScrollBar&>(*control_);
+  if (slot == "Min" || slot == "Max" || slot == "Value") {
+    const Applying applying(*stage_);
+    // A new end is told before it pushes the value; the value's own write follows.
+    setRange(bar.Min, std::max(bar.Min.get(), bar.Max.get()));
+    setValue(bar.Value);
+  } else {
+    ControlWidget::Take(slot);
+  }
+}
+
+Shown ScrollBarWidget::WhatShows() const {
+  Shown shown = ControlWidget::WhatShows();
+  shown.value = value();
+  return shown;
+}
+
+void ScrollBarWidget::mousePressEvent(QMouseEvent* event) {
+  // A scroll bar has no events of the mouse, but its window comes to the front.
+  if (control_ != nullptr) Do([control = control_] { return user::Activate(control->window); });
+  QScrollBar::mousePressEvent(event);
+}
+
+void ScrollBarWidget::wheelEvent(QWheelEvent* event) {
+  event->accept();
+  const int turns = WheelTurns(*event, wheel_);
+  if (turns != 0) setValue(value() + turns * singleStep());
+}
+
+}  // namespace veldrin

@@ -1,0 +1,129 @@
+#include "desktop/spin_widget.h"
+
+#include "desktop/wheel.h"
+
+#include <QPainter>
+#include <QPolygonF>
+#include <QStyleOptionButton>
+
+#include <algorithm>
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kFirstRepeat = 400;  // ms
+constexpr int kNextRepeat = 70;
+
+}  // namespace
+
+SpinWidget::SpinWidget(SpinButton& spin, Stage& stage, QWidget* parent) : ControlWidget(spin, stage, parent) {
+  repeat_.setSingleShot(true);
+  connect(&repeat_, &QTimer::timeout, this, [this] {
+    if (!held_) return;
+    if (inside_) Step();
+    if (held_) repeat_.start(kNextRepeat);
+  });
+}
+
+QRect SpinWidget::ArrowRect(bool up) const {
+  const bool sideBySide = width() > height() * 3 / 2;
+  if (sideBySide) {
+    const int middle = width() / 2;
+    return up ? QRect(middle, 0, width() - middle, height()) : QRect(0, 0, middle, height());
+  }
+  const int middle = height() / 2;
+  return up ? QRect(0, 0, width(), middle) : QRect(0, middle, width(), height() - middle);
+}
+
+/// One turn. Its handlers may switch the button off, or take it away.
+void SpinWidget::Step() {
+  Control* const control = control_;
+  const bool up = up_;
+  if (control == nullptr ||
+      !Do([control, up] { return user::Spin(static_cast<SpinButton&>(*control), up); })) {
+    Stop();
+  }
+}
+
+void SpinWidget::Stop() {
+  held_ = false;
+  repeat_.stop();
+  update();
+}
+
+void SpinWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  held_ = true;
+  inside_ = true;
+  up_ = ArrowRect(true).contains(event->position().toPoint());
+  repeat_.start(kFirstRepeat);
+  update();
+  Step();
+}
+
+void SpinWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  mousePressEvent(event);
+}
+
+void SpinWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) Stop();
+}
+
+void SpinWidget::mouseMoveEvent(QMouseEvent* event) {
+  inside_ = ArrowRect(up_).contains(event->position().toPoint());
+}
+
+void SpinWidget::wheelEvent(QWheelEvent* event) {
+  event->accept();
+  const int turns = WheelTurns(*event, wheel_);
+  up_ = turns > 0;
+  for (int i = 0; i < std::abs(turns) && control_ != nullptr; ++i) Step();
+}
+
+void SpinWidget::hideEvent(QHideEvent* event) {
+  Stop();
+  ControlWidget::hideEvent(event);
+}
+
+void SpinWidget::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::EnabledChange && !isEnabled()) Stop();
+  ControlWidget::changeEvent(event);
+}
+
+void SpinWidget::PaintArrow(QPainter& painter, bool up) const {
+  const QRect half = ArrowRect(up);
+  QStyleOptionButton face;
+  face.initFrom(this);
+  face.rect = half;
+  face.state.setFlag(QStyle::State_HasFocus, false);
+  face.state.setFlag(held_ && up == up_ ? QStyle::State_Sunken : QStyle::State_Raised);
+  style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &face, &painter, this);
+
+  const bool sideBySide = width() > height() * 3 / 2;
+  const double size = std::min({half.width() * 0.5, half.height() * 0.5, 7 * stage_->zoom.Factor()});
+  const QPointF middle = QRectF(half).center();
+  const double away = up ? 1 : -1;  // the way that the arrow points
+  QPolygonF arrow;
+  if (sideBySide) {
+    arrow << QPointF(size * away / 2, 0) << QPointF(-size * away / 2, -size * 0.7)
+          << QPointF(-size * away / 2, size * 0.7);
+  } else {
+    arrow << QPointF(0, -size * away / 2) << QPointF(-size * 0.7, size * away / 2)
+          << QPointF(size * 0.7, size * away / 2);
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(palette().color(QPalette::Active, QPalette::ButtonText));
+  painter.drawPolygon(arrow.translated(middle));
+  painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void SpinWidget::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().color(QPalette::Window));
+  PaintArrow(painter, true);
+  PaintArrow(painter, false);
+}
+
+}  // namespace veldrin

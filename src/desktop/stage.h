@@ -1,0 +1,32 @@
+// What all widgets of the program share.
+#pragma once
+
+#include "desktop/program_input.h"
+#include "desktop/zoom.h"
+
+namespace veldrin {
+
+struct Stage {
+  ProgramInput input;
+  Zoom zoom;
+  /// How many writers are carrying slots to widgets now; what widgets signal then is not the user's doing.
+  int applying = 0;
+  /// Whether keys fire their event and do nothing else, as scripts ask of them.
+  bool keysAlone = false;
+  /// Whether timers run by the real clock.
+  bool servesTimers = true;
+};
+
+/// While one lives, slots are being carried to widgets.
+class Applying {
+ public:
+  explicit Applying(Stage& stage) : stage_(&stage) { ++stage_->applying; }
+  ~Applying() { --stage_->applying; }
+  Applying(const Applying&) = delete;
+  Applying& operator=(const Applying&) = delete;
+
+ private:
+  Stage* stage_;
+};
+
+}  // namespace veldrin

@@ -1,0 +1,23 @@
+// The compare window: the plan of the main window and up to two plan files of the same machine beside each
+// other. Each has a chart of its own on one place; the arrows bring one to the front together with its
+// figures. The workspace keeps its plan, and nothing is written.
+//
+// All charts have the main window's scales. The main window is hidden by whoever opens this one, and shown
+// again when it unloads.
+#pragma once
+
+#include "workspace/program.h"
+
+#include <string>
+
+namespace veldrin {
+
+/// Cuts the plan line of a file at its hyphens into the texts of six gear pairs. The last takes the rest of
+/// the line; pairs beyond the line's end are empty. Raises nothing.
+/// Kept: a gear text with a hyphen of its own shifts the texts behind it.
+void SplitPairs(const std::string& line, Table<std::string, 1, kGears>& pairs);
+
+/// Binds the events of every compare window that will be loaded.
+void AttachCompareWindow(Program& program);
+
+}  // namespace veldrin
