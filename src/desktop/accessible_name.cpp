@@ -54,7 +54,8 @@ QString HeadOf(const PlacedControl& control) {
 }  // namespace
 
 QString AccessibleName(const Control& control) {
-  if (control.kind == ControlKind::Label) return {};  // its text speaks for itself
+  // A label's text speaks for itself, and so does a window's title.
+  if (control.kind == ControlKind::Label || control.parent == nullptr) return {};
   QString name = OwnCaption(control).trimmed();
   if (name.isEmpty()) name = HeadOf(static_cast<const PlacedControl&>(control));
   if (name.isEmpty() && control.parent->kind == ControlKind::Picture) {

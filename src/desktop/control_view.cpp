@@ -117,30 +117,36 @@ void PlacedView::FocusCame() {
 void PlacedView::Pressed(const QMouseEvent& event) {
   const int button = ButtonNumber(event);
   if (control_ == nullptr || button == 0) return;
-  pressedTwice_ = false;
   const bool done = Do([&, control = control_] { return PressPointer(*control, button); });
   pressedButton_ = done ? button : 0;
 }
 
 void PlacedView::PressedTwice(const QMouseEvent& event) {
-  const bool knowsTwice = control_ != nullptr && control_->FindEvent("DblClick") != nullptr;
-  if (!knowsTwice || event.button() != Qt::LeftButton) {
-    // Two quick clicks on a button are two clicks.
-    Pressed(event);
-    return;
+  pressedButton_ = 0;
+  if (control_ == nullptr) return;
+  if (event.button() == Qt::LeftButton) {
+    if (OpenAt(event.position().toPoint())) return;
+    if (control_->FindEvent("DblClick") != nullptr && ClicksItself()) {
+      Do([control = control_] { return DoublePress(*control); });
+      return;
+    }
   }
-  pressedTwice_ = true;
-  Do([control = control_] { return DoublePress(*control); });
+  // Two quick clicks on a button are two clicks.
+  Pressed(event);
 }
 
 void PlacedView::Released(const QMouseEvent& event) {
   const int button = ButtonNumber(event);
-  const bool wasPressed = button != 0 && button == pressedButton_ && !pressedTwice_;
-  if (button == pressedButton_ || pressedTwice_) pressedButton_ = 0;
-  if (!wasPressed || control_ == nullptr) return;
-  const bool inside = Widget()->rect().contains(event.position().toPoint());
-  if (!ClicksItself()) return;
-  Do([&, control = control_] { return ReleasePointer(*control, button, inside); });
+  if (button == 0 || button != pressedButton_) return;
+  pressedButton_ = 0;
+  if (control_ == nullptr) return;
+  const QPoint point = event.position().toPoint();
+  const bool inside = Widget()->rect().contains(point);
+  if (ClicksItself()) {
+    Do([&, control = control_] { return ReleasePointer(*control, button, inside); });
+  } else if (inside && button == kLeftButton) {
+    PickAt(point);
+  }
 }
 
 bool PlacedView::KeyPressed(QKeyEvent& event) {

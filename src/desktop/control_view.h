@@ -79,6 +79,8 @@ class PlacedView : public ControlView {
   void FocusCame();
 
  protected:
+  /// Whether the pointer is down on the widget.
+  bool IsPressed() const { return pressedButton_ != 0; }
   const PlacedControl& Placed() const { return static_cast<const PlacedControl&>(*control_); }
   const QWidget& ConstWidget() const { return *const_cast<PlacedView*>(this)->Widget(); }
 
@@ -97,14 +99,16 @@ class PlacedView : public ControlView {
   /// Whether the key was served, so that the widget must not see it.
   bool KeyPressed(QKeyEvent& event);
 
-  /// Whether a click inside fires the control's own Click. Lists know better what was clicked.
+  /// Whether a click inside fires the control's own Click. Lists pick what was clicked.
   virtual bool ClicksItself() const { return true; }
+  /// A left click on such a list, and a double one; false where the second press is just one more press.
+  virtual void PickAt(const QPoint& /*point*/) {}
+  virtual bool OpenAt(const QPoint& /*point*/) { return false; }
   /// What a key does to this kind beside its event; true where the widget must not see it.
   virtual bool OwnKey(QKeyEvent& /*event*/) { return false; }
 
  private:
   int pressedButton_ = 0;
-  bool pressedTwice_ = false;
 };
 
 }  // namespace veldrin

@@ -38,7 +38,7 @@ LabelWidget::LabelWidget(Label& label, Stage& stage, QWidget* parent)
 
 void LabelWidget::Take(std::string_view slot) {
   if (slot == "Caption") {
-    setText(ToWidgetText(Shows().Caption));
+    setText(ToWidgetText(Record().Caption));
   } else {
     ControlWidget::Take(slot);
   }

@@ -18,7 +18,7 @@ class LabelWidget : public ControlWidget<QLabel> {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  const Label& Shows() const { return static_cast<const Label&>(*control_); }
+  const Label& Record() const { return static_cast<const Label&>(*control_); }
   QColor TextColour() const;
 
   const Look look_;

@@ -18,7 +18,7 @@ void LineWidget::Take(std::string_view slot) {
   } else if (slot == "Enabled") {
     setEnabled(control_->Enabled);
   } else if (slot == "ForeColor") {
-    colour_ = ToQColor(Shows().ForeColor);
+    colour_ = ToQColor(Record().ForeColor);
     update();
   } else {
     TakeEnds();
@@ -36,7 +36,7 @@ void LineWidget::Rescale() {
 }
 
 void LineWidget::TakeEnds() {
-  falls_ = (Shows().X1 <= Shows().X2) == (Shows().Y1 <= Shows().Y2);
+  falls_ = (Record().X1 <= Record().X2) == (Record().Y1 <= Record().Y2);
   setGeometry(PixelsInParent(*control_, stage_->zoom));
   update();
 }

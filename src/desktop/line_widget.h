@@ -21,7 +21,7 @@ class LineWidget : public QWidget, public ControlView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  const Line& Shows() const { return static_cast<const Line&>(*control_); }
+  const Line& Record() const { return static_cast<const Line&>(*control_); }
   void TakeEnds();
 
   QColor colour_;

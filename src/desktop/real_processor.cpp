@@ -2,6 +2,7 @@
 
 #include "runtime/text.h"
 
+#include <QString>
 #include <QSysInfo>
 
 #include <fstream>

@@ -4,6 +4,9 @@
 #include "desktop/program_input.h"
 #include "desktop/zoom.h"
 
+#include <functional>
+#include <string>
+
 namespace veldrin {
 
 struct Stage {
@@ -15,6 +18,8 @@ struct Stage {
   bool keysAlone = false;
   /// Whether timers run by the real clock.
   bool servesTimers = true;
+  /// Takes the path of a file that was dropped on the window with the menu.
+  std::function<void(const std::string& path)> fileDropped;
 };
 
 /// While one lives, slots are being carried to widgets.

@@ -11,21 +11,25 @@ namespace veldrin {
 namespace {
 
 /// The panel's questions by their messages.
-enum Question : int {
-  kSpeedsDiffer = 13,
-  kNoPlanFound = 14,
-  kQuitWithChanges = 15,
-  kLoadWithChanges = 16,
-  kHistoryLoadWithChanges = 17,
-  kNoQuestion = 0,
+enum class Question {
+  SpeedsDiffer = 13,
+  NoPlanFound = 14,
+  QuitWithChanges = 15,
+  LoadWithChanges = 16,
+  HistoryLoadWithChanges = 17,
+  None = 0,
 };
 
+const std::string& TextOf(const Program& program, Question question) {
+  return Message(program.workspace, static_cast<int>(question));
+}
+
 Question AskedQuestion(const Program& program) {
-  for (const Question question :
-       {kSpeedsDiffer, kNoPlanFound, kQuitWithChanges, kLoadWithChanges, kHistoryLoadWithChanges}) {
-    if (program.form2.Label17.Caption == Message(program.workspace, question)) return question;
+  for (const Question question : {Question::SpeedsDiffer, Question::NoPlanFound, Question::QuitWithChanges,
+                                  Question::LoadWithChanges, Question::HistoryLoadWithChanges}) {
+    if (program.form2.Label17.Caption == TextOf(program, question)) return question;
   }
-  return kNoQuestion;
+  return Question::None;
 }
 
 void HidePanel(Program& program) {
@@ -38,7 +42,7 @@ void EndSpeedsDiffer(Program& program) {
   const Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
   HidePanel(program);
-  form2.Label17.Caption = Message(workspace, kNoPlanFound);
+  form2.Label17.Caption = TextOf(program, Question::NoPlanFound);
   form2.Command8.Caption = Message(workspace, 19);
   form2.Command9.Caption = Message(workspace, 23);
   EnableAll({&form2.Command11, &form2.Text2, &form2.Text3, &form2.Text4, &form2.Text6, &form2.HScroll1,
@@ -97,17 +101,17 @@ void SaveAndQuit(Program& program) {
 
 void Command8_Click(Program& program) {
   switch (AskedQuestion(program)) {
-    case kSpeedsDiffer:
+    case Question::SpeedsDiffer:
       return RecalculateBySpeed(program);
-    case kNoPlanFound:
+    case Question::NoPlanFound:
       return RecalculateByFullAuto(program);
-    case kQuitWithChanges:
+    case Question::QuitWithChanges:
       return SaveAndQuit(program);
-    case kLoadWithChanges:
+    case Question::LoadWithChanges:
       return SaveAndLoad(program, pending::kChangeLoad);
-    case kHistoryLoadWithChanges:
+    case Question::HistoryLoadWithChanges:
       return SaveAndLoad(program, pending::kChangeLoadHistory);
-    case kNoQuestion:
+    case Question::None:
       return;
   }
 }
@@ -143,17 +147,17 @@ void LoadHistoryWithoutSaving(Program& program) {
 
 void Command9_Click(Program& program) {
   switch (AskedQuestion(program)) {
-    case kSpeedsDiffer:
+    case Question::SpeedsDiffer:
       return EndSpeedsDiffer(program);
-    case kNoPlanFound:
+    case Question::NoPlanFound:
       return EnterRequestsAgain(program);
-    case kQuitWithChanges:
+    case Question::QuitWithChanges:
       return QuitWithoutSaving(program);
-    case kLoadWithChanges:
+    case Question::LoadWithChanges:
       return LoadWithoutSaving(program);
-    case kHistoryLoadWithChanges:
+    case Question::HistoryLoadWithChanges:
       return LoadHistoryWithoutSaving(program);
-    case kNoQuestion:
+    case Question::None:
       return;
   }
 }

@@ -71,8 +71,8 @@ void SizeCanvas(Form6& form6, int sizeIndex) {
   form6.Picture1.Height = size.pictureHeight;
 }
 
-/// `DataFile` up to its first point, which need not be that of its extension, with another one, in `DataPath`.
-/// Kept: `DataFile` is a full path after a load, and the system refuses a name with a second drive in it.
+/// In `DataPath`, `DataFile` up to its first point, which need not be that of its extension, and "BMP".
+/// Kept: after a load `DataFile` is a full path, and the system refuses a name with a second drive in it.
 std::string PicturePath(const Program& program) {
   const Workspace& workspace = program.workspace;
   const std::string& dataFile = workspace.DataFile;

@@ -149,7 +149,8 @@ void DrawTable(const Report& report) {
 
 // ---- Parts of the shafts ----
 
-/// The size at which a text fits into its cell, in whole points. Raises fault 11 for the empty text.
+/// The size at which a text fits into its cell, in whole points.
+/// Kept: raises fault 11 for the empty text, that of a gear without a part.
 float MainCellSize(const ReportStyle& style, const std::string& text) {
   const double fitting = std::floor(Divide(style.mainCellRoom, Length(text)));
   return static_cast<float>(std::min<double>(fitting, style.textSize));

@@ -1,0 +1,130 @@
+#include "desktop/combo_widget.h"
+
+#include "desktop/text_ends.h"
+
+#include <QLineEdit>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+#include <QWheelEvent>
+
+namespace veldrin {
+
+namespace {
+
+bool IsEditable(const Control& control) {
+  return control.kind == ControlKind::ComboBox && static_cast<const ComboBox&>(control).editable;
+}
+
+}  // namespace
+
+ComboWidget::ComboWidget(Control& control, Stage& stage, QWidget* parent)
+    : ControlWidget(control, stage, parent) {
+  setInsertPolicy(QComboBox::NoInsert);
+  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(1);
+  if (IsEditable(control)) {
+    setEditable(true);
+    setCompleter(nullptr);
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+      if (control_ == nullptr || stage_->applying > 0) return;
+      Do([&, record = control_] { return user::EnterText(*record, ToSlotText(text)); });
+      if (control_ != nullptr) TakeText();
+    });
+  }
+  connect(this, &QComboBox::activated, this, [this](int place) {
+    if (control_ == nullptr || stage_->applying > 0) return;
+    const auto index = static_cast<std::size_t>(place);
+    if (place >= 0 && index < RecordEntries().size()) {
+      const std::string entry = RecordEntries()[index];
+      Do([&, record = control_] { return user::SelectEntry(*record, entry); });
+    }
+    if (control_ != nullptr) TakeText();
+  });
+}
+
+const std::string& ComboWidget::RecordText() const {
+  if (control_->kind == ControlKind::DriveBox) return static_cast<const DriveBox&>(*control_).Drive;
+  return static_cast<const ComboBox&>(*control_).Text;
+}
+
+const std::vector<std::string>& ComboWidget::RecordEntries() const {
+  if (control_->kind == ControlKind::DriveBox) return static_cast<const DriveBox&>(*control_).entries;
+  return static_cast<const ComboBox&>(*control_).entries;
+}
+
+int ComboWidget::RecordIndex() const {
+  if (control_->kind == ControlKind::DriveBox) return static_cast<const DriveBox&>(*control_).ListIndex;
+  return static_cast<const ComboBox&>(*control_).ListIndex;
+}
+
+void ComboWidget::Take(std::string_view slot) {
+  if (slot == "Text" || slot == "Drive" || slot == "ListIndex") {
+    if (slot == "Drive") stale_ = true;  // the list is read anew with it
+    TakeText();
+  } else {
+    ControlWidget::Take(slot);
+  }
+}
+
+void ComboWidget::TakeContent() {
+  stale_ = true;
+}
+
+void ComboWidget::Settle() {
+  if (!stale_) return;
+  stale_ = false;
+  const Applying applying(*stage_);
+  clear();
+  for (const std::string& entry : RecordEntries()) addItem(ToWidgetText(entry));
+  TakeText();
+}
+
+void ComboWidget::TakeText() {
+  const Applying applying(*stage_);
+  shownText_ = ToWidgetText(RecordText());
+  if (!stale_) setCurrentIndex(RecordIndex());
+  if (isEditable() && lineEdit()->text() != shownText_) lineEdit()->setText(shownText_);
+  update();
+}
+
+void ComboWidget::TakeFont() {
+  ControlWidget::TakeFont();
+  if (isEditable()) lineEdit()->setFont(font());
+}
+
+void ComboWidget::TakeColours() {
+  ControlWidget::TakeColours();
+  if (isEditable()) lineEdit()->setPalette(palette());
+}
+
+Shown ComboWidget::WhatShows() const {
+  Shown shown = ControlWidget::WhatShows();
+  shown.text = ToSlotText(isEditable() ? lineEdit()->text() : shownText_);
+  shown.listIndex = currentIndex();
+  return shown;
+}
+
+void ComboWidget::paintEvent(QPaintEvent* event) {
+  if (isEditable()) {
+    ControlWidget::paintEvent(event);
+    return;
+  }
+  // The text may be none of the list.
+  QStylePainter painter(this);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  option.currentText = shownText_;
+  painter.drawComplexControl(QStyle::CC_ComboBox, option);
+  painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+/// The wheel over a combo that is not in use is meant for something else.
+void ComboWidget::wheelEvent(QWheelEvent* event) {
+  if (hasFocus()) {
+    ControlWidget::wheelEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace veldrin

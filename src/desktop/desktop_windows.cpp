@@ -1,0 +1,124 @@
+#include "desktop/desktop_windows.h"
+
+#include "runtime/fault.h"
+
+#include <QApplication>
+#include <QWindow>
+
+#include <utility>
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kRepaintGap = 33;   // ms
+constexpr int kFlashTime = 300;   // ms
+
+// The frame that the program counts with, in twips.
+constexpr float kFrameWidth = 120;
+constexpr float kFrameHeight = 405;
+constexpr float kMenuHeight = 285;
+
+}  // namespace
+
+DesktopWindows::DesktopWindows(Stage& stage) : stage_(&stage) {
+  stage.zoom.changed = [this] {
+    for (const auto& [window, form] : forms_) form->Rescale();
+  };
+  stage.input.afterEvent = [this] { Settle(); };
+}
+
+DesktopWindows::~DesktopWindows() = default;
+
+FormWidget* DesktopWindows::FormOf(const Window& window) const {
+  const auto found = forms_.find(&window);
+  return found == forms_.end() ? nullptr : found->second.get();
+}
+
+void DesktopWindows::Settle() {
+  for (const auto& [window, form] : forms_) form->Settle();
+  const Program* program = stage_->input.Served();
+  if (program != nullptr && program->eventDepth > 0) return;
+  // A handler of one of its widgets may be on its way back through Qt still.
+  for (auto& form : retired_) form.release()->deleteLater();
+  retired_.clear();
+}
+
+void DesktopWindows::Forget() {
+  while (!forms_.empty()) Retire(std::move(forms_.extract(forms_.begin()).mapped()));
+}
+
+void DesktopWindows::Retire(std::unique_ptr<FormWidget> form) {
+  form->LetGo();
+  retired_.push_back(std::move(form));
+}
+
+void DesktopWindows::Loaded(Window& window) {
+  forms_[&window] = std::make_unique<FormWidget>(window, *stage_);
+}
+
+void DesktopWindows::Unloaded(Window& window) {
+  auto node = forms_.extract(&window);
+  if (!node.empty()) Retire(std::move(node.mapped()));
+}
+
+void DesktopWindows::SlotWritten(Control& control, const char* slot, bool changed) {
+  FormWidget* const form = changed ? FormOf(control.window) : nullptr;
+  if (form == nullptr) return;
+  form->Take(control, slot);
+  if (&control != &control.window || control.Visible) return;
+  for (const ModalLoop& modal : loops_) {
+    if (modal.window == &control.window) modal.loop->quit();
+  }
+}
+
+void DesktopWindows::ContentChanged(Control& control) {
+  if (FormWidget* form = FormOf(control.window)) form->TakeContent(control);
+}
+
+void DesktopWindows::RunModal(Window& window) {
+  Program& program = *stage_->input.Served();
+  if (FormWidget* form = FormOf(window)) form->BecomeModal();
+  while (window.Visible && !program.ended) {
+    QEventLoop loop;
+    loops_.push_back({&window, &loop});
+    loop.exec();
+    loops_.pop_back();
+  }
+  if (program.ended) throw EndOfProgram{};
+}
+
+void DesktopWindows::Repaint(Control& control) {
+  if (sinceRepaint_.isValid() && sinceRepaint_.elapsed() < kRepaintGap) return;
+  FormWidget* const form = FormOf(control.window);
+  if (form == nullptr) return;
+  ControlView* const view = form->ViewOf(control);
+  QWidget* const widget = view == nullptr ? form : view->Widget();
+  if (widget == nullptr) return;
+  widget->repaint();
+  sinceRepaint_.start();
+}
+
+void DesktopWindows::Flash(Window& window) {
+  if (FormWidget* form = FormOf(window)) QApplication::alert(form, kFlashTime);
+}
+
+void DesktopWindows::SetEllipticRegion(Window& window, int left, int top, int right, int bottom) {
+  if (FormWidget* form = FormOf(window)) form->CutToEllipse(QRect(left, top, right - left, bottom - top));
+}
+
+void DesktopWindows::StartDrag(Window& window) {
+  FormWidget* const form = FormOf(window);
+  if (form != nullptr && form->windowHandle() != nullptr) form->windowHandle()->startSystemMove();
+}
+
+float DesktopWindows::FrameWidth(const Window& window) const {
+  return window.hasFrame ? kFrameWidth : 0;
+}
+
+float DesktopWindows::FrameHeight(const Window& window) const {
+  if (!window.hasFrame) return 0;
+  return window.hasMenu ? kFrameHeight + kMenuHeight : kFrameHeight;
+}
+
+}  // namespace veldrin

@@ -1,0 +1,61 @@
+#include "desktop/menu_view.h"
+
+namespace veldrin {
+
+namespace {
+
+const std::string kSeparatorCaption = "-";
+
+}  // namespace
+
+MenuView::MenuView(Menu& menu, Stage& stage) : ControlView(menu, stage), action_(new QAction) {
+  if (!menu.shortcut.empty()) action_->setShortcut(QKeySequence(QString::fromStdString(menu.shortcut)));
+  QObject::connect(action_.get(), &QAction::triggered, action_.get(), [this] {
+    if (control_ != nullptr) Do([control = control_] { return user::Click(*control); });
+  });
+}
+
+QMenu& MenuView::Submenu() {
+  if (!submenu_) {
+    submenu_.reset(new QMenu);
+    action_->setMenu(submenu_.get());
+  }
+  return *submenu_;
+}
+
+void MenuView::Take(std::string_view slot) {
+  if (slot == "Caption") {
+    action_->setText(MenuText(Record().Caption));
+    action_->setSeparator(Record().Caption == kSeparatorCaption);
+  } else if (slot == "Visible") {
+    action_->setVisible(Record().Visible);
+  } else if (slot == "Enabled") {
+    action_->setEnabled(Record().Enabled);
+  }
+}
+
+Shown MenuView::WhatShows() const {
+  Shown shown;
+  shown.visible = action_->isVisible();
+  shown.enabled = action_->isEnabled();
+  return shown;
+}
+
+QString MenuText(const std::string& caption) {
+  const QString plain = QString::fromStdString(caption);
+  QString text;
+  for (int i = 0; i < plain.size(); ++i) {
+    const bool mark = i > 0 && plain[i - 1] == '(' && i + 2 < plain.size() && plain[i + 2] == ')';
+    if (plain[i] == '&' && !mark) text += '&';
+    text += plain[i];
+  }
+  return text;
+}
+
+void ArrangeActions(QWidget& menu, const QList<QAction*>& actions) {
+  if (menu.actions() == actions) return;
+  for (QAction* action : menu.actions()) menu.removeAction(action);
+  menu.addActions(actions);
+}
+
+}  // namespace veldrin

@@ -1,0 +1,409 @@
+#include "desktop/real_files.h"
+
+#include "desktop/real_code_pages.h"
+#include "runtime/fault.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <ctime>
+#include <fstream>
+#include <functional>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace veldrin {
+namespace {
+
+constexpr uid_t kNobody = 65534;
+
+/// A folder of its own for each test, which the files make nothing outside of.
+class RealFilesTest : public ::testing::Test {
+ protected:
+  std::string In(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
+
+  void Put(const std::string& name, const QByteArray& bytes) const {
+    QFile file(QString::fromStdString(In(name)));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+  }
+
+  QByteArray Bytes(const std::string& name) const {
+    QFile file(QString::fromStdString(In(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
+  }
+
+  void MakeFolder(const std::string& name) const { QDir(folder.path()).mkpath(QString::fromStdString(name)); }
+
+  QStringList Names() const {
+    return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+  }
+
+  void Save(const std::string& name, const std::string& text) {
+    const auto writer = files.OpenForWriting(In(name));
+    writer->Write(text);
+    writer->Close();
+  }
+
+  QTemporaryDir folder;
+  RealFiles files{SystemCodePages(false)};
+};
+
+/// What `work` returns in a process of its own that has no rights beyond those of a plain user.
+int AsPlainUser(const std::function<int()>& work) {
+  const pid_t child = fork();
+  if (child == 0) {
+    const bool plain = geteuid() != 0 || setuid(kNobody) == 0;
+    _exit(plain ? work() : 255);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST_F(RealFilesTest, PathsFollowTheSystem) {
+  EXPECT_EQ(files.Rules().separator, '/');
+  EXPECT_EQ(files.Rules().rootLength, 0);
+}
+
+TEST_F(RealFilesTest, NamesAreFoundWithoutRegardToCaseInEachPart) {
+  MakeFolder("List/Sub");
+  Put("List/Sub/Nx4.Rat", "LIST");
+  EXPECT_TRUE(files.FileExists(In("LIST/SUB/NX4.RAT")));
+  EXPECT_EQ(files.ReadText(In("list/sub/nx4.rat")), "LIST");
+  EXPECT_EQ(files.LongName(In("LIST/SUB/NX4.RAT")), "Nx4.Rat");
+  EXPECT_EQ(files.LongName(In("LIST/sUB")), "Sub");
+  EXPECT_EQ(files.Size(In("LIST/SUB/nx4.RAT")), 4);
+  EXPECT_TRUE(files.FolderExists(In("LIST")));
+  EXPECT_EQ(files.ResolveFolder(In("LIST/SUB")), In("List/Sub"));
+  EXPECT_EQ(files.FindFirst(In("LIST/SUB/*.RAT")), "Nx4.Rat");
+  EXPECT_EQ(files.FindFirst(In("LIST/SUB/NX4.rat")), "Nx4.Rat");
+}
+
+TEST_F(RealFilesTest, JapaneseAndFullWidthNamesAreFoundToo) {
+  Put("鈴鹿Ａ.nx4", "a");
+  EXPECT_EQ(files.LongName(In("鈴鹿ａ.NX4")), "鈴鹿Ａ.nx4");
+}
+
+TEST_F(RealFilesTest, TheNameAsWrittenGoesFirst) {
+  Put("PLAN.nx4", "capitals");
+  Put("plan.nx4", "small");
+  EXPECT_EQ(files.ReadText(In("plan.nx4")), "small");
+  EXPECT_EQ(files.ReadText(In("PLAN.nx4")), "capitals");
+  EXPECT_EQ(files.ReadText(In("Plan.nx4")), "capitals");
+  EXPECT_EQ(files.FileNames(In(""), "*"), (std::vector<std::string>{"PLAN.nx4", "plan.nx4"}));
+}
+
+TEST_F(RealFilesTest, WritingUsesTheNameOnTheDisk) {
+  Put("Plan.nx4", "old");
+  Save("PLAN.NX4", "new");
+  EXPECT_EQ(Names(), QStringList("Plan.nx4"));
+  EXPECT_EQ(Bytes("Plan.nx4"), "new");
+}
+
+TEST_F(RealFilesTest, NamesThatAreNoUtf8AreReadAndWritten) {
+  const std::string name = "\x8a\x43.nx4";
+  std::ofstream(In(name)) << "a";
+  EXPECT_EQ(files.FileNames(In(""), "*.nx4"), std::vector<std::string>{name});
+  EXPECT_EQ(files.ReadText(In(name)), "a");
+  files.Delete(In(name));
+  EXPECT_FALSE(files.FileExists(In(name)));
+}
+
+TEST_F(RealFilesTest, ListsComeInOrderWithoutHiddenNamesAndFolders) {
+  for (const char* name : {"b.NX4", "A.nx4", "c.vt2", ".hidden.nx4"}) Put(name, "");
+  MakeFolder("zz.nx4");
+  MakeFolder("Aa");
+  MakeFolder(".git");
+  EXPECT_EQ(files.FileNames(In(""), "*.nx4"), (std::vector<std::string>{"A.nx4", "b.NX4"}));
+  EXPECT_EQ(files.FileNames(In(""), "*.nx4; *.VT2"), (std::vector<std::string>{"A.nx4", "b.NX4", "c.vt2"}));
+  EXPECT_EQ(files.FolderNames(In("")), (std::vector<std::string>{"Aa", "zz.nx4"}));
+  EXPECT_EQ(files.FindFirst(In("*.vt?")), "c.vt2");
+  EXPECT_EQ(files.FindFirst(In("*.xyz")), "");
+  EXPECT_EQ(files.FindFirst(In("nowhere/*.nx4")), "");
+}
+
+TEST_F(RealFilesTest, WhatIsWrittenStandsAfterCloseOnly) {
+  Put("plan.nx4", "old");
+  const auto writer = files.OpenForWriting(In("plan.nx4"));
+  writer->Write("new");
+  EXPECT_EQ(Bytes("plan.nx4"), "old");
+  writer->Close();
+  EXPECT_EQ(Bytes("plan.nx4"), "new");
+  EXPECT_EQ(Guarded([&] { writer->Write("more"); }), kFaultBadFileName);
+  writer->Close();
+  EXPECT_EQ(Bytes("plan.nx4"), "new");
+  EXPECT_EQ(Names(), QStringList("plan.nx4"));
+}
+
+TEST_F(RealFilesTest, AWriterThatIsDroppedLeavesTheFileAndNothingElse) {
+  Put("plan.nx4", "old");
+  files.OpenForWriting(In("plan.nx4"))->Write("new");
+  files.OpenForWriting(In("other.nx4"))->Write("new");
+  EXPECT_EQ(Bytes("plan.nx4"), "old");
+  EXPECT_EQ(Names(), QStringList("plan.nx4"));
+}
+
+TEST_F(RealFilesTest, AProcessThatDiesWhileWritingLeavesTheOldFileWhole) {
+  Put("plan.nx4", "old");
+  const pid_t child = fork();
+  if (child == 0) {
+    const auto writer = files.OpenForWriting(In("plan.nx4"));
+    writer->Write("half of a pl");
+    raise(SIGKILL);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  ASSERT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(Bytes("plan.nx4"), "old");
+}
+
+TEST_F(RealFilesTest, AFullDiskIsFault61AndLeavesTheOldFileWhole) {
+  Put("plan.nx4", "old");
+  int written = 0;
+  int closed = 0;
+  // A limit on the size of files stands for the end of the disk.
+  signal(SIGXFSZ, SIG_IGN);
+  rlimit before = {};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit full = {4096, before.rlim_max};
+  {
+    const auto writer = files.OpenForWriting(In("plan.nx4"));
+    setrlimit(RLIMIT_FSIZE, &full);
+    written = Guarded([&] { writer->Write(std::string(100000, 'x')); });
+    closed = Guarded([&] { writer->Close(); });
+    setrlimit(RLIMIT_FSIZE, &before);
+  }
+  EXPECT_EQ(written, kFaultDiskFull);
+  EXPECT_EQ(closed, kFaultDiskFull);
+  EXPECT_EQ(Bytes("plan.nx4"), "old");
+  EXPECT_EQ(Names(), QStringList("plan.nx4"));
+}
+
+TEST_F(RealFilesTest, AReadOnlyFileIsNeitherReplacedNorDeleted) {
+  Put("plan.nx4", "old");
+  ASSERT_EQ(chmod(In("plan.nx4").c_str(), 0444), 0);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("PLAN.nx4")); }), kFaultPermissionDenied);
+  EXPECT_EQ(Guarded([&] { files.Delete(In("plan.nx4")); }), kFaultPermissionDenied);
+  EXPECT_EQ(Bytes("plan.nx4"), "old");
+}
+
+TEST_F(RealFilesTest, AFolderThatDeniesWritingIsFault70) {
+  Put("plan.nx4", "old");
+  ASSERT_EQ(chmod(folder.path().toLocal8Bit().constData(), 0555), 0);
+  const auto fault = [&](const std::function<void()>& operation) {
+    return AsPlainUser([&] { return Guarded(operation); });
+  };
+  EXPECT_EQ(fault([&] { files.OpenForWriting(In("new.nx4")); }), kFaultPermissionDenied);
+  EXPECT_EQ(fault([&] { files.OpenForWriting(In("plan.nx4")); }), kFaultPermissionDenied);
+  EXPECT_EQ(fault([&] { files.Delete(In("plan.nx4")); }), kFaultPermissionDenied);
+  EXPECT_EQ(Bytes("plan.nx4"), "old");
+  chmod(folder.path().toLocal8Bit().constData(), 0700);
+}
+
+TEST_F(RealFilesTest, WhatMayNotBeReadIsFault75) {
+  Put("plan.nx4", "old");
+  MakeFolder("closed");
+  chmod(folder.path().toLocal8Bit().constData(), 0755);
+  chmod(In("plan.nx4").c_str(), 0000);
+  chmod(In("closed").c_str(), 0000);
+  EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ReadText(In("plan.nx4")); }); }), kFaultPathAccess);
+  EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ResolveFolder(In("closed")); }); }),
+            kFaultPathAccess);
+  EXPECT_EQ(AsPlainUser([&] { return files.FileExists(In("closed/x")) ? 1 : 0; }), 0);
+}
+
+TEST_F(RealFilesTest, FaultsTellWhatIsMissing) {
+  MakeFolder("sub");
+  Put("file", "x");
+  EXPECT_EQ(Guarded([&] { files.ReadText(In("none")); }), kFaultFileNotFound);
+  EXPECT_EQ(Guarded([&] { files.ReadText(In("none/none")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.ReadText(In("file/none")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.ReadText(In("sub")); }), kFaultPathAccess);
+  EXPECT_EQ(Guarded([&] { files.ReadText(""); }), kFaultBadFileName);
+  EXPECT_EQ(Guarded([&] { files.ReadText(In(std::string(300, 'n'))); }), kFaultBadFileName);
+  EXPECT_EQ(Guarded([&] { files.ReadText("/dev/zero"); }), kFaultPathAccess);
+  EXPECT_EQ(Guarded([&] { files.Delete(In("none")); }), kFaultFileNotFound);
+  EXPECT_EQ(Guarded([&] { files.Delete(In("sub")); }), kFaultPathAccess);
+  EXPECT_EQ(Guarded([&] { files.Size(In("none")); }), kFaultFileNotFound);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("none/x")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("file/x")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("sub")); }), kFaultPathAccess);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("a*b")); }), kFaultBadFileName);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(""); }), kFaultBadFileName);
+  EXPECT_EQ(Guarded([&] { files.ResolveFolder(In("none")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.ResolveFolder(In("file")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.FileNames(In("none"), "*"); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.SetCurrentFolder(In("none")); }), kFaultPathNotFound);
+}
+
+TEST_F(RealFilesTest, FailuresOfLookingAreNoFaults) {
+  EXPECT_FALSE(files.FileExists(""));
+  EXPECT_FALSE(files.FolderExists(std::string("a\0b", 3)));
+  EXPECT_FALSE(files.FileExists(In("")));
+  EXPECT_EQ(files.LongName(""), "");
+  EXPECT_EQ(files.LongName("/"), "");
+  EXPECT_EQ(files.FindFirst(""), files.FindFirst("*"));
+  EXPECT_EQ(files.DriveOf(""), "");
+}
+
+TEST_F(RealFilesTest, DeleteTakesTheFileAway) {
+  Put("Plan.nx4", "x");
+  files.Delete(In("PLAN.NX4"));
+  EXPECT_TRUE(Names().isEmpty());
+}
+
+TEST_F(RealFilesTest, FoldersAreSpelledFromTheRootOn) {
+  const std::string before = files.CurrentFolder();
+  MakeFolder("Sub/Deep");
+  files.SetCurrentFolder(In("SUB"));
+  EXPECT_EQ(files.CurrentFolder(), In("Sub"));
+  EXPECT_EQ(files.ResolveFolder("deep"), In("Sub/Deep"));
+  EXPECT_EQ(files.ResolveFolder("."), In("Sub"));
+  EXPECT_EQ(files.ResolveFolder("deep/../.."), folder.path().toStdString());
+  EXPECT_EQ(files.ResolveFolder(In("sub/deep/")), In("Sub/Deep"));
+  EXPECT_EQ(files.ResolveFolder("/"), "/");
+  EXPECT_EQ(files.ResolveFolder("/../.."), "/");
+  files.SetCurrentFolder(before);
+}
+
+TEST_F(RealFilesTest, ACurrentFolderThatIsGoneIsTheRoot) {
+  const std::string before = files.CurrentFolder();
+  MakeFolder("gone");
+  files.SetCurrentFolder(In("gone"));
+  QDir(folder.path()).rmdir("gone");
+  EXPECT_EQ(files.CurrentFolder(), "/");
+  files.SetCurrentFolder(before);
+}
+
+TEST_F(RealFilesTest, DrivesAreTheRootAndTheHomeFolder) {
+  const std::vector<std::string> drives = files.Drives();
+  ASSERT_FALSE(drives.empty());
+  EXPECT_EQ(drives.front(), "/");
+  EXPECT_EQ(files.DriveOf("/usr/share"), "/");
+  EXPECT_EQ(files.DriveOf("/"), "/");
+  const std::string home = QDir::homePath().toStdString();
+  EXPECT_EQ(files.DriveOf(home), home);
+  EXPECT_EQ(files.DriveOf(home + "/x/y"), home);
+  EXPECT_EQ(files.DriveOf(home + "x"), "/");
+}
+
+TEST_F(RealFilesTest, TenThousandFilesAreListedQuickly) {
+  for (int i = 0; i < 10000; ++i) Put("Plan " + std::to_string(i) + ".NX4", "");
+  const clock_t begin = clock();
+  EXPECT_EQ(files.FileNames(In(""), "*.nx4").size(), 10000U);
+  EXPECT_TRUE(files.FileExists(In("PLAN 9999.nx4")));
+  EXPECT_LT(static_cast<double>(clock() - begin) / CLOCKS_PER_SEC, 5);
+}
+
+// ---- Code pages ----
+
+// "鈴鹿 ﾃｽﾄ ソ能表、3速" with CR LF behind: characters whose second byte is a backslash among them.
+constexpr char kJapaneseBytes[] =
+    "\x97\xE9\x8E\xAD \xC3\xBD\xC4 \x83\x5C\x94\x5C\x95\x5C\x81\x41"
+    "3\x91\xAC\r\n";
+constexpr char kJapaneseText[] = "鈴鹿 ﾃｽﾄ ソ能表、3速\r\n";
+
+class RealCodePagesTest : public RealFilesTest {
+ protected:
+  RealFiles japanese{SystemCodePages(true)};
+
+  static void SaveAs(RealFiles& machine, const std::string& path, const std::string& text) {
+    const auto writer = machine.OpenForWriting(path);
+    writer->Write(text);
+    writer->Close();
+  }
+};
+
+TEST_F(RealCodePagesTest, AJapaneseRemarkGoesBackByteForByte) {
+  Put("plan.nx4", kJapaneseBytes);
+  const std::string text = japanese.ReadText(In("plan.nx4"));
+  EXPECT_EQ(text, kJapaneseText);
+  SaveAs(japanese, In("PLAN.nx4"), text);
+  EXPECT_EQ(Bytes("plan.nx4"), kJapaneseBytes);
+}
+
+TEST_F(RealCodePagesTest, AJapaneseFileThatGetsAForeignCharacterBecomesUtf8) {
+  Put("plan.nx4", kJapaneseBytes);
+  const std::string text = japanese.ReadText(In("plan.nx4")) + "한";
+  SaveAs(japanese, In("plan.nx4"), text);
+  EXPECT_EQ(Bytes("plan.nx4").toStdString(), text);
+  EXPECT_EQ(japanese.ReadText(In("plan.nx4")), text);
+}
+
+TEST_F(RealCodePagesTest, NewFilesAreUtf8) {
+  SaveAs(japanese, In("new.nx4"), kJapaneseText);
+  EXPECT_EQ(Bytes("new.nx4").toStdString(), kJapaneseText);
+  EXPECT_EQ(japanese.ReadText(In("new.nx4")), kJapaneseText);
+}
+
+TEST_F(RealCodePagesTest, AUtf8FileStaysOne) {
+  const QByteArray marked = QByteArray("\xEF\xBB\xBF") + kJapaneseText;
+  Put("plan.nx4", marked);
+  const std::string text = japanese.ReadText(In("plan.nx4"));
+  EXPECT_EQ(text, kJapaneseText);
+  SaveAs(japanese, In("plan.nx4"), text);
+  EXPECT_EQ(Bytes("plan.nx4"), marked);
+}
+
+TEST_F(RealCodePagesTest, AWesternFileGoesBackByteForByte) {
+  const QByteArray bytes =
+      "Stra\xDF"
+      "e \x80 5 \xB0 \x96\r\n";
+  Put("plan.nx4", bytes);
+  const std::string text = files.ReadText(In("plan.nx4"));
+  EXPECT_EQ(text, "Straße € 5 ° –\r\n");
+  SaveAs(files, In("plan.nx4"), text);
+  EXPECT_EQ(Bytes("plan.nx4"), bytes);
+}
+
+TEST_F(RealCodePagesTest, EveryCharacterOfThePageComesBack) {
+  const CodePages pages = SystemCodePages(true);
+  int characters = 0;
+  for (int lead = 0x81; lead <= 0xFC; ++lead) {
+    if (lead > 0x9F && lead < 0xE0) continue;
+    for (int trail = 0x40; trail <= 0xFC; ++trail) {
+      const std::string bytes{static_cast<char>(lead), static_cast<char>(trail)};
+      const auto text = pages.decode(kJapanesePage, bytes);
+      if (!text) continue;
+      ++characters;
+      const auto back = pages.encode(kJapanesePage, *text);
+      ASSERT_TRUE(back) << lead << " " << trail;
+      // Some characters stand in the page twice.
+      EXPECT_EQ(pages.decode(kJapanesePage, *back), text) << lead << " " << trail;
+    }
+  }
+  EXPECT_GT(characters, 7000);
+  std::string plain;
+  for (int c = 0; c < 0x80; ++c) plain += static_cast<char>(c);
+  EXPECT_EQ(pages.decode(kJapanesePage, plain), plain);
+  EXPECT_EQ(pages.encode(kJapanesePage, plain), plain);
+}
+
+TEST_F(RealCodePagesTest, WhatThePageDoesNotHoldIsToldAsSuch) {
+  const CodePages pages = SystemCodePages(true);
+  EXPECT_EQ(pages.decode(kJapanesePage, "ab\x81"), std::nullopt);
+  EXPECT_EQ(pages.decode(kJapanesePage, "\xFF"), std::nullopt);
+  EXPECT_EQ(pages.encode(kJapanesePage, "한"), std::nullopt);
+  EXPECT_EQ(pages.encode(kJapanesePage, "é"), std::nullopt);
+  EXPECT_EQ(pages.encode(123456, "a"), std::nullopt);
+  EXPECT_EQ(pages.decode(123456, "a"), std::nullopt);
+  EXPECT_EQ(pages.decode(kJapanesePage, ""), "");
+}
+
+TEST_F(RealCodePagesTest, LongTextsAreConvertedWhole) {
+  const CodePages pages = SystemCodePages(true);
+  std::string bytes;
+  std::string text;
+  for (int i = 0; i < 5000; ++i) bytes += kJapaneseBytes, text += kJapaneseText;
+  EXPECT_EQ(pages.decode(kJapanesePage, bytes), text);
+  EXPECT_EQ(pages.encode(kJapanesePage, text), bytes);
+}
+
+}  // namespace
+}  // namespace veldrin
