@@ -6,7 +6,7 @@
 #pragma once
 
 #include "desktop/stage.h"
-#include "view/controls.h"
+#include "view/user_input.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

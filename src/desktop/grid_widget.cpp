@@ -3,6 +3,7 @@
 #include "desktop/text_ends.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 
 #include <algorithm>
 

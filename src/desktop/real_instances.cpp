@@ -1,5 +1,7 @@
 #include "desktop/real_instances.h"
 
+#include "desktop/real_lock.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -24,7 +26,7 @@ std::unique_ptr<QLockFile> NewLock(const QString& name) {
 class Gate {
  public:
   explicit Gate(const QString& locks) : lock_(NewLock(locks + "instances.lock")) {
-    lock_->tryLock(kGatePatience);
+    TakeLock(*lock_, kGatePatience);
   }
 
  private:

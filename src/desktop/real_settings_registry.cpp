@@ -1,5 +1,6 @@
 #include "desktop/real_settings_registry.h"
 
+#include "desktop/real_lock.h"
 #include "desktop/real_path.h"
 #include "desktop/real_processor.h"
 #include "desktop/real_writer.h"
@@ -90,7 +91,7 @@ bool SettingsRegistry::Store(const Change& change) {
 
   QDir().mkpath(QFileInfo(file_).path());
   QLockFile lock(file_ + ".lock");
-  if (!lock.tryLock(kLockPatience)) return false;
+  if (!TakeLock(lock, kLockPatience)) return false;
   std::optional<SettingsTree> tree = Load();
   if (!tree) return false;
   for (const Change& waiting : waiting_) Apply(*tree, waiting);

@@ -3,6 +3,7 @@
 #include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
 #include "calc/plan_search.h"
+#include "mainwin/gear_panel_state.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
@@ -161,40 +162,21 @@ void ShowPlanPanels(Form2& form2) {
   form2.Picture15.Visible = true;
 }
 
-void EnableSpin(SpinButton& spin) {
-  spin.Enabled = true;
-  spin.ForeColor = kBlack;
-}
-
 /// The chosen rows and pairs on the main window, without a refresh.
 void ShowChosenRows(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
   workspace.CallerWord = caller::kModule1;
-  form2.Label6.Enabled = true;
-  form2.Label8.Enabled = true;
-  form2.HScroll1.Enabled = true;
-  form2.HScroll2.Enabled = true;
-  form2.Command11.Enabled = true;
+  EnableAll({&form2.Label6, &form2.Label8, &form2.HScroll1, &form2.HScroll2, &form2.Command11});
   form2.Label6.Caption = workspace.PrimaryTable[workspace.PrimaryIndex].Text;
   form2.Label8.Caption = workspace.FinalTable[workspace.FinalIndex].Text;
   form2.Label43.Caption = "CHG";
-  if (workspace.PrimaryCount >= 2) EnableSpin(form2.Spin4);
-  EnableSpin(form2.Spin5);
+  EnableRowSpins(program);
   for (int gear = 1; gear <= kGears; ++gear) {
     form2.Label12[gear].Caption = workspace.GearTable(gear, workspace.PlanIndex[gear]);
   }
   form2.Command11.Visible = true;
   form2.f_rest.Enabled = true;
-}
-
-void EnableSaving(Form2& form2, bool enabled) {
-  form2.menu_save.Enabled = enabled;
-  form2.Command5.Enabled = enabled;
-  form2.menu_print.Enabled = enabled;
-  form2.menu_comb.Enabled = enabled;
-  form2.menu_edit.Enabled = enabled;
-  form2.Picture28.MousePointer = enabled ? kPointerDefault : kPointerNoDrop;
 }
 
 /// Kept: the arrows keep their colour.
@@ -229,7 +211,7 @@ void Command1_Click(Program& program) {
   workspace.ModeWord = mode::kChange;
   form2.Label38.Visible = false;
   form2.f_calc.Enabled = false;
-  EnableSaving(form2, true);
+  EnableOutput(program, true);
   ShowBaseline(program);
   SetGearsToAuto(program);
   form2.Picture28.Enabled = true;
@@ -244,7 +226,7 @@ void Command2_Click(Program& program) {
   Form2& form2 = program.form2;
   program.workspace.ModeWord = mode::kSpeed;
   form2.f_calc.Enabled = true;
-  EnableSaving(form2, false);
+  EnableOutput(program, false);
   if (AllGearsAuto(program)) form2.Picture1.Visible = true;
   program.workspace.ResultWord = result::kNone;
   program.form4->UnloadWindow();

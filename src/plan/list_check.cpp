@@ -271,8 +271,11 @@ class ListChecker {
   int rows_ = 0;  // 0 while the list does not say a possible number
 };
 
-/// The line of the first character that no text file holds, 0 when there is none.
+/// The line of the first character that no text file holds, 0 when there is none. Older editors end a file
+/// with a character of their own.
 int LineOfBinary(std::string_view text) {
+  constexpr char kEndOfFile = '\x1A';
+  if (text.back() == kEndOfFile) text.remove_suffix(1);
   int line = 1;
   for (std::size_t at = 0; at < text.size(); ++at) {
     const char c = text[at];

@@ -18,7 +18,7 @@ TEST(RealProfile, TellsTheLocale) {
   };
   const Case cases[] = {
       {QLocale(QLocale::Japanese, QLocale::Japan), "81", ".", ","},
-      {QLocale(QLocale::English, QLocale::Japan), "81", ".", ","},
+      {QLocale("ja"), "81", ".", ","},
       {QLocale(QLocale::English, QLocale::UnitedStates), "1", ".", ","},
       {QLocale(QLocale::German, QLocale::Germany), "1", ",", "."},
       {QLocale::c(), "1", ".", ","},

@@ -1,0 +1,239 @@
+#include "plan/arguments.h"
+
+#include "plan/list_remarks.h"
+#include "runtime/conversion.h"
+#include "runtime/fault.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <map>
+
+namespace veldrin {
+
+const char kPlanHelp[] =
+    R"(veldrin-plan searches mission plans for a machine list, as the program's FULL AUTO does.
+
+  veldrin-plan LIST.RAT --speed V1,V2,V3,V4,V5,V6 [OPTION]...
+  veldrin-plan --check LIST.RAT
+  veldrin-plan --help | --version
+
+  --speed V1,...,V6   speeds wanted in gears 1 to 6, whole km/h of 10 and more
+  --manual G=-A+B     gear G stays within A km/h below and B above its speed, 1 to 21 each; may be given for
+                      several gears. The others then widen as the window's AUTO gears do beside a MANUAL one
+  --main G            gear G stays within 1 km/h; not together with --manual
+  --min-plan N        plans wanted before the search stops, 1 to 30, default 1; not together with --manual
+  --shift-ne N        shift-up revolutions, 5000 to 24000, default the list's SHIFT_NE, else 13000
+  --tyre L            rolling length of the tyre in metres, 1 to 3, default the list's TYRE_L, else 1.9
+  --format FORMAT     table (default): a block for each plan
+                      csv: one line for each gear of each plan, with the columns plan, primary, final, gear,
+                      pair, request, speed, step, ne_after; the last two are empty in gear 1
+                      json: one object; what gear 1 does not have is null
+  --check LIST.RAT    reads a list strictly and names every fault with its line
+
+"step" is the speed above the gear below, "ne_after" the revolutions after changing up into the gear. Numbers
+are written with a point. A list is checked strictly before a search. Lists are UTF-8 or code page 1252.
+
+Exit status: 0 plans were found, or the list is fine; 1 no plan was found; 2 the command line or the list is
+wrong, or more than 30 plans meet the speeds.
+)";
+
+namespace {
+
+[[noreturn]] void Refuse(const std::string& text) {
+  throw BadArgument{text};
+}
+
+/// The number that `text` spells; refused, with the option's name, when it is none or out of range.
+double Number(const std::string& option, const std::string& text, double lowest, double highest) {
+  double value = 0;
+  if (Guarded([&] { value = ParseNumber(text); }) != 0)
+    Refuse(option + ": " + Quoted(text) + " is no number");
+  if (value < lowest || value > highest) {
+    Refuse(option + ": " + text + " is out of range, " + ShortestText(lowest) + " to " +
+           ShortestText(highest));
+  }
+  return value;
+}
+
+int WholeNumber(const std::string& option, const std::string& text, int lowest, int highest) {
+  const double value = Number(option, text, lowest, highest);
+  if (value != std::floor(value)) Refuse(option + ": " + text + " is not a whole number");
+  return static_cast<int>(value);
+}
+
+std::vector<std::string> SplitAtCommas(const std::string& text) {
+  std::vector<std::string> parts;
+  std::size_t begin = 0;
+  while (true) {
+    const std::size_t comma = text.find(',', begin);
+    parts.push_back(text.substr(begin, comma - begin));
+    if (comma == std::string::npos) return parts;
+    begin = comma + 1;
+  }
+}
+
+void ReadSpeeds(const std::string& text, PlanArguments& result) {
+  constexpr double kLowest = 10;
+  const std::vector<std::string> parts = SplitAtCommas(text);
+  if (parts.size() != kGears) {
+    Refuse("--speed: six speeds are needed, found " + std::to_string(parts.size()));
+  }
+  for (int gear = 1; gear <= kGears; ++gear) {
+    const std::string& part = parts[static_cast<std::size_t>(gear - 1)];
+    double value = 0;
+    if (Guarded([&] { value = ParseNumber(part); }) != 0)
+      Refuse("--speed: " + Quoted(part) + " is no number");
+    if (value != std::floor(value)) Refuse("--speed: " + part + " is not a whole number of km/h");
+    if (value < kLowest) Refuse("--speed: " + part + " is too low, 10 is the least");
+    if (Guarded([&] { result.speed[gear] = ToSingle(value); }) != 0)
+      Refuse("--speed: " + part + " is too high");
+  }
+}
+
+/// G=-A+B
+void ReadManual(const std::string& text, PlanArguments& result) {
+  constexpr int kWidest = 21;
+  const std::size_t equals = text.find("=-");
+  const std::size_t plus = text.find('+', equals == std::string::npos ? 0 : equals);
+  if (equals == std::string::npos || plus == std::string::npos) {
+    Refuse("--manual: " + Quoted(text) + " is not of the form G=-A+B");
+  }
+  const int gear = WholeNumber("--manual", text.substr(0, equals), 1, kGears);
+  if (result.manual[gear]) Refuse("--manual: gear " + std::to_string(gear) + " is given twice");
+  const int below = WholeNumber("--manual", text.substr(equals + 2, plus - equals - 2), 1, kWidest);
+  const int above = WholeNumber("--manual", text.substr(plus + 1), 1, kWidest);
+  result.manual[gear] = ManualBounds{static_cast<std::int16_t>(below), static_cast<std::int16_t>(above)};
+}
+
+void ReadFormat(const std::string& text, PlanArguments& result) {
+  if (text == "table") {
+    result.format = PlanFormat::Table;
+  } else if (text == "csv") {
+    result.format = PlanFormat::Csv;
+  } else if (text == "json") {
+    result.format = PlanFormat::Json;
+  } else {
+    Refuse("--format: " + Quoted(text) + " is none of table, csv and json");
+  }
+}
+
+using Reader = std::function<void(const std::string& text, PlanArguments& result)>;
+
+/// The options that take a value.
+const std::map<std::string, Reader>& Readers() {
+  static const std::map<std::string, Reader> readers = {
+      {"--speed", ReadSpeeds},
+      {"--manual", ReadManual},
+      {"--format", ReadFormat},
+      {"--main", [](const std::string& text,
+                    PlanArguments& result) { result.mainGear = WholeNumber("--main", text, 1, kGears); }},
+      {"--min-plan",
+       [](const std::string& text, PlanArguments& result) {
+         result.minPlan = static_cast<std::int16_t>(WholeNumber("--min-plan", text, 1, kPlanLimit));
+       }},
+      {"--shift-ne",
+       [](const std::string& text, PlanArguments& result) {
+         result.shiftNe = static_cast<std::int16_t>(WholeNumber("--shift-ne", text, 5000, 24000));
+       }},
+      {"--tyre",
+       [](const std::string& text, PlanArguments& result) {
+         result.tyreLength = static_cast<float>(Number("--tyre", text, 1, 3));
+       }},
+  };
+  return readers;
+}
+
+/// Reads the words one by one and keeps which options were given.
+class ArgumentReader {
+ public:
+  explicit ArgumentReader(const std::vector<std::string>& words) : words_(words) {}
+
+  PlanArguments Read() {
+    while (at_ < words_.size() && !IsToldApart()) ReadWord(words_[at_++]);
+    CheckTogether();
+    return result_;
+  }
+
+ private:
+  /// --help and --version stand for themselves, whatever else is there.
+  bool IsToldApart() const {
+    return result_.action == PlanAction::Help || result_.action == PlanAction::Version;
+  }
+
+  void ReadWord(const std::string& word) {
+    if (onlyPaths_ || !word.starts_with("-")) {
+      if (!result_.listPath.empty()) Refuse("a second list, " + Quoted(word));
+      if (word.empty()) Refuse("the list's name is empty");
+      result_.listPath = word;
+    } else if (word == "--") {
+      onlyPaths_ = true;
+    } else if (word == "--help" || word == "-h") {
+      result_.action = PlanAction::Help;
+    } else if (word == "--version") {
+      result_.action = PlanAction::Version;
+    } else if (word == "--check") {
+      result_.action = PlanAction::Check;
+    } else {
+      ReadOption(word);
+    }
+  }
+
+  /// "--option value" or "--option=value".
+  void ReadOption(const std::string& word) {
+    const std::size_t equals = word.find('=');
+    const std::string option = word.substr(0, equals);
+    const auto found = Readers().find(option);
+    if (found == Readers().end()) Refuse("unknown option " + Quoted(option) + "; --help tells all");
+    const bool isGiven = std::find(given_.begin(), given_.end(), option) != given_.end();
+    if (isGiven && option != "--manual") Refuse(option + " is given twice");
+    given_.push_back(option);
+    if (equals != std::string::npos) {
+      found->second(word.substr(equals + 1), result_);
+    } else if (at_ < words_.size()) {
+      found->second(words_[at_++], result_);
+    } else {
+      Refuse(option + " needs a value");
+    }
+  }
+
+  bool IsGiven(const char* option) const {
+    return std::find(given_.begin(), given_.end(), option) != given_.end();
+  }
+
+  void CheckTogether() const {
+    if (IsToldApart()) return;
+    if (result_.listPath.empty()) Refuse("no list is named; --help tells more");
+    if (result_.action == PlanAction::Check) {
+      if (!given_.empty()) Refuse("--check and " + given_.front() + " do not go together");
+      return;
+    }
+    if (!IsGiven("--speed")) Refuse("--speed is missing; --help tells more");
+    for (const char* option : {"--main", "--min-plan"}) {
+      if (result_.HasManual() && IsGiven(option)) {
+        Refuse(std::string(option) + " and --manual do not go together");
+      }
+    }
+  }
+
+  const std::vector<std::string>& words_;
+  std::size_t at_ = 0;
+  bool onlyPaths_ = false;
+  std::vector<std::string> given_;
+  PlanArguments result_;
+};
+
+}  // namespace
+
+bool PlanArguments::HasManual() const {
+  for (int gear = 1; gear <= kGears; ++gear) {
+    if (manual[gear]) return true;
+  }
+  return false;
+}
+
+PlanArguments ReadArguments(const std::vector<std::string>& arguments) {
+  return ArgumentReader(arguments).Read();
+}
+
+}  // namespace veldrin

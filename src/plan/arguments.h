@@ -1,0 +1,47 @@
+// The command line of veldrin-plan.
+#pragma once
+
+#include "workspace/workspace.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace veldrin {
+
+enum class PlanAction { Search, Check, Help, Version };
+enum class PlanFormat { Table, Csv, Json };
+
+/// The bounds of a gear set to MANUAL, in km/h.
+struct ManualBounds {
+  std::int16_t minus = 0;
+  std::int16_t plus = 0;
+};
+
+struct PlanArguments {
+  PlanAction action = PlanAction::Search;
+  std::string listPath;
+  Table<float, 1, kGears> speed;  // km/h, whole
+  Table<std::optional<ManualBounds>, 1, kGears> manual;
+  int mainGear = 0;  // 0 for none
+  std::optional<std::int16_t> shiftNe;
+  std::optional<float> tyreLength;
+  std::int16_t minPlan = 1;
+  PlanFormat format = PlanFormat::Table;
+
+  bool HasManual() const;
+};
+
+/// What is wrong with a command line, in one sentence.
+struct BadArgument {
+  std::string text;
+};
+
+/// Reads the arguments behind the program's name. Throws BadArgument.
+PlanArguments ReadArguments(const std::vector<std::string>& arguments);
+
+/// The text of --help.
+extern const char kPlanHelp[];
+
+}  // namespace veldrin

@@ -1,0 +1,30 @@
+// The plans that a search left in the workspace, with their texts and figures.
+#pragma once
+
+#include "workspace/workspace.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace veldrin {
+
+struct FoundGear {
+  std::string pair;
+  float request = 0;  // km/h
+  float speed = 0;    // km/h
+  float step = 0;     // km/h above the gear below; 0 in gear 1
+  float afterNe = 0;  // rev/min after changing up into the gear; the shift-up revolutions in gear 1
+};
+
+struct FoundPlan {
+  std::string primary;
+  std::string final;
+  std::array<FoundGear, kGears> gears;
+};
+
+/// The plans of `PlanList`, in its order. Gaps that the search leaves between them are passed over. Raises
+/// fault 11 (or 6) where a speed of 0 is a divisor.
+std::vector<FoundPlan> FoundPlans(const Workspace& workspace);
+
+}  // namespace veldrin

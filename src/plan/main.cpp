@@ -1,0 +1,15 @@
+// veldrin-plan: the search for plans on the console.
+#include "plan/planner.h"
+
+#include <iostream>
+#include <string>
+#include <vector>
+
+int main(int count, char** words) {
+  const std::vector<std::string> arguments(words + (count > 0 ? 1 : 0), words + count);
+  const int status = veldrin::RunPlanner(arguments, std::cout, std::cerr);
+  std::cout.flush();
+  if (std::cout) return status;
+  std::cerr << "veldrin-plan: the output cannot be written\n";
+  return 2;
+}

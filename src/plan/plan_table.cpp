@@ -1,0 +1,64 @@
+#include "plan/plan_output.h"
+#include "runtime/conversion.h"
+#include "runtime/number_format.h"
+#include "runtime/text.h"
+
+#include <algorithm>
+
+namespace veldrin {
+
+namespace {
+
+constexpr const char* kGearNames[] = {"1ST", "2ND", "3RD", "4TH", "5TH", "6TH"};
+
+/// Columns that a text takes on a console: characters of three bytes and more are wide ones.
+int Columns(const std::string& text) {
+  int columns = 0;
+  for (const std::string& character : Characters(text)) columns += character.size() >= 3 ? 2 : 1;
+  return columns;
+}
+
+std::string Blanks(int count) {
+  return std::string(static_cast<std::size_t>(std::max(0, count)), ' ');
+}
+
+std::string Behind(const std::string& text, int width) {
+  return text + Blanks(width - Columns(text));
+}
+
+std::string Before(const std::string& text, int width) {
+  return Blanks(width - Columns(text)) + text;
+}
+
+int WidthOfPairs(const std::vector<FoundPlan>& plans) {
+  int width = Columns("pair");
+  for (const FoundPlan& plan : plans) {
+    for (const FoundGear& gear : plan.gears) width = std::max(width, Columns(gear.pair));
+  }
+  return width;
+}
+
+void WriteGear(std::ostream& out, std::size_t k, const FoundGear& gear, int pairWidth) {
+  out << "  " << kGearNames[k] << "   " << Behind(gear.pair, pairWidth)
+      << Before(ShortestText(gear.request), 10) << Before(FormatNumber(gear.speed, "0.0"), 8)
+      << Before(FormatNumber(gear.speed - gear.request, "+0.0;-0.0;0.0"), 8);
+  if (k > 0) out << Before(FormatNumber(gear.step, "0.0"), 8) << Before(FormatNumber(gear.afterNe, "0"), 10);
+  out << '\n';
+}
+
+}  // namespace
+
+void WriteTable(std::ostream& out, const Workspace& workspace, const std::vector<FoundPlan>& plans) {
+  out << workspace.MachineName << "   tyre " << ShortestText(workspace.TyreLength) << " m   shift "
+      << workspace.ShiftNe << " rev/min   " << plans.size() << (plans.size() == 1 ? " plan\n" : " plans\n");
+  const int pairWidth = WidthOfPairs(plans);
+  int number = 0;
+  for (const FoundPlan& plan : plans) {
+    out << "\nPlan " << ++number << "   primary " << plan.primary << "   final " << plan.final << '\n'
+        << "  gear  " << Behind("pair", pairWidth) << Before("request", 10) << Before("speed", 8)
+        << Before("off", 8) << Before("step", 8) << Before("ne after", 10) << '\n';
+    for (std::size_t k = 0; k < plan.gears.size(); ++k) WriteGear(out, k, plan.gears[k], pairWidth);
+  }
+}
+
+}  // namespace veldrin

@@ -1,0 +1,179 @@
+#include "plan/planner.h"
+
+#include "calc/plan_search.h"
+#include "plan/arguments.h"
+#include "plan/list_check.h"
+#include "plan/plan_output.h"
+#include "platform/text_encoding.h"
+#include "runtime/fault.h"
+#include "runtime/text_file.h"
+#include "workspace/list_tables.h"
+
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <system_error>
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kDone = 0;
+constexpr int kNoPlanFound = 1;
+constexpr int kBadInput = 2;
+
+constexpr float kDefaultTyreLength = 1.9F;
+constexpr std::int16_t kDefaultShiftNe = 13000;
+constexpr std::size_t kLargestList = 1 << 20;  // bytes; what is larger is no list
+
+std::filesystem::path PathOf(const std::string& text) {
+  return std::filesystem::path(text);
+}
+
+/// The file's text; nothing, and a line on `errors`, when it cannot be had.
+std::optional<std::string> ReadList(const std::string& path, std::ostream& errors) {
+  std::error_code ignored;
+  if (std::filesystem::is_directory(PathOf(path), ignored)) {
+    errors << path << ": is a folder\n";
+    return {};
+  }
+  std::ifstream file(PathOf(path), std::ios::binary);
+  std::string bytes(kLargestList + 1, '\0');
+  if (file) file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (!file.is_open() || file.bad()) {
+    errors << path << ": cannot be read\n";
+    return {};
+  }
+  bytes.resize(static_cast<std::size_t>(file.gcount()));
+  if (bytes.size() > kLargestList) {
+    errors << path << ": too large for a machine list\n";
+    return {};
+  }
+  return TextEncoding(CodePages{}).Decode(path, bytes);
+}
+
+ListRemarks CheckFile(const std::string& path, const std::string& text) {
+  return CheckList(text, PathOf(path).stem().string());
+}
+
+void WriteRemark(std::ostream& errors, const std::string& path, const ListRemark& remark) {
+  errors << path << ':' << remark.line << ": " << (remark.warning ? "warning: " : "") << remark.text << '\n';
+}
+
+/// Fills the tables as the program's window does.
+Workspace ReadMachine(const std::string& text) {
+  Workspace workspace;
+  workspace.TyreLength = kDefaultTyreLength;
+  workspace.ShiftNe = kDefaultShiftNe;
+  TextReader reader(text);
+  reader.Field();  // the tag
+  ReadListTables(reader, workspace, [] {});
+  BuildFinalTable(workspace);
+  SortTables(workspace);
+  return workspace;
+}
+
+int Check(const PlanArguments& arguments, std::ostream& out, std::ostream& errors) {
+  const std::string& path = arguments.listPath;
+  const std::optional<std::string> text = ReadList(path, errors);
+  if (!text) return kBadInput;
+  const ListRemarks remarks = CheckFile(path, *text);
+  for (const ListRemark& remark : remarks.InOrder()) WriteRemark(errors, path, remark);
+  if (remarks.Faults() > 0) return kBadInput;
+  const Workspace workspace = ReadMachine(*text);
+  out << path << ": fine: machine " << workspace.MachineName << ", " << workspace.PrimaryCount << " primary, "
+      << FinalRowCount(workspace) << " final and " << workspace.GearRows << " gear rows\n";
+  return kDone;
+}
+
+bool RunSearch(const PlanArguments& arguments, Workspace& workspace) {
+  const Blink silent = [](int) {};
+  if (!arguments.HasManual()) return SearchAuto(workspace, arguments.mainGear, silent);
+  Table<bool, 1, kGears> manual;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    manual[gear] = arguments.manual[gear].has_value();
+    const ManualBounds bounds = arguments.manual[gear].value_or(ManualBounds{1, 1});
+    workspace.ToleranceMinus[gear] = bounds.minus;
+    workspace.TolerancePlus[gear] = bounds.plus;
+  }
+  return SearchMixed(workspace, manual, silent);
+}
+
+void WritePlans(std::ostream& out, PlanFormat format, const Workspace& workspace,
+                const std::vector<FoundPlan>& plans) {
+  switch (format) {
+    case PlanFormat::Table:
+      if (!plans.empty()) WriteTable(out, workspace, plans);
+      break;
+    case PlanFormat::Csv:
+      WriteCsv(out, plans);
+      break;
+    case PlanFormat::Json:
+      WriteJson(out, workspace, plans);
+      break;
+  }
+}
+
+std::string FaultText(int number) {
+  switch (number) {
+    case kFaultSubscript:
+      return "more than 30 plans meet these speeds; ask for narrower ones";
+    case kFaultDivisionByZero:
+      return "a division by zero in the speeds";
+    default:
+      return "fault " + std::to_string(number) + " in the arithmetic";
+  }
+}
+
+int Search(const PlanArguments& arguments, std::ostream& out, std::ostream& errors) {
+  const std::string& path = arguments.listPath;
+  const std::optional<std::string> text = ReadList(path, errors);
+  if (!text) return kBadInput;
+  for (const ListRemark& remark : CheckFile(path, *text).InOrder()) {
+    if (remark.warning) continue;
+    WriteRemark(errors, path, remark);
+    return kBadInput;
+  }
+  Workspace workspace = ReadMachine(*text);
+  workspace.ShiftNe = arguments.shiftNe.value_or(workspace.ShiftNe);
+  workspace.TyreLength = arguments.tyreLength.value_or(workspace.TyreLength);
+  workspace.MinPlan = arguments.minPlan;
+  workspace.SpeedRequest = arguments.speed;
+  try {
+    const bool found = RunSearch(arguments, workspace);
+    WritePlans(out, arguments.format, workspace, found ? FoundPlans(workspace) : std::vector<FoundPlan>());
+    if (found) return kDone;
+  } catch (const RuntimeFault& fault) {
+    errors << path << ": " << FaultText(fault.number) << '\n';
+    return kBadInput;
+  }
+  errors << path << ": no plan found\n";
+  return kNoPlanFound;
+}
+
+}  // namespace
+
+int RunPlanner(const std::vector<std::string>& words, std::ostream& out, std::ostream& errors) {
+  PlanArguments arguments;
+  try {
+    arguments = ReadArguments(words);
+  } catch (const BadArgument& bad) {
+    errors << "veldrin-plan: " << bad.text << '\n';
+    return kBadInput;
+  }
+  switch (arguments.action) {
+    case PlanAction::Help:
+      out << kPlanHelp;
+      return kDone;
+    case PlanAction::Version:
+      out << "veldrin-plan " << VELDRIN_VERSION << '\n';
+      return kDone;
+    case PlanAction::Check:
+      return Check(arguments, out, errors);
+    case PlanAction::Search:
+      return Search(arguments, out, errors);
+  }
+  return kBadInput;
+}
+
+}  // namespace veldrin
