@@ -101,6 +101,8 @@ Shown ComboWidget::WhatShows() const {
   Shown shown = ControlWidget::WhatShows();
   shown.text = ToSlotText(isEditable() ? lineEdit()->text() : shownText_);
   shown.listIndex = currentIndex();
+  shown.entries.emplace();
+  for (int i = 0; i < count(); ++i) shown.entries->push_back(ToSlotText(itemText(i)));
   return shown;
 }
 

@@ -17,12 +17,15 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace veldrin {
 
 /// What a user sees of a control, in the words of its slots; nothing where the widget does not show it.
 struct Shown {
   std::optional<std::string> text;
+  std::optional<std::string> path;
+  std::optional<std::vector<std::string>> entries;
   std::optional<bool> visible;
   std::optional<bool> enabled;
   std::optional<bool> chosen;

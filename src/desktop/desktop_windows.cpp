@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace veldrin {
@@ -23,7 +24,7 @@ constexpr float kMenuHeight = 285;
 
 DesktopWindows::DesktopWindows(Stage& stage) : stage_(&stage) {
   stage.zoom.changed = [this] {
-    for (const auto& [window, form] : forms_) form->Rescale();
+    for (const auto& form : forms_) form->Rescale();
   };
   stage.input.afterEvent = [this] { Settle(); };
 }
@@ -31,12 +32,13 @@ DesktopWindows::DesktopWindows(Stage& stage) : stage_(&stage) {
 DesktopWindows::~DesktopWindows() = default;
 
 FormWidget* DesktopWindows::FormOf(const Window& window) const {
-  const auto found = forms_.find(&window);
-  return found == forms_.end() ? nullptr : found->second.get();
+  const auto found = std::find_if(forms_.begin(), forms_.end(),
+                                  [&](const auto& form) { return form->Shows() == &window; });
+  return found == forms_.end() ? nullptr : found->get();
 }
 
 void DesktopWindows::Settle() {
-  for (const auto& [window, form] : forms_) form->Settle();
+  for (const auto& form : forms_) form->Settle();
   const Program* program = stage_->input.Served();
   if (program != nullptr && program->eventDepth > 0) return;
   // A handler of one of its widgets may be on its way back through Qt still.
@@ -45,21 +47,24 @@ void DesktopWindows::Settle() {
 }
 
 void DesktopWindows::Forget() {
-  while (!forms_.empty()) Retire(std::move(forms_.extract(forms_.begin()).mapped()));
+  while (!forms_.empty()) Retire(*forms_.back()->Shows());
 }
 
-void DesktopWindows::Retire(std::unique_ptr<FormWidget> form) {
-  form->LetGo();
-  retired_.push_back(std::move(form));
+void DesktopWindows::Retire(const Window& window) {
+  const auto found = std::find_if(forms_.begin(), forms_.end(),
+                                  [&](const auto& form) { return form->Shows() == &window; });
+  if (found == forms_.end()) return;
+  (*found)->LetGo();
+  retired_.push_back(std::move(*found));
+  forms_.erase(found);
 }
 
 void DesktopWindows::Loaded(Window& window) {
-  forms_[&window] = std::make_unique<FormWidget>(window, *stage_);
+  forms_.push_back(std::make_unique<FormWidget>(window, *stage_));
 }
 
 void DesktopWindows::Unloaded(Window& window) {
-  auto node = forms_.extract(&window);
-  if (!node.empty()) Retire(std::move(node.mapped()));
+  Retire(window);
 }
 
 void DesktopWindows::SlotWritten(Control& control, const char* slot, bool changed) {

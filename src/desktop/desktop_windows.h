@@ -8,7 +8,6 @@
 #include <QEventLoop>
 
 #include <memory>
-#include <unordered_map>
 #include <vector>
 
 namespace veldrin {
@@ -19,6 +18,8 @@ class DesktopWindows : public Windows {
   explicit DesktopWindows(Stage& stage);
   ~DesktopWindows() override;
 
+  /// The widgets of the loaded windows, in the order of loading.
+  const std::vector<std::unique_ptr<FormWidget>>& Forms() const { return forms_; }
   /// The widget of a window; null while it is not loaded.
   FormWidget* FormOf(const Window& window) const;
   /// What the program left for the ends of events; outside of events, also those widgets that are out of use.
@@ -49,10 +50,10 @@ class DesktopWindows : public Windows {
     QEventLoop* loop;
   };
 
-  void Retire(std::unique_ptr<FormWidget> form);
+  void Retire(const Window& window);
 
   Stage* stage_;
-  std::unordered_map<const Window*, std::unique_ptr<FormWidget>> forms_;
+  std::vector<std::unique_ptr<FormWidget>> forms_;
   std::vector<std::unique_ptr<FormWidget>> retired_;
   std::vector<ModalLoop> loops_;
   QElapsedTimer sinceRepaint_;

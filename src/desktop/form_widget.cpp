@@ -30,10 +30,9 @@ Qt::WindowFlags FlagsFor(const Window& window) {
   return window.hasFrame ? Qt::Window : Qt::Window | Qt::FramelessWindowHint;
 }
 
-/// Qt writes its own mark for changed documents where a title has "[*]".
-QString TitleText(const std::string& caption) {
-  return QString::fromStdString(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
-}
+// Qt writes its own mark for changed documents where a title has the first of these.
+const QString kMark = QStringLiteral("[*]");
+const QString kMarkItself = QStringLiteral("[*][*]");
 
 std::string DroppedPath(const QDropEvent& event) {
   const QList<QUrl> urls = event.mimeData()->urls();
@@ -213,7 +212,7 @@ void FormWidget::TakeFocus() {
 void FormWidget::TakeWindowSlot(std::string_view slot) {
   const Applying applying(*stage_);
   if (slot == "Caption") {
-    setWindowTitle(TitleText(window_->Caption));
+    setWindowTitle(QString::fromStdString(window_->Caption.get()).replace(kMark, kMarkItself));
   } else if (slot == "Width" || slot == "Height") {
     TakeSize();
   } else if (slot == "Left" || slot == "Top") {
@@ -248,6 +247,10 @@ void FormWidget::Rescale() {
   }
   TakeSize();
   client_->update();
+}
+
+std::string FormWidget::Title() const {
+  return windowTitle().replace(kMarkItself, kMark).toStdString();
 }
 
 int FormWidget::MenuHeight() const {

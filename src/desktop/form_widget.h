@@ -41,6 +41,10 @@ class FormWidget : public QWidget {
   void CutToEllipse(const QRect& box);
   /// What the window has to be shown as before it is shown modally.
   void BecomeModal();
+  /// Whether the user can draw the window larger and smaller.
+  bool CanBeDrawnAt() const { return CanResize() && !clipped_ && ellipse_.isNull(); }
+  /// The title as the program wrote it.
+  std::string Title() const;
   /// The area that the controls lie on.
   ClientArea& Client() { return *client_; }
 

@@ -6,6 +6,8 @@
 #include <QScrollBar>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace veldrin {
 
 namespace {
@@ -75,6 +77,8 @@ void FileListWidget::Take(std::string_view slot) {
 Shown FileListWidget::WhatShows() const {
   Shown shown = ListView::WhatShows();
   shown.listIndex = currentRow();
+  shown.entries.emplace();
+  for (int i = 0; i < count(); ++i) shown.entries->push_back(ToSlotText(item(i)->text()));
   return shown;
 }
 
@@ -110,6 +114,12 @@ bool FileListWidget::OpenAt(const QPoint& point) {
 FolderListWidget::FolderListWidget(FolderBox& box, Stage& stage, QWidget* parent)
     : ListView(box, stage, parent) {}
 
+int FolderListWidget::RowOf(const std::string& path, int first) const {
+  const auto begin = paths_.begin() + std::min(paths_.end() - paths_.begin(), std::ptrdiff_t{first});
+  const auto found = std::find(begin, paths_.end(), path);
+  return found == paths_.end() ? -1 : static_cast<int>(found - paths_.begin());
+}
+
 void FolderListWidget::Take(std::string_view slot) {
   if (slot == "Path") {
     stale_ = true;
@@ -123,6 +133,9 @@ void FolderListWidget::Take(std::string_view slot) {
 Shown FolderListWidget::WhatShows() const {
   Shown shown = ListView::WhatShows();
   shown.listIndex = currentRow() - openRow_ - 1;
+  const auto firstInside = paths_.begin() + std::min(paths_.end() - paths_.begin(), openRow_ + std::ptrdiff_t{1});
+  if (!paths_.empty()) shown.path = *(firstInside - 1);
+  shown.entries = std::vector<std::string>(firstInside, paths_.end());
   return shown;
 }
 

@@ -53,6 +53,10 @@ class FolderListWidget : public ListView {
  public:
   FolderListWidget(FolderBox& box, Stage& stage, QWidget* parent);
 
+  /// The row of the folder itself, and the row from `first` on that stands for a path; -1 for none.
+  int OpenRow() const { return openRow_; }
+  int RowOf(const std::string& path, int first) const;
+
   void Take(std::string_view slot) override;
   Shown WhatShows() const override;
 

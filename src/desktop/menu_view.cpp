@@ -37,7 +37,7 @@ void MenuView::Take(std::string_view slot) {
 Shown MenuView::WhatShows() const {
   Shown shown;
   shown.visible = action_->isVisible();
-  shown.enabled = action_->isEnabled();
+  if (action_->isVisible()) shown.enabled = action_->isEnabled();  // Qt counts hidden ones as off
   return shown;
 }
 

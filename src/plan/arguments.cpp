@@ -40,6 +40,11 @@ wrong, or more than 30 plans meet the speeds.
 
 namespace {
 
+/// What is wrong with a command line, on its way out of this unit's depths.
+struct BadArgument {
+  std::string text;
+};
+
 [[noreturn]] void Refuse(const std::string& text) {
   throw BadArgument{text};
 }
@@ -232,8 +237,13 @@ bool PlanArguments::HasManual() const {
   return false;
 }
 
-PlanArguments ReadArguments(const std::vector<std::string>& arguments) {
-  return ArgumentReader(arguments).Read();
+std::optional<PlanArguments> ReadArguments(const std::vector<std::string>& arguments, std::string& mistake) {
+  try {
+    return ArgumentReader(arguments).Read();
+  } catch (const BadArgument& bad) {
+    mistake = bad.text;
+    return {};
+  }
 }
 
 }  // namespace veldrin

@@ -33,13 +33,9 @@ struct PlanArguments {
   bool HasManual() const;
 };
 
-/// What is wrong with a command line, in one sentence.
-struct BadArgument {
-  std::string text;
-};
-
-/// Reads the arguments behind the program's name. Throws BadArgument.
-PlanArguments ReadArguments(const std::vector<std::string>& arguments);
+/// Reads the arguments behind the program's name. Nothing, and one sentence in `mistake`, when they are
+/// wrong.
+std::optional<PlanArguments> ReadArguments(const std::vector<std::string>& arguments, std::string& mistake);
 
 /// The text of --help.
 extern const char kPlanHelp[];

@@ -109,6 +109,7 @@ void CheckAsLines(FieldScanner scanner, int rows, ListRemarks& remarks) {
   const int firstLine = scanner.Line();
   CellChecker cells(remarks);
   int row = 0;
+  bool allRead = true;
   while (!scanner.AtEnd()) {
     std::vector<ScannedField> fields;
     while (fields.empty() || !fields.back().endsLine) fields.push_back(scanner.Field());
@@ -126,6 +127,7 @@ void CheckAsLines(FieldScanner scanner, int rows, ListRemarks& remarks) {
       remarks.Fault(first.line,
                     "gear row " + std::to_string(row) + ": text, driving and driven teeth of six gears are " +
                         std::to_string(kFieldsOfARow) + " fields, found " + std::to_string(count));
+      allRead = false;
       continue;
     }
     for (int gear = 1; gear <= kGears; ++gear) {
@@ -133,7 +135,7 @@ void CheckAsLines(FieldScanner scanner, int rows, ListRemarks& remarks) {
       cells.Check(gear, row, fields[k], fields[k + 1], fields[k + 2]);
     }
   }
-  cells.CheckColumns(firstLine);
+  if (allRead) cells.CheckColumns(firstLine);
 }
 
 /// Whether some line before the matrix holds exactly one row.

@@ -38,10 +38,16 @@ int WidthOfPairs(const std::vector<FoundPlan>& plans) {
   return width;
 }
 
+/// The speed's distance from the request with its sign, which nothing does not have.
+std::string Distance(const FoundGear& gear) {
+  const std::string text = FormatNumber(gear.speed - gear.request, "+0.0;-0.0");
+  return text == "+0.0" || text == "-0.0" ? "0.0" : text;
+}
+
 void WriteGear(std::ostream& out, std::size_t k, const FoundGear& gear, int pairWidth) {
   out << "  " << kGearNames[k] << "   " << Behind(gear.pair, pairWidth)
       << Before(ShortestText(gear.request), 10) << Before(FormatNumber(gear.speed, "0.0"), 8)
-      << Before(FormatNumber(gear.speed - gear.request, "+0.0;-0.0;0.0"), 8);
+      << Before(Distance(gear), 8);
   if (k > 0) out << Before(FormatNumber(gear.step, "0.0"), 8) << Before(FormatNumber(gear.afterNe, "0"), 10);
   out << '\n';
 }

@@ -9,6 +9,7 @@
 #include "runtime/text_file.h"
 #include "workspace/list_tables.h"
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -38,13 +39,20 @@ std::optional<std::string> ReadList(const std::string& path, std::ostream& error
     return {};
   }
   std::ifstream file(PathOf(path), std::ios::binary);
-  std::string bytes(kLargestList + 1, '\0');
-  if (file) file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  if (!file.is_open() || file.bad()) {
+  if (!file) {
     errors << path << ": cannot be read\n";
     return {};
   }
-  bytes.resize(static_cast<std::size_t>(file.gcount()));
+  std::string bytes;
+  std::array<char, 16384> part;
+  do {
+    file.read(part.data(), part.size());
+    bytes.append(part.data(), static_cast<std::size_t>(file.gcount()));
+  } while (file && bytes.size() <= kLargestList);
+  if (file.bad()) {
+    errors << path << ": cannot be read\n";
+    return {};
+  }
   if (bytes.size() > kLargestList) {
     errors << path << ": too large for a machine list\n";
     return {};
@@ -154,14 +162,13 @@ int Search(const PlanArguments& arguments, std::ostream& out, std::ostream& erro
 }  // namespace
 
 int RunPlanner(const std::vector<std::string>& words, std::ostream& out, std::ostream& errors) {
-  PlanArguments arguments;
-  try {
-    arguments = ReadArguments(words);
-  } catch (const BadArgument& bad) {
-    errors << "veldrin-plan: " << bad.text << '\n';
+  std::string mistake;
+  const std::optional<PlanArguments> arguments = ReadArguments(words, mistake);
+  if (!arguments) {
+    errors << "veldrin-plan: " << mistake << '\n';
     return kBadInput;
   }
-  switch (arguments.action) {
+  switch (arguments->action) {
     case PlanAction::Help:
       out << kPlanHelp;
       return kDone;
@@ -169,9 +176,9 @@ int RunPlanner(const std::vector<std::string>& words, std::ostream& out, std::os
       out << "veldrin-plan " << VELDRIN_VERSION << '\n';
       return kDone;
     case PlanAction::Check:
-      return Check(arguments, out, errors);
+      return Check(*arguments, out, errors);
     case PlanAction::Search:
-      return Search(arguments, out, errors);
+      return Search(*arguments, out, errors);
   }
   return kBadInput;
 }

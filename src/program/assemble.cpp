@@ -3,10 +3,14 @@
 #include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
 #include "calc/plan_search.h"
+#include "dialogs/about_window.h"
+#include "dialogs/colour_dialog.h"
 #include "dialogs/compare_window.h"
+#include "dialogs/extension_registry.h"
 #include "dialogs/file_chooser.h"
 #include "dialogs/load_dispatch.h"
 #include "dialogs/plan_dialog.h"
+#include "dialogs/settings_dialog.h"
 #include "mainwin/combination.h"
 #include "mainwin/gear_panel.h"
 #include "mainwin/layout.h"
@@ -33,6 +37,10 @@ std::unique_ptr<Program> AssembleProgram(Machine& machine) {
   AttachCompareWindow(*program);
   AttachFileChooser(*program);
   AttachLoadDispatch(*program);
+  AttachSettingsDialog(*program);
+  AttachColourDialog(*program);
+  AttachExtensionRegistry(*program);
+  AttachAboutWindow(*program);
   return program;
 }
 

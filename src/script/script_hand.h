@@ -7,10 +7,18 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace veldrin {
 
 struct SimulatedMachine;
+
+/// A widget that shows something else than the slot that it stands for.
+struct Mismatch {
+  std::string name;
+  std::string slot;
+  std::string shown;
+};
 
 class ScriptHand {
  public:
@@ -53,6 +61,8 @@ class ScriptHand {
   virtual std::optional<std::string> Shown(const Control& /*control*/, const std::string& /*slot*/) {
     return std::nullopt;
   }
+  /// What widgets show otherwise than their slots say, asked behind every command but questions.
+  virtual std::vector<Mismatch> Mismatches() { return {}; }
 };
 
 }  // namespace veldrin

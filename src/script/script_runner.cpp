@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <utility>
 
 namespace veldrin {
 
@@ -73,6 +74,7 @@ class Runner {
       const Command& command = FindCommand(name);
       CheckNumberOfWords(command, words.size() - 1);
       command.run({world_, source_, words});
+      for (Mismatch& mismatch : world_.hand.Mismatches()) world_.mismatches.push_back(std::move(mismatch));
     }
     for (const Mismatch& mismatch : world_.mismatches) {
       Fail(place, mismatch.name, phase, "slot", Printed(Quoted(mismatch.slot)), "widget",

@@ -16,13 +16,6 @@
 
 namespace veldrin {
 
-/// A widget that shows something else than the slot that it stands for.
-struct Mismatch {
-  std::string name;
-  std::string slot;
-  std::string shown;
-};
-
 class ScriptWorld {
  public:
   /// `out` takes what the script prints.

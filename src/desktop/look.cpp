@@ -1,0 +1,29 @@
+#include "desktop/look.h"
+
+#include "desktop/artwork.h"
+
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace veldrin {
+
+namespace {
+
+const QColor kFace(226, 226, 226);
+const QColor kSelected(0, 90, 190);
+
+}  // namespace
+
+void SetUpLook(QApplication& application) {
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QPalette palette(kFace, kFace);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Highlight, kSelected);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  QApplication::setPalette(palette);
+  QApplication::setWindowIcon(ProgramIcon());
+  application.setApplicationName("veldrin");
+  application.setApplicationVersion(VELDRIN_VERSION);
+}
+
+}  // namespace veldrin

@@ -1,0 +1,12 @@
+// The look of the program, the same on every desktop: its windows say their colours themselves, so a dark
+// desktop must not mix in its own.
+#pragma once
+
+#include <QApplication>
+
+namespace veldrin {
+
+/// Sets style, colours, icon and name of the application.
+void SetUpLook(QApplication& application);
+
+}  // namespace veldrin

@@ -1,0 +1,46 @@
+// A small list without faults for the tests of the planner, to be damaged line by line.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace veldrin {
+
+/// A list by its lines, counted from 1.
+class SampleList {
+ public:
+  std::string& operator[](int line) { return lines_.at(static_cast<std::size_t>(line - 1)); }
+  void Erase(int line) { lines_.erase(lines_.begin() + (line - 1)); }
+  void Insert(int line, const std::string& text) { lines_.insert(lines_.begin() + (line - 1), text); }
+
+  std::string Text(const std::string& lineEnd = "\n") const {
+    std::string text;
+    for (const std::string& line : lines_) text += line + lineEnd;
+    return text;
+  }
+
+ private:
+  std::vector<std::string> lines_ = {
+      "LIST",                                                        // 1
+      "TEST",                                                        // 2
+      "FINAL-DRIVE",                                                 // 3
+      "14,15,99",                                                    // 4
+      "FINAL-DRIVEN",                                                // 5
+      "36,40,99",                                                    // 6
+      "GEAR-ROWS,2,PRIMARY",                                         // 7
+      "20,60",                                                       // 8
+      "99",                                                          // 9
+      "a heading",                                                   // 10
+      "another",                                                     // 11
+      "1A,14,29,2A,17,26,3A,19,24,4A,22,24,5A,26,25,6A,23,21",       // 12
+      "1B,15,28,99,99,99,3B,20,25,\"4B\", 25,27,5B,24,23,6B,27,24",  // 13
+      "M34-ARRAY",                                                   // 14
+      " 0, 0",                                                       // 15
+      " 0,99",                                                       // 16
+      "TYRE_L=1.95",                                                 // 17
+      "SHIFT_NE=12500",                                              // 18
+  };
+};
+
+}  // namespace veldrin
