@@ -36,7 +36,8 @@ void DrawBaseline(Program& program) {
 
 template <class Speeds>
 void DrawRays(Program& program, const Speeds& speeds) {
-  for (int gear = 1; gear <= kGears; ++gear) GearRay(program, speeds[gear], program.workspace.GearColour[gear]);
+  for (int gear = 1; gear <= kGears; ++gear)
+    GearRay(program, speeds[gear], program.workspace.GearColour[gear]);
 }
 
 template <class Speeds>
@@ -46,7 +47,8 @@ void DrawTooth(Program& program, const Speeds& speeds) {
   surface.drawStyle = kPenSolid;
   const auto speed = [&](int gear) { return static_cast<double>(speeds[gear]); };
   const auto drop = [&](int gear) { return Divide(workspace.ShiftNe * speed(gear - 1), speed(gear)); };
-  const SawTooth tooth{static_cast<double>(workspace.ShiftNe), static_cast<double>(workspace.MaxNe), speed, drop};
+  const SawTooth tooth{static_cast<double>(workspace.ShiftNe), static_cast<double>(workspace.MaxNe), speed,
+                       drop};
   DrawSawTooth(surface, tooth, PaletteColour(kWhiteNumber));
 }
 

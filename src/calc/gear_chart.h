@@ -4,9 +4,9 @@
 // On the surface x is revolutions from 0 to `MaxNe`, y is km/h from 0 at the bottom to `MaxSpeed` at the top.
 #pragma once
 
-#include <functional>
-
 #include "workspace/program.h"
+
+#include <functional>
 
 namespace veldrin {
 
@@ -14,8 +14,8 @@ namespace veldrin {
 /// scroll bars. To be called after any change of `MaxNe` or `MaxSpeed`. Raises fault 11 when one is 0.
 void ChartScale(Program& program);
 
-/// Draws the plan from `SpeedNow`, with the baseline's rays. Does nothing under "INIT". Raises fault 11 (or 6)
-/// for a speed of 0 from 2nd gear up, or a divisor of 0 in a ray.
+/// Draws the plan from `SpeedNow`, with the baseline's rays. Does nothing under "INIT". Raises fault 11 (or
+/// 6) for a speed of 0 from 2nd gear up, or a divisor of 0 in a ray.
 void ChartPlan(Program& program);
 
 /// Draws the requests from `SpeedRequest`, with the baseline's rays. Raises as ChartPlan does.

@@ -2,6 +2,7 @@
 
 #include "calc/gear_chart.h"
 #include "runtime/conversion.h"
+#include "workspace/control_states.h"
 #include "workspace/title.h"
 
 namespace veldrin {
@@ -28,7 +29,7 @@ void ColourStep(Program& program, int gear, float step) {
 
 void ShowStepTo(Program& program, int gear) {
   Workspace& workspace = program.workspace;
-  const float step = workspace.SpeedNow[gear] - workspace.SpeedNow[gear - 1];
+  const float step = ToSingle(workspace.SpeedNow[gear] - workspace.SpeedNow[gear - 1]);
   workspace.SpeedStepNow[gear - 1] = step;
   ColourStep(program, gear, step);
   ShowStep(workspace, program.form2.Label40[gear - 1], step);
@@ -52,14 +53,14 @@ void ShowDeviation(Program& program, int gear) {
     workspace.NeDeviation[gear] = 0;
   }
   deviation.Caption = FormatSingle(workspace, workspace.NeDeviation[gear], "+###;-###;\\+-0");
-  difference.Caption = FormatSingle(workspace, speed - baseline, "+#0.0;-#0.0;\\  +-0");
+  difference.Caption = FormatSingle(workspace, ToSingle(speed - baseline), "+#0.0;-#0.0;\\  +-0");
 }
 
 void ShowGear(Program& program, int gear) {
   Workspace& workspace = program.workspace;
   if (workspace.CallerWord != caller::kForm4Ok) {
-    workspace.SpeedNow[gear] =
-        ToSingle(GearSpeed(workspace, workspace.PrimaryIndex, workspace.FinalIndex, gear, workspace.PlanIndex[gear]));
+    workspace.SpeedNow[gear] = ToSingle(
+        GearSpeed(workspace, workspace.PrimaryIndex, workspace.FinalIndex, gear, workspace.PlanIndex[gear]));
   }
   ShowSpeed(workspace, program.form2.Label9[gear], workspace.SpeedNow[gear]);
   if (gear >= 2) ShowStepTo(program, gear);
@@ -75,11 +76,6 @@ bool ShowsNoDeviation(const Program& program) {
     if (program.form2.Label10[gear].Caption != kNoDeviation) return false;
   }
   return true;
-}
-
-void EnableRestore(Program& program, bool enabled) {
-  program.form2.Command7.Enabled = enabled;
-  program.form2.f_rest.Enabled = enabled;
 }
 
 /// Moves `DataChanged` on. A loader sets "0" and runs one refresh, which leaves "1"; the next refresh is the
@@ -148,7 +144,7 @@ void ShowBaseline(Program& program) {
   for (int gear = 1; gear <= kGears; ++gear) {
     ShowSpeed(workspace, program.form2.Label2[gear], workspace.SpeedBaseline[gear]);
     if (gear < 2) continue;
-    const float step = workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1];
+    const float step = ToSingle(workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1]);
     workspace.SpeedStepBaseline[gear - 1] = step;
     ShowStep(workspace, program.form2.Label39[gear - 1], step);
   }

@@ -6,8 +6,8 @@
 
 namespace veldrin {
 
-/// The part of a gear's speed that all gear rows share: revolutions, tyre, primary and final ratio, multiplied
-/// in this order in 64 bits. Raises fault 9 for rows outside the tables.
+/// The part of a gear's speed that all gear rows share: revolutions, tyre, primary and final ratio,
+/// multiplied in this order in 64 bits. Raises fault 9 for rows outside the tables.
 double SpeedBeforeGear(const Workspace& workspace, int primaryRow, int finalRow);
 
 /// Road speed in km/h at `ShiftNe` of `gear` (1..6) with `gearRow` (1..10), in 64 bits, the order of the

@@ -1,10 +1,11 @@
 #include "calc/plan_search.h"
 
+#include "view/bind.h"
+#include "workspace/control_states.h"
+#include "workspace/language.h"
+
 #include <algorithm>
 #include <cmath>
-
-#include "view/bind.h"
-#include "workspace/language.h"
 
 namespace veldrin {
 
@@ -64,9 +65,7 @@ void ShowSuccess(Program& program) {
   program.workspace.ResultWord = result::kNone;
   form2.Label23.ForeColor = kMagenta;
   form2.Label23.Caption = Message(program.workspace, 12);
-  form2.menu_file.Enabled = true;
-  form2.menu_f.Enabled = true;
-  form2.menu_opt.Enabled = true;
+  EnableAll({&form2.menu_file, &form2.menu_f, &form2.menu_opt});
   program.machine.windows.Repaint(form2.Label23);
 }
 
@@ -163,26 +162,19 @@ void PlanSearchMixed(Program& program) {
   }
   program.workspace.ResultWord = result::kNone;
   ShowFailurePanel(program);
-  program.form2.Label17.Caption = Message(program.workspace, 14);
-  program.form2.Command8.Caption = Message(program.workspace, 19);
-  program.form2.Command9.Caption = Message(program.workspace, 23);
+  SetQuestion(program, 14, 19, 23);
   program.form2.Label23.Visible = false;
   program.workspace.ResultWord = result::kNoPlan;
 }
 
 void StartSearch(Program& program) {
   Form2& form2 = program.form2;
-  for (Picture* panel :
-       {&form2.Picture2, &form2.Picture3, &form2.Picture4, &form2.Picture12, &form2.Picture30}) {
-    panel->Visible = false;
-  }
+  HideAll({&form2.Picture2, &form2.Picture3, &form2.Picture4, &form2.Picture12, &form2.Picture30});
   form2.Label23.Caption = Message(program.workspace, 11);
   form2.Label23.Visible = true;
-  for (Button* button : {&form2.Command2, &form2.Command3, &form2.Command4, &form2.Command5}) {
-    button->Enabled = false;
-  }
+  DisableAll({&form2.Command2, &form2.Command3, &form2.Command4, &form2.Command5});
   form2.Picture28.MousePointer = kPointerNoDrop;
-  for (Menu* menu : {&form2.menu_file, &form2.menu_edit, &form2.menu_f, &form2.menu_opt}) menu->Enabled = false;
+  DisableAll({&form2.menu_file, &form2.menu_edit, &form2.menu_f, &form2.menu_opt});
   program.workspace.ResultWord = AllGearsAuto(program) ? result::kFullAuto : result::kNone;
   form2.Picture1.Visible = false;
   form2.Timer1.Enabled = true;
@@ -198,15 +190,8 @@ void SearchTimer_Timer(Program& program) {
   }
   if (program.workspace.ResultWord == result::kNoPlan) return;
   Form4& dialog = program.form4.Load();
-  form2.Command2.Enabled = true;
-  form2.Command3.Enabled = true;
-  form2.Command4.Enabled = true;
-  form2.f_comp.Enabled = true;
-  form2.Command5.Enabled = true;
-  form2.menu_save.Enabled = true;
-  form2.menu_print.Enabled = true;
-  form2.menu_comb.Enabled = true;
-  form2.menu_edit.Enabled = true;
+  EnableAll({&form2.Command2, &form2.Command3, &form2.Command4, &form2.f_comp, &form2.Command5,
+             &form2.menu_save, &form2.menu_print, &form2.menu_comb, &form2.menu_edit});
   form2.Picture28.MousePointer = kPointerDefault;
   form2.Hide();
   dialog.Show();

@@ -1,13 +1,13 @@
 #include "calc/plan_walk.h"
 
+#include "calc/gear_speed.h"
+#include "runtime/conversion.h"
+#include "workspace/list_tables.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
 #include <utility>
-
-#include "calc/gear_speed.h"
-#include "runtime/fault.h"
-#include "workspace/list_tables.h"
 
 namespace veldrin {
 
@@ -48,7 +48,7 @@ int PlanWalk::LearnGear(Combination& combination, double speedBeforeGear) {
   }
   for (std::size_t k = 0; k < static_cast<std::size_t>(pairs.count); ++k) {
     const double speed = GearSpeedOf(speedBeforeGear, pairs.drive[k], pairs.driven[k]);
-    errors[k] = static_cast<float>(speed - request);
+    errors[k] = ToSingle(speed - request);
   }
   if (workspace_.GearRows > kGearRowLimit) Raise(kFaultSubscript);
   int first = kNoPass;
@@ -75,7 +75,8 @@ int PlanWalk::BestRow(const Combination& combination, int gear, int pass) const 
   return best;
 }
 
-void PlanWalk::AddPlan(const Combination& combination, int primary, int final, int pass, Workspace& found) const {
+void PlanWalk::AddPlan(const Combination& combination, int primary, int final, int pass,
+                       Workspace& found) const {
   const int third = BestRow(combination, 3, pass);
   const int fourth = BestRow(combination, 4, pass);
   if (workspace_.M34Matrix(third, fourth) == kEndMark) return;

@@ -9,12 +9,12 @@
 // plain loop over all passes would give.
 #pragma once
 
+#include "workspace/workspace.h"
+
 #include <array>
 #include <cstdint>
 #include <functional>
 #include <vector>
-
-#include "workspace/workspace.h"
 
 namespace veldrin {
 

@@ -124,10 +124,9 @@ void PaintAbout(QPainter& painter) {
   painter.fillRect(QRectF(QPointF(150, 4185), QPointF(7020, 4680)), kPanel);
   painter.setPen(kInk);
   painter.setFont(FontFor({"Arial", 9, true, false}, kTwipsPerInch));
-  constexpr std::pair<double, const char*> kCaptions[] = {{2010, "Version"},   {2355, "Processor"},
-                                                          {2700, "Memory"},    {3045, "Swap file"},
-                                                          {3390, "Screen"},    {3735, "Free disk"},
-                                                          {4305, "Home page"}};
+  constexpr std::pair<double, const char*> kCaptions[] = {
+      {2010, "Version"}, {2355, "Processor"}, {2700, "Memory"},   {3045, "Swap file"},
+      {3390, "Screen"},  {3735, "Free disk"}, {4305, "Home page"}};
   for (const auto& [top, caption] : kCaptions) {
     painter.drawText(QRectF(240, top, 1500, 255), Qt::AlignLeft | Qt::AlignVCenter, caption);
   }

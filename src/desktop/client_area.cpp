@@ -22,8 +22,9 @@ void ClientArea::TakeAll() {
 void ClientArea::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().color(QPalette::Window));
-  PaintWindowPicture(
-      painter, {0, 0, stage_->zoom.Pixels(fullSize_.width()), stage_->zoom.Pixels(fullSize_.height())}, window_);
+  PaintWindowPicture(painter,
+                     {0, 0, stage_->zoom.Pixels(fullSize_.width()), stage_->zoom.Pixels(fullSize_.height())},
+                     window_);
 }
 
 }  // namespace veldrin

@@ -66,7 +66,8 @@ void PlacedView::TakeAll() {
   TakeFont();
   for (const AnySlot& any : control_->slots) {
     const std::string_view slot = std::visit([](const auto* typed) { return typed->Name(); }, any);
-    const bool taken = IsPlaceSlot(slot) || slot == "BackColor" || slot == "ForeColor" || slot.starts_with("Font");
+    const bool taken =
+        IsPlaceSlot(slot) || slot == "BackColor" || slot == "ForeColor" || slot.starts_with("Font");
     const bool atRest = slot == "MousePointer" && Placed().MousePointer == kPointerDefault;
     if (!taken && !atRest) Take(slot);
   }

@@ -12,8 +12,8 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kRepaintGap = 33;   // ms
-constexpr int kFlashTime = 300;   // ms
+constexpr int kRepaintGap = 33;  // ms
+constexpr int kFlashTime = 300;  // ms
 
 // The frame that the program counts with, in twips.
 constexpr float kFrameWidth = 120;
@@ -32,8 +32,8 @@ DesktopWindows::DesktopWindows(Stage& stage) : stage_(&stage) {
 DesktopWindows::~DesktopWindows() = default;
 
 FormWidget* DesktopWindows::FormOf(const Window& window) const {
-  const auto found = std::find_if(forms_.begin(), forms_.end(),
-                                  [&](const auto& form) { return form->Shows() == &window; });
+  const auto found =
+      std::find_if(forms_.begin(), forms_.end(), [&](const auto& form) { return form->Shows() == &window; });
   return found == forms_.end() ? nullptr : found->get();
 }
 
@@ -51,8 +51,8 @@ void DesktopWindows::Forget() {
 }
 
 void DesktopWindows::Retire(const Window& window) {
-  const auto found = std::find_if(forms_.begin(), forms_.end(),
-                                  [&](const auto& form) { return form->Shows() == &window; });
+  const auto found =
+      std::find_if(forms_.begin(), forms_.end(), [&](const auto& form) { return form->Shows() == &window; });
   if (found == forms_.end()) return;
   (*found)->LetGo();
   retired_.push_back(std::move(*found));

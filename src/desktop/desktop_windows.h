@@ -1,4 +1,5 @@
-// The program's windows on the screen: carries what the program writes to the widgets, and runs modal windows.
+// The program's windows on the screen: carries what the program writes to the widgets, and runs modal
+// windows.
 #pragma once
 
 #include "desktop/form_widget.h"

@@ -17,8 +17,8 @@ QStringList Families(const std::string& name) {
   const QString wanted = QString::fromStdString(name);
   const QStringList proportional = {"Noto Sans CJK JP", "IPAPGothic", "VL PGothic", "TakaoPGothic"};
   if (wanted == QStringLiteral("ＭＳ ゴシック")) {
-    return QStringList{wanted,       "MS Gothic", "Noto Sans Mono CJK JP", "IPAGothic",
-                       "VL Gothic", "TakaoGothic"} +
+    return QStringList{wanted,      "MS Gothic", "Noto Sans Mono CJK JP",
+                       "IPAGothic", "VL Gothic", "TakaoGothic"} +
            proportional;
   }
   if (wanted == QStringLiteral("ＭＳ Ｐゴシック")) return QStringList{wanted, "MS PGothic"} + proportional;

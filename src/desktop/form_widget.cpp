@@ -232,7 +232,8 @@ void FormWidget::TakeWindowSlot(std::string_view slot) {
 void FormWidget::Rescale() {
   const Applying applying(*stage_);
   if (menuBar_ != nullptr) {
-    const QFont font = FontFor({"Arial", kMenuFontSize, false, false}, kPixelsPerInch * stage_->zoom.Factor());
+    const QFont font =
+        FontFor({"Arial", kMenuFontSize, false, false}, kPixelsPerInch * stage_->zoom.Factor());
     menuBar_->setFont(font);
     for (Control* control : known_) {
       if (control->kind == ControlKind::Menu && !control->children.empty()) {
@@ -405,8 +406,8 @@ void FormWidget::resizeEvent(QResizeEvent* event) {
 }
 
 void FormWidget::keyPressEvent(QKeyEvent* event) {
-  const bool served = window_ != nullptr && (ServeTab(*stage_, *window_, *event) ||
-                                             ServeEscape(*stage_, *window_, *event));
+  const bool served =
+      window_ != nullptr && (ServeTab(*stage_, *window_, *event) || ServeEscape(*stage_, *window_, *event));
   if (!served) QWidget::keyPressEvent(event);
 }
 

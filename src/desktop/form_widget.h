@@ -2,8 +2,8 @@
 // which window it is.
 //
 // The program counts a window's outer size with a frame of its own time, 120 twips wider and 690 (405 without
-// a menu) higher than the area inside. The real frame and menu bar are as large as the desktop makes them; the
-// area inside is what is kept to. Where that is larger than the screen it scrolls.
+// a menu) higher than the area inside. The real frame and menu bar are as large as the desktop makes them;
+// the area inside is what is kept to. Where that is larger than the screen it scrolls.
 #pragma once
 
 #include "desktop/client_area.h"

@@ -85,7 +85,8 @@ void GridWidget::TakeSizes() {
     const int begin = qRound(stage_->zoom.Pixels(end));
     end += static_cast<double>(Record().ColWidth(column));
     const bool last = column + 1 == columnCount();
-    const int edge = last ? std::min(room, qRound(stage_->zoom.Pixels(end))) : qRound(stage_->zoom.Pixels(end));
+    const int edge =
+        last ? std::min(room, qRound(stage_->zoom.Pixels(end))) : qRound(stage_->zoom.Pixels(end));
     setColumnWidth(column, std::max(1, edge - begin));
   }
 }

@@ -13,9 +13,10 @@ namespace {
 bool IsUnchosenOption(const Control& control) {
   if (control.kind != ControlKind::OptionButton) return false;
   if (static_cast<const OptionButton&>(control).Value) return false;
-  return std::any_of(control.parent->children.begin(), control.parent->children.end(), [](const Control* other) {
-    return other->kind == ControlKind::OptionButton && static_cast<const OptionButton*>(other)->Value;
-  });
+  return std::any_of(
+      control.parent->children.begin(), control.parent->children.end(), [](const Control* other) {
+        return other->kind == ControlKind::OptionButton && static_cast<const OptionButton*>(other)->Value;
+      });
 }
 
 bool IsOnTheWay(const Control* control) {
@@ -40,9 +41,9 @@ Control* NextByTab(const Window& window, bool forward) {
 }
 
 Control* CancelButton(const Window& window) {
-  const auto found = std::find_if(window.controls.rbegin(), window.controls.rend(), [](const Control* control) {
-    return ReadsCancel(*control) && user::Reachable(*control);
-  });
+  const auto found =
+      std::find_if(window.controls.rbegin(), window.controls.rend(),
+                   [](const Control* control) { return ReadsCancel(*control) && user::Reachable(*control); });
   return found == window.controls.rend() ? nullptr : *found;
 }
 

@@ -9,28 +9,15 @@ namespace veldrin {
 
 namespace {
 
-constexpr std::array<std::pair<int, int>, 22> kKeys = {{{Qt::Key_Return, kKeyEnter},
-                                                       {Qt::Key_Enter, kKeyEnter},
-                                                       {Qt::Key_Backspace, kKeyBackspace},
-                                                       {Qt::Key_Tab, kKeyTab},
-                                                       {Qt::Key_Backtab, kKeyTab},
-                                                       {Qt::Key_Shift, 16},
-                                                       {Qt::Key_Control, 17},
-                                                       {Qt::Key_Alt, 18},
-                                                       {Qt::Key_Pause, 19},
-                                                       {Qt::Key_CapsLock, 20},
-                                                       {Qt::Key_Escape, 27},
-                                                       {Qt::Key_Space, 32},
-                                                       {Qt::Key_PageUp, 33},
-                                                       {Qt::Key_PageDown, 34},
-                                                       {Qt::Key_End, 35},
-                                                       {Qt::Key_Home, 36},
-                                                       {Qt::Key_Left, kKeyLeft},
-                                                       {Qt::Key_Up, kKeyUp},
-                                                       {Qt::Key_Right, kKeyRight},
-                                                       {Qt::Key_Down, kKeyDown},
-                                                       {Qt::Key_Insert, 45},
-                                                       {Qt::Key_Delete, 46}}};
+constexpr std::array<std::pair<int, int>, 22> kKeys = {
+    {{Qt::Key_Return, kKeyEnter}, {Qt::Key_Enter, kKeyEnter}, {Qt::Key_Backspace, kKeyBackspace},
+     {Qt::Key_Tab, kKeyTab},      {Qt::Key_Backtab, kKeyTab}, {Qt::Key_Shift, 16},
+     {Qt::Key_Control, 17},       {Qt::Key_Alt, 18},          {Qt::Key_Pause, 19},
+     {Qt::Key_CapsLock, 20},      {Qt::Key_Escape, 27},       {Qt::Key_Space, 32},
+     {Qt::Key_PageUp, 33},        {Qt::Key_PageDown, 34},     {Qt::Key_End, 35},
+     {Qt::Key_Home, 36},          {Qt::Key_Left, kKeyLeft},   {Qt::Key_Up, kKeyUp},
+     {Qt::Key_Right, kKeyRight},  {Qt::Key_Down, kKeyDown},   {Qt::Key_Insert, 45},
+     {Qt::Key_Delete, 46}}};
 
 constexpr int kFunctionKeys = 12;
 

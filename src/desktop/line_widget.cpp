@@ -7,7 +7,8 @@
 
 namespace veldrin {
 
-LineWidget::LineWidget(Line& line, Stage& stage, QWidget* parent) : QWidget(parent), ControlView(line, stage) {
+LineWidget::LineWidget(Line& line, Stage& stage, QWidget* parent)
+    : QWidget(parent), ControlView(line, stage) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setFocusPolicy(Qt::NoFocus);
 }

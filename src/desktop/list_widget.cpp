@@ -133,7 +133,8 @@ void FolderListWidget::Take(std::string_view slot) {
 Shown FolderListWidget::WhatShows() const {
   Shown shown = ListView::WhatShows();
   shown.listIndex = currentRow() - openRow_ - 1;
-  const auto firstInside = paths_.begin() + std::min(paths_.end() - paths_.begin(), openRow_ + std::ptrdiff_t{1});
+  const auto firstInside =
+      paths_.begin() + std::min(paths_.end() - paths_.begin(), openRow_ + std::ptrdiff_t{1});
   if (!paths_.empty()) shown.path = *(firstInside - 1);
   shown.entries = std::vector<std::string>(firstInside, paths_.end());
   return shown;

@@ -20,9 +20,12 @@ void PictureWidget::Take(std::string_view slot) {
 }
 
 void PictureWidget::TakePlace() {
-  const QSize before = size();
   ControlWidget::TakePlace();
-  if (size() != before) RescaleChildren();
+  // Less than a pixel more stretches the units of the children as well.
+  const QSizeF exact = PlaceInParent(*control_, stage_->zoom).size();
+  if (exact == exactSize_) return;
+  exactSize_ = exact;
+  RescaleChildren();
 }
 
 void PictureWidget::Rescale() {

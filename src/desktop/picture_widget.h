@@ -24,6 +24,7 @@ class PictureWidget : public ControlWidget<QWidget> {
   void RescaleChildren();
 
   Scale scale_;
+  QSizeF exactSize_;
 };
 
 }  // namespace veldrin

@@ -31,6 +31,9 @@ fs::path Entry(const fs::path& folder, const fs::path& name) {
 fs::path NativePath(const std::string& text) {
   if (text.empty() || text.find('\0') != std::string::npos) Raise(kFaultBadFileName);
 #ifdef _WIN32
+  constexpr std::size_t kDrive = 2;  // characters of a letter and its colon
+  const bool refused = text.find_first_of("<>|\"*?") != std::string::npos;
+  if (refused || text.find(':', kDrive) != std::string::npos) Raise(kFaultBadFileName);
   return QString::fromStdString(text).toStdWString();
 #else
   return text;
@@ -57,7 +60,7 @@ fs::path PathOnDisk(const std::string& text) {
   std::error_code failure;
   const fs::path wanted = fs::absolute(NativePath(text), failure);
   if (failure) Raise(kFaultBadFileName);
-  fs::path found = wanted.root_path();
+  fs::path found = NativePath(UpperCase(PathText(wanted.root_path())));
   for (const fs::path& part : wanted.relative_path()) {
     if (part.empty() || part == ".") continue;
     if (part == "..") {

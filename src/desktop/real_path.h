@@ -11,14 +11,14 @@
 
 namespace veldrin {
 
-/// Raises fault 52 for the empty path and for one with a zero character in it.
+/// Raises fault 52 for the empty path and for one with a character that the system refuses in names.
 std::filesystem::path NativePath(const std::string& text);
 std::string PathText(const std::filesystem::path& path);
 /// For Qt's own files.
 QString PathString(const std::filesystem::path& path);
 
 /// The whole path, from the root on and without "." and "..", each part by its name on the disk. Parts that
-/// are not there stay as they are. Raises fault 52 as NativePath does.
+/// are not there stay as they are, drive letters become capitals. Raises fault 52 as NativePath does.
 std::filesystem::path PathOnDisk(const std::string& text);
 
 /// The name by which the folder lists `name`, its case and a short form aside; nothing when it has no such

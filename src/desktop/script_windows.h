@@ -1,5 +1,5 @@
-// Windows on the screen that belong to a script: the simulated machine goes on keeping its record of them, the
-// widgets follow, and the script's own lines are the loop of a modal window.
+// Windows on the screen that belong to a script: the simulated machine goes on keeping its record of them,
+// the widgets follow, and the script's own lines are the loop of a modal window.
 #pragma once
 
 #include "desktop/desktop_windows.h"

@@ -10,8 +10,8 @@ namespace veldrin {
 namespace {
 
 std::string RectText(const QRect& rect) {
-  return std::to_string(rect.x()) + " " + std::to_string(rect.y()) + " " + std::to_string(rect.width()) + " " +
-         std::to_string(rect.height());
+  return std::to_string(rect.x()) + " " + std::to_string(rect.y()) + " " + std::to_string(rect.width()) +
+         " " + std::to_string(rect.height());
 }
 
 /// The value of a slot, where the control has one of that name and type.

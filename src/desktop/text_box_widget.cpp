@@ -12,8 +12,8 @@ namespace {
 bool BelongsToMenu(QEvent* event, bool selected, bool canUndo) {
   if (event->type() != QEvent::ShortcutOverride) return false;
   const auto* key = static_cast<QKeyEvent*>(event);
-  const bool left = (key->matches(QKeySequence::Copy) && !selected) ||
-                    (key->matches(QKeySequence::Undo) && !canUndo);
+  const bool left =
+      (key->matches(QKeySequence::Copy) && !selected) || (key->matches(QKeySequence::Undo) && !canUndo);
   if (left) event->ignore();
   return left;
 }
@@ -26,7 +26,8 @@ Qt::Alignment AlignmentOf(Align align) {
 
 }  // namespace
 
-LineBoxWidget::LineBoxWidget(TextBox& box, Stage& stage, QWidget* parent) : ControlWidget(box, stage, parent) {
+LineBoxWidget::LineBoxWidget(TextBox& box, Stage& stage, QWidget* parent)
+    : ControlWidget(box, stage, parent) {
   setAlignment(AlignmentOf(box.look.align));
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (control_ == nullptr || stage_->applying > 0) return;

@@ -79,16 +79,14 @@ void WidgetHand::ProgramMade(Program& program) {
   told_.clear();
 }
 
-void WidgetHand::ProgramGone(Program& program) {
-  // What nobody took a picture of is painted at least once.
-  for (Window* window : program.desk.shown) {
-    if (FormWidget* form = windows_.FormOf(*window)) form->grab();
-  }
+void WidgetHand::ProgramGone(Program& /*program*/) {
   stage_.input.Serve(nullptr);
+  // What nobody took a picture of is painted at least once.
+  QCoreApplication::processEvents();
   windows_.Forget();
   windows_.Settle();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  QCoreApplication::removePostedEvents(nullptr);
+  QCoreApplication::processEvents();
 }
 
 ControlView* WidgetHand::ViewOf(const Control& control) const {
@@ -138,8 +136,8 @@ bool WidgetHand::DoubleClick(Program& program, Control& control) {
 
 bool WidgetHand::DoubleClickEntry(Program& program, FileBox& box, const std::string& entry) {
   auto* list = dynamic_cast<FileListWidget*>(ViewOf(box));
-  const auto found = list == nullptr ? QList<QListWidgetItem*>()
-                                     : list->findItems(ToWidgetText(entry), Qt::MatchExactly);
+  const auto found =
+      list == nullptr ? QList<QListWidgetItem*>() : list->findItems(ToWidgetText(entry), Qt::MatchExactly);
   if (found.empty()) return ScriptHand::DoubleClickEntry(program, box, entry);
   list->scrollToItem(found.first());
   return ClickAt(*list->viewport(), list->visualItemRect(found.first()).center(), kLeftButton, true);
@@ -242,8 +240,8 @@ bool WidgetHand::Spin(Program& program, SpinButton& spin, bool up) {
 bool WidgetHand::ScrollTo(Program& program, ScrollBar& bar, int value) {
   auto* widget = dynamic_cast<ScrollBarWidget*>(ViewOf(bar));
   // A bar that stands there already signals nothing.
-  const bool moves = widget != nullptr && user::Reachable(bar) &&
-                     value >= widget->minimum() && value <= widget->maximum() && value != widget->value();
+  const bool moves = widget != nullptr && user::Reachable(bar) && value >= widget->minimum() &&
+                     value <= widget->maximum() && value != widget->value();
   if (!moves) return ScriptHand::ScrollTo(program, bar, value);
   return Through([&] { widget->setValue(value); });
 }
@@ -253,7 +251,8 @@ bool WidgetHand::Resize(Program& program, Window& window, float width, float hei
   const double inner = static_cast<double>(width - windows_.FrameWidth(window));
   const double innerHeight = static_cast<double>(height - windows_.FrameHeight(window));
   const QSize pixels(qRound(stage_.zoom.Pixels(inner)), qRound(stage_.zoom.Pixels(innerHeight)));
-  const bool whole = stage_.zoom.Twips(pixels.width()) == inner && stage_.zoom.Twips(pixels.height()) == innerHeight;
+  const bool whole =
+      stage_.zoom.Twips(pixels.width()) == inner && stage_.zoom.Twips(pixels.height()) == innerHeight;
   const bool serves = form != nullptr && form->isVisible() && form->CanBeDrawnAt() && whole;
   const QSize now = form == nullptr ? QSize() : form->Client().size();
   // Sizes between pixels, and one that is there already, no pointer can draw.

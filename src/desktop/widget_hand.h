@@ -1,9 +1,9 @@
 // The hand that does a script's gestures with mouse and keys, on the widgets of the desktop program.
 //
 // A click is a mouse event on the widget, a typed text comes as an input method would bring it, a menu entry
-// is triggered as its key does it. Gestures that no single event stands for go to the program directly: moving
-// the focus, the state and the activity of windows, and clicks on lists and scroll bars where nothing is to be
-// picked. Whatever was done, the widgets are compared with the slots afterwards.
+// is triggered as its key does it. Gestures that no single event stands for go to the program directly:
+// moving the focus, the state and the activity of windows, and clicks on lists and scroll bars where nothing
+// is to be picked. Whatever was done, the widgets are compared with the slots afterwards.
 //
 // An event of the program may throw, at its end or at the script's; Qt is behind it by then, and the hand
 // throws it on.

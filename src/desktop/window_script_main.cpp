@@ -1,6 +1,6 @@
 // veldrin-window-script [--zoom PERCENT] FILE...: runs scripts against the program on a simulated machine,
-// through the widgets of the desktop program. QT_QPA_PLATFORM=offscreen needs no display. The exit states are
-// those of veldrin-script.
+// through the widgets of the desktop program. Nothing is seen of them unless QT_QPA_PLATFORM names a platform
+// with a display. The exit states are those of veldrin-script.
 #include "desktop/look.h"
 #include "desktop/widget_hand.h"
 #include "script/script_runner.h"
@@ -20,6 +20,7 @@ void TellGraveOnes(QtMsgType type, const QMessageLogContext& /*context*/, const 
 
 int main(int count, char** arguments) {
   qInstallMessageHandler(TellGraveOnes);
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(count, arguments);
   veldrin::SetUpLook(application);
   std::vector<std::string> files(arguments + 1, arguments + count);

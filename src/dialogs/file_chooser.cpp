@@ -139,8 +139,8 @@ void Command1_Click(Program& program) {
 /// The user has backed out of "Save and Load" or "Not save. Load": the plan counts as unsaved again.
 void CancelPendingLoad(Program& program) {
   Workspace& workspace = program.workspace;
-  const bool pendingLoad =
-      workspace.PendingAction == pending::kChangeLoad || workspace.PendingAction == pending::kChangeLoadHistory;
+  const bool pendingLoad = workspace.PendingAction == pending::kChangeLoad ||
+                           workspace.PendingAction == pending::kChangeLoadHistory;
   if (!pendingLoad) return;
   workspace.DataChanged = dirty::kYes;
   workspace.PendingAction = pending::kNone;

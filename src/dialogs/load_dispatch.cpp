@@ -1,6 +1,7 @@
 #include "dialogs/load_dispatch.h"
 
 #include "workspace/chooser_setup.h"
+#include "workspace/control_states.h"
 #include "workspace/language.h"
 
 namespace veldrin {
@@ -17,19 +18,11 @@ bool MustAsk(const Program& program) {
 
 /// The safe key press is the discarding answer, so it has the focus.
 void Ask(Program& program, const char* modeWord) {
-  Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  form2.Label17.Caption = Message(workspace, 16);
-  form2.Command8.Caption = Message(workspace, 21);
-  form2.Command9.Caption = Message(workspace, 25);
-  form2.Command7.Enabled = false;
-  form2.Command11.Enabled = false;
-  form2.HScroll1.Enabled = false;
-  form2.HScroll2.Enabled = false;
-  form2.Picture20.Visible = true;
-  form2.Picture20.BringToFront();
-  SetFocus(form2.Command9);
-  workspace.ModeWord = modeWord;
+  SetQuestion(program, 16, 21, 25);
+  DisableAll({&form2.Command7, &form2.Command11, &form2.HScroll1, &form2.HScroll2});
+  RaiseDecisionPanel(program);
+  program.workspace.ModeWord = modeWord;
 }
 
 }  // namespace

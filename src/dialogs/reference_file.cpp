@@ -16,7 +16,7 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kNeAboveShift = 1000;  // rev/min
+constexpr int kNeAboveShift = 1000;    // rev/min
 constexpr int kHighestMaxSpeed = 340;  // km/h
 
 /// The file on its handle, or an empty one when it could not be opened: every read is then past the end.

@@ -1,7 +1,7 @@
 #include "mainwin/decision_panel.h"
 
-#include "mainwin/gear_panel_state.h"
 #include "view/bind.h"
+#include "workspace/control_states.h"
 #include "workspace/language.h"
 
 #include <string>

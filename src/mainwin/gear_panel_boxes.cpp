@@ -1,9 +1,9 @@
 #include "mainwin/gear_panel_boxes.h"
 
 #include "calc/gear_speed.h"
-#include "mainwin/gear_panel_state.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"
+#include "workspace/control_states.h"
 #include "workspace/decimal.h"
 #include "workspace/title.h"
 

@@ -3,9 +3,9 @@
 #include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
 #include "calc/plan_search.h"
-#include "mainwin/gear_panel_state.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"
+#include "workspace/control_states.h"
 
 #include <string>
 

@@ -2,10 +2,10 @@
 
 #include "calc/gear_chart.h"
 #include "calc/plan_search.h"
-#include "mainwin/gear_panel_state.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/control_states.h"
 
 #include <string>
 

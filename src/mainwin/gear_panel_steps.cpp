@@ -1,8 +1,8 @@
 #include "mainwin/gear_panel_steps.h"
 
 #include "calc/gear_speed.h"
-#include "mainwin/gear_panel_state.h"
 #include "view/bind.h"
+#include "workspace/control_states.h"
 #include "workspace/list_tables.h"
 
 namespace veldrin {

@@ -3,6 +3,7 @@
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/control_states.h"
 #include "workspace/language.h"
 #include "workspace/paths.h"
 #include "workspace/settings.h"
@@ -19,13 +20,6 @@ constexpr float kHeightAtStart = 7400;
 constexpr int kLastPictureSize = 5;
 
 // ---- Load ----
-
-/// The three texts of the decision panel: a question and its two answers.
-void SetQuestion(Program& program, int question, int first, int second) {
-  program.form2.Label17.Caption = Message(program.workspace, question);
-  program.form2.Command8.Caption = Message(program.workspace, first);
-  program.form2.Command9.Caption = Message(program.workspace, second);
-}
 
 void SetJapaneseFonts(Form2& form2) {
   for (PlacedControl* control :
@@ -191,9 +185,7 @@ void Form2_QueryUnload(Program& program, int reason) {
   form2.Timer3.Enabled = true;
   if (reason == static_cast<int>(CloseReason::SessionEnd)) ShowSessionEndBox(program);
   SetQuestion(program, 15, 20, 24);
-  form2.Picture20.Visible = true;
-  form2.Picture20.BringToFront();
-  SetFocus(form2.Command9);
+  RaiseDecisionPanel(program);
 }
 
 void AttachMainWindow(Program& program) {

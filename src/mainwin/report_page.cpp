@@ -1,6 +1,7 @@
 #include "mainwin/report_page.h"
 
 #include "calc/gear_chart.h"
+#include "mainwin/combination.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 
@@ -162,7 +163,7 @@ void DrawMainCell(const Report& report, int gear) {
   const Workspace& workspace = report.program.workspace;
   const std::string& text = report.program.form2.Label32[gear].Caption;
   if (gear == 4) {
-    if (!ContainsIgnoringCase(workspace.Separate34, workspace.MachineKey)) return;
+    if (!HasSeparateParts(workspace)) return;
   } else {
     Run(report, [&] { report.surface.font.size = MainCellSize(report.style, text); });
   }

@@ -49,8 +49,9 @@ struct Describer {
   }
   std::string operator()(const TextPrimitive& text) const {
     return "text " + SevenDigits(text.x) + " " + SevenDigits(text.y) + " " + Quoted(text.text) + " " +
-           ColourText(text.colour) + " font=" + Quoted(text.font.name) + " size=" + SevenDigits(text.font.size) +
-           " bold=" + (text.font.bold ? "True" : "False") + " italic=" + (text.font.italic ? "True" : "False");
+           ColourText(text.colour) + " font=" + Quoted(text.font.name) +
+           " size=" + SevenDigits(text.font.size) + " bold=" + (text.font.bold ? "True" : "False") +
+           " italic=" + (text.font.italic ? "True" : "False");
   }
   std::string operator()(const FillPrimitive& fill) const {
     return "fill " + Corners(fill.x1, fill.y1, fill.x2, fill.y2) + " " + ColourText(fill.colour) +
@@ -68,6 +69,7 @@ void Surface::SetSize(double width, double height) {
 void Surface::SetScale(const Scale& scale) {
   hasUserScale_ = true;
   scale_ = scale;
+  if (changed) changed();
 }
 
 void Surface::SetScaleWidth(double width) {

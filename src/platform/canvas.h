@@ -5,12 +5,12 @@
 // primitives; front ends paint from it at any resolution, and scripts read it.
 #pragma once
 
+#include "platform/colour.h"
+
 #include <functional>
 #include <string>
 #include <variant>
 #include <vector>
-
-#include "platform/colour.h"
 
 namespace veldrin {
 

@@ -1,10 +1,10 @@
 // Windows and boxes on the machine's screen, and where pictures of the program go.
 #pragma once
 
+#include "platform/canvas.h"
+
 #include <string>
 #include <vector>
-
-#include "platform/canvas.h"
 
 namespace veldrin {
 

@@ -1,10 +1,10 @@
 // Puts the program together: every unit's handlers and operations find their place.
 #pragma once
 
+#include "workspace/program.h"
+
 #include <memory>
 #include <string>
-
-#include "workspace/program.h"
 
 namespace veldrin {
 

@@ -1,9 +1,9 @@
 // The one place where faults and the end of the program are caught.
 #pragma once
 
-#include <functional>
-
 #include "workspace/program.h"
+
+#include <functional>
 
 namespace veldrin {
 

@@ -1,12 +1,12 @@
 #include "runtime/conversion.h"
 
+#include "runtime/fault.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
-
-#include "runtime/fault.h"
 
 namespace veldrin {
 
@@ -55,6 +55,20 @@ std::size_t NumberLength(std::string_view text, char decimalSeparator) {
   return end;
 }
 
+/// Whether the first digit of a number that is not 0 stands, with the exponent counted in, before the point.
+bool IsLarge(const std::string& number) {
+  const std::size_t end = std::min(number.find_first_of("eE"), number.size());
+  const std::size_t point = std::min(number.find('.'), end);
+  const std::size_t digit = std::min(number.find_first_of("123456789"), end);
+  const double place = static_cast<double>(point) - static_cast<double>(digit);
+  double exponent = 0;
+  for (std::size_t at = end + 1; at < number.size(); ++at) {
+    if (number[at] >= '0' && number[at] <= '9') exponent = exponent * 10 + (number[at] - '0');
+  }
+  const bool negative = end + 1 < number.size() && number[end + 1] == '-';
+  return place + (negative ? -exponent : exponent) > 0;
+}
+
 /// The value of a text that NumberLength found to be a number. Raises fault 6 beyond 64-bit floats.
 double NumberValue(std::string_view text, char decimalSeparator) {
   std::string plain(text);
@@ -65,9 +79,7 @@ double NumberValue(std::string_view text, char decimalSeparator) {
   const auto result = std::from_chars(begin, plain.data() + plain.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
     // Too small for any float is zero; too large is an overflow. from_chars tells both by one word.
-    const auto exponent = plain.find_first_of("eE");
-    const bool tiny = exponent != std::string::npos && plain[exponent + 1] == '-';
-    if (tiny) return 0;
+    if (!IsLarge(plain)) return 0;
     Raise(kFaultOverflow);
   }
   return value;
@@ -109,12 +121,6 @@ std::int16_t ToInt16(double value) {
 
 std::int32_t ToInt32(double value) {
   return ToWhole<std::int32_t>(value);
-}
-
-float ToSingle(double value) {
-  const auto single = static_cast<float>(value);
-  if (std::isinf(single) || std::isnan(single)) Raise(kFaultOverflow);
-  return single;
 }
 
 double ParseNumber(std::string_view text, char decimalSeparator) {

@@ -4,6 +4,9 @@
 // Texts are read with the decimal separator given, since the system's may be a comma.
 #pragma once
 
+#include "runtime/fault.h"
+
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -20,7 +23,11 @@ std::int16_t ToInt16(double value);
 std::int32_t ToInt32(double value);
 
 /// `value` narrowed to 32 bits. Raises fault 6 when it is too large for them.
-float ToSingle(double value);
+inline float ToSingle(double value) {
+  const auto single = static_cast<float>(value);
+  if (!std::isfinite(single)) Raise(kFaultOverflow);
+  return single;
+}
 
 /// The number that the whole of `text` spells: blanks around it are allowed, a sign, digits with at most one
 /// `decimalSeparator`, an exponent. Raises fault 13 for any other text, the empty one included, and fault 6
@@ -37,7 +44,7 @@ std::int32_t ParseInt32(std::string_view text, char decimalSeparator = '.');
 float ParseSingle(std::string_view text, char decimalSeparator = '.');
 
 /// The number at the beginning of `text`, blanks skipped, with a point as separator; 0 when there is none.
-/// Raises nothing.
+/// Raises fault 6 for a number beyond 64-bit floats.
 double LeadingNumber(std::string_view text);
 
 /// `dividend` over `divisor` in 64 bits. Raises fault 11 for a divisor of 0, fault 6 when both are 0.

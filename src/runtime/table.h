@@ -2,9 +2,9 @@
 // fault 9, never undefined behaviour.
 #pragma once
 
-#include <array>
-
 #include "runtime/fault.h"
+
+#include <array>
 
 namespace veldrin {
 

@@ -1,8 +1,8 @@
 #include "view/control.h"
 
-#include <algorithm>
-
 #include "view/window.h"
+
+#include <algorithm>
 
 namespace veldrin {
 
@@ -90,8 +90,8 @@ std::string Control::FullName() const {
 }
 
 Event* Control::FindEvent(std::string_view eventName) const {
-  const auto found =
-      std::find_if(events.begin(), events.end(), [&](const Event* event) { return event->Name() == eventName; });
+  const auto found = std::find_if(events.begin(), events.end(),
+                                  [&](const Event* event) { return event->Name() == eventName; });
   return found == events.end() ? nullptr : *found;
 }
 

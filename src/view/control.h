@@ -5,13 +5,13 @@
 // control's slots and events by name.
 #pragma once
 
+#include "view/event.h"
+#include "view/slot.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "view/event.h"
-#include "view/slot.h"
 
 namespace veldrin {
 

@@ -2,15 +2,15 @@
 // without gaps, and an array can grow and shrink while its window stands.
 #pragma once
 
+#include "runtime/fault.h"
+#include "view/window.h"
+
 #include <algorithm>
 #include <functional>
 #include <map>
 #include <memory>
 #include <utility>
 #include <vector>
-
-#include "runtime/fault.h"
-#include "view/window.h"
 
 namespace veldrin {
 
@@ -97,8 +97,9 @@ class ControlArray {
 /// Makes the elements of an array: each at its own place, all of one look, captions by subscript. A subscript
 /// without a caption of its own gets that of the look.
 template <class T>
-typename ControlArray<T>::Maker Elements(const char* name, Control& parent, std::function<Place(int index)> place,
-                                         const Look& look = {}, std::vector<const char*> captions = {}) {
+typename ControlArray<T>::Maker Elements(const char* name, Control& parent,
+                                         std::function<Place(int index)> place, const Look& look = {},
+                                         std::vector<const char*> captions = {}) {
   return [=, &parent](int index) {
     Look own = look;
     if (index >= 0 && index < static_cast<int>(captions.size())) {

@@ -1,9 +1,9 @@
 #include "view/controls.h"
 
-#include <algorithm>
-
 #include "runtime/fault.h"
 #include "view/window.h"
+
+#include <algorithm>
 
 namespace veldrin {
 
@@ -180,7 +180,8 @@ PlacedControl::PlacedControl(const char* name, const Place& place, const Look& l
 }
 
 void PlacedControl::HavePlaced() {
-  Have(Left, Top, Width, Height, BackColor, ForeColor, FontName, FontSize, FontBold, FontItalic, MousePointer);
+  Have(Left, Top, Width, Height, BackColor, ForeColor, FontName, FontSize, FontBold, FontItalic,
+       MousePointer);
 }
 
 Label::Label(const char* name, Control& parent, const Place& place, const Look& look)
@@ -239,7 +240,8 @@ SpinButton::SpinButton(const char* name, Control& parent, const Place& place, co
       SpinDown(*this, "SpinDown"),
       SpinUp(*this, "SpinUp") {}
 
-ScrollBar::ScrollBar(const char* name, Control& parent, const Place& place, const Range& range, const Look& look)
+ScrollBar::ScrollBar(const char* name, Control& parent, const Place& place, const Range& range,
+                     const Look& look)
     : PlacedControl(ControlKind::ScrollBar, name, parent, place, look),
       smallChange(range.smallChange),
       largeChange(range.largeChange),
@@ -360,7 +362,8 @@ void ComboBox::Clear() {
 DriveBox::DriveBox(const char* name, Control& parent, const Place& place, const Look& look)
     : PlacedControl(ControlKind::DriveBox, name, parent, place, look),
       entries(parent.window.desk.machine.files.Drives()),
-      Drive(*this, "Drive", parent.window.desk.machine.files.DriveOf(parent.window.desk.machine.files.CurrentFolder()),
+      Drive(*this, "Drive",
+            parent.window.desk.machine.files.DriveOf(parent.window.desk.machine.files.CurrentFolder()),
             DriveChanged, HeldDrive),
       ListIndex(*this, "ListIndex", -1, DrivePicked, HeldWithinList<DriveBox>),
       Change(*this, "Change"),
@@ -390,7 +393,8 @@ void FolderBox::Refresh() {
   const Files& files = window.desk.machine.files;
   entries.clear();
   Guarded([&] {
-    for (const std::string& folder : files.FolderNames(Path)) entries.push_back(JoinedPath(files, Path, folder));
+    for (const std::string& folder : files.FolderNames(Path))
+      entries.push_back(JoinedPath(files, Path, folder));
   });
   ListIndex.Put(-1);
   window.desk.machine.windows.ContentChanged(*this);

@@ -5,11 +5,11 @@
 // list's ListIndex fire Click; a file box's FileName fires its DblClick.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "platform/canvas.h"
 #include "view/control.h"
+
+#include <string>
+#include <vector>
 
 namespace veldrin {
 
@@ -48,7 +48,8 @@ struct Label : PlacedControl {
 };
 
 struct TextBox : PlacedControl {
-  TextBox(const char* name, Control& parent, const Place& place, const Look& look = {}, bool multiLine = false);
+  TextBox(const char* name, Control& parent, const Place& place, const Look& look = {},
+          bool multiLine = false);
 
   const bool multiLine;
   Slot<std::string> Text;
@@ -126,7 +127,8 @@ struct TimerControl : Control {
 
 /// An entry of a menu; the caption "-" is a separator, "(&X)" names its key.
 struct Menu : Control {
-  Menu(const char* name, Control& parent, const char* caption, const char* shortcut = "", const Look& look = {});
+  Menu(const char* name, Control& parent, const char* caption, const char* shortcut = "",
+       const Look& look = {});
 
   const std::string shortcut;  // such as "Ctrl+S", empty for none
   Slot<std::string> Caption;

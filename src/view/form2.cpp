@@ -58,6 +58,7 @@ Form2::Form2(Desk& theDesk)
   Option1[0].Value.Design(true);
   Label10[0].Width.Design(345);
   Label32[3].Left.Design(1425);
+  Label32[4].Left.Design(1425);
   Picture28.MousePointer.Design(kPointerNoDrop);
   DrawPrinter(Picture28.surface);
 }

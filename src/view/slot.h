@@ -6,12 +6,12 @@
 // assignment, so an event's handler runs before the next statement of the writer.
 #pragma once
 
+#include "platform/colour.h"
+
 #include <string>
 #include <string_view>
 #include <utility>
 #include <variant>
-
-#include "platform/colour.h"
 
 namespace veldrin {
 
@@ -75,7 +75,6 @@ inline std::string operator+(std::string_view text, const Slot<std::string>& slo
 }
 
 /// Any slot, for those who walk a control's slots.
-using AnySlot =
-    std::variant<Slot<std::string>*, Slot<bool>*, Slot<int>*, Slot<float>*, Slot<Colour>*>;
+using AnySlot = std::variant<Slot<std::string>*, Slot<bool>*, Slot<int>*, Slot<float>*, Slot<Colour>*>;
 
 }  // namespace veldrin

@@ -16,8 +16,8 @@ void FireFocusEvent(Control& control, const char* eventName) {
 
 }  // namespace
 
-Window::Window(Desk& theDesk, const char* windowName, const Place& place, const Look& windowLook, bool withMenu,
-               bool withFrame)
+Window::Window(Desk& theDesk, const char* windowName, const Place& place, const Look& windowLook,
+               bool withMenu, bool withFrame)
     : PlacedControl(windowName, place, windowLook),
       desk(theDesk),
       hasMenu(withMenu),
@@ -127,8 +127,9 @@ void Window::HandOnFocus() {
   const auto place = std::find(controls.begin(), controls.end(), focus);
   std::vector<Control*> order(place, controls.end());
   order.insert(order.end(), controls.begin(), place);
-  const auto next = std::find_if(order.begin(), order.end(),
-                                 [](const Control* control) { return TakesFocus(*control) && IsUsable(*control); });
+  const auto next = std::find_if(order.begin(), order.end(), [](const Control* control) {
+    return TakesFocus(*control) && IsUsable(*control);
+  });
   MoveFocus(next == order.end() ? nullptr : *next);
 }
 

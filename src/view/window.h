@@ -7,14 +7,14 @@
 // active window hands activity to the next one shown.
 #pragma once
 
+#include "platform/machine.h"
+#include "view/controls.h"
+
 #include <functional>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
-
-#include "platform/machine.h"
-#include "view/controls.h"
 
 namespace veldrin {
 

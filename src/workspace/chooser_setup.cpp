@@ -8,7 +8,8 @@ std::string DataPattern(const Workspace& workspace) {
   return "*." + workspace.MachineKey;
 }
 
-void SetUpChooserBoxes(Program& program, const std::vector<std::string>& patterns, const std::string& folder) {
+void SetUpChooserBoxes(Program& program, const std::vector<std::string>& patterns,
+                       const std::string& folder) {
   Form3& form3 = program.form3;
   form3.Combo2.Clear();
   for (const std::string& pattern : patterns) form3.Combo2.AddItem(pattern);

@@ -15,9 +15,9 @@ inline constexpr char kAnyPattern[] = "*.*";
 /// "*." and the machine's key: the plans of the loaded machine.
 std::string DataPattern(const Workspace& workspace);
 
-/// Fills `Combo2` with the patterns, the last of them picked and in `Combo1`, disables OK, and points the boxes
-/// at the folder; one that cannot be had leaves them where they are. The pattern goes over "*.*", so that the
-/// list is rebuilt even where it is the same as before. Raises nothing.
+/// Fills `Combo2` with the patterns, the last of them picked and in `Combo1`, disables OK, and points the
+/// boxes at the folder; one that cannot be had leaves them where they are. The pattern goes over "*.*", so
+/// that the list is rebuilt even where it is the same as before. Raises nothing.
 void SetUpChooserBoxes(Program& program, const std::vector<std::string>& patterns, const std::string& folder);
 
 /// Shows a message on the prompt line, in front.

@@ -1,10 +1,10 @@
 // What the dialogs keep beside the workspace, each as long as its window stands.
 #pragma once
 
+#include "workspace/workspace.h"
+
 #include <cstdint>
 #include <string>
-
-#include "workspace/workspace.h"
 
 namespace veldrin {
 
@@ -27,8 +27,8 @@ struct CompareSlotRecord {
   std::string Title;
   std::string Primary;
   std::string Final;
-  float Tyre = 0;             // metres
-  std::int16_t ShiftNe = 0;   // rev/min
+  float Tyre = 0;                 // metres
+  std::int16_t ShiftNe = 0;       // rev/min
   Table<float, 0, kGears> Speed;  // km/h; element 0 repeats element 1
   Table<std::int16_t, 1, kGears> DropNe;
   Table<std::string, 1, kGears> Plan;

@@ -1,10 +1,10 @@
 #include "workspace/file_handles.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "runtime/fault.h"
 #include "runtime/text.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace veldrin {
 

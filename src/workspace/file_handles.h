@@ -2,12 +2,12 @@
 // rules rest on: a file that an error left open hinders the next open of the same number.
 #pragma once
 
+#include "platform/files.h"
+#include "runtime/text_file.h"
+
 #include <map>
 #include <memory>
 #include <string>
-
-#include "platform/files.h"
-#include "runtime/text_file.h"
 
 namespace veldrin {
 

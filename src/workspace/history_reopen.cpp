@@ -1,5 +1,6 @@
 #include "workspace/history_reopen.h"
 
+#include "workspace/control_states.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 #include "workspace/paths.h"
@@ -62,15 +63,9 @@ void OpenEntry(Program& program, const std::string& path) {
 }
 
 void AskForChanges(Program& program, int index) {
-  Workspace& workspace = program.workspace;
-  Form2& form2 = program.form2;
-  form2.Label17.Caption = Message(workspace, 17);
-  form2.Command8.Caption = Message(workspace, 21);
-  form2.Command9.Caption = Message(workspace, 25);
-  form2.Picture20.Visible = true;
-  form2.Picture20.BringToFront();
-  SetFocus(form2.Command9);
-  workspace.PendingHistoryIndex = static_cast<std::int16_t>(index);
+  SetQuestion(program, 17, 21, 25);
+  RaiseDecisionPanel(program);
+  program.workspace.PendingHistoryIndex = static_cast<std::int16_t>(index);
 }
 
 }  // namespace

@@ -1,11 +1,11 @@
 #include "workspace/list_tables.h"
 
-#include <algorithm>
-#include <string>
-
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "workspace/ratio_sort.h"
+
+#include <algorithm>
+#include <string>
 
 namespace veldrin {
 
@@ -145,6 +145,7 @@ void BuildFinalTable(Workspace& workspace) {
       final.Drive = workspace.FinalDriveList[i];
       final.Driven = workspace.FinalDrivenList[j];
       final.Text = RatioText(final.Drive, final.Driven);
+      final.Ratio = 0;
       Guarded([&] { final.Ratio = Divide(final.Drive, final.Driven); });
     }
   }

@@ -6,10 +6,10 @@
 // the end of the file.
 #pragma once
 
-#include <functional>
-
 #include "runtime/text_file.h"
 #include "workspace/workspace.h"
+
+#include <functional>
 
 namespace veldrin {
 
@@ -19,7 +19,7 @@ namespace veldrin {
 bool ReadListTables(TextReader& reader, Workspace& workspace, const std::function<void()>& tyreChanged);
 
 /// Builds `FinalTable` from the two lists of sizes: every drive with every driven size, in list order. A
-/// driven size of 0 leaves the row's `Ratio` as it was. Raises nothing.
+/// driven size of 0 leaves the row's `Ratio` at 0. Raises nothing.
 void BuildFinalTable(Workspace& workspace);
 
 /// Sorts both tables of ratios and keeps the texts of final rows 7 and 1.

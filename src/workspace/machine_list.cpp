@@ -1,6 +1,7 @@
 #include "workspace/machine_list.h"
 
 #include "runtime/text.h"
+#include "workspace/control_states.h"
 #include "workspace/history_menu.h"
 #include "workspace/language.h"
 #include "workspace/list_tables.h"
@@ -15,7 +16,8 @@ namespace veldrin {
 namespace {
 
 constexpr char kBadCommandLine[] = "Bad Command-line Option or Bad File-name or File-type.";
-constexpr char kBadCommandLineJapanese[] = "コマンドライン引数か、そのファイル名またはファイルの種類が違います";
+constexpr char kBadCommandLineJapanese[] =
+    "コマンドライン引数か、そのファイル名またはファイルの種類が違います";
 
 /// Tells on the chooser that a file is of no known kind.
 void ShowUnknownKind(Program& program) {
@@ -41,30 +43,16 @@ void ResetDisplay(Program& program) {
 /// The main window of a machine without a plan.
 void ShowNoPlan(Program& program) {
   Form2& form2 = program.form2;
-  form2.Label6.Enabled = false;
-  form2.Label8.Enabled = false;
-  form2.Spin4.Enabled = false;
-  form2.Spin5.Enabled = false;
-  form2.Spin4.ForeColor = kLightGrey;
-  form2.Spin5.ForeColor = kLightGrey;
-  form2.Label38.Visible = false;
-  form2.Label13.Visible = false;
-  form2.Text6.Visible = false;
-  for (Picture* panel : {&form2.Picture1, &form2.Picture2, &form2.Picture3, &form2.Picture4, &form2.Picture9,
-                         &form2.Picture12, &form2.Picture30, &form2.Picture31}) {
-    panel->Visible = false;
-  }
+  DisableAll({&form2.Label6, &form2.Label8});
+  DisableSpin(form2.Spin4);
+  DisableSpin(form2.Spin5);
+  HideAll({&form2.Label38, &form2.Label13, &form2.Text6, &form2.Picture1, &form2.Picture2, &form2.Picture3,
+           &form2.Picture4, &form2.Picture9, &form2.Picture12, &form2.Picture30, &form2.Picture31});
   form2.Text6.Text = "";
   form2.Picture21.surface.Clear();
   form2.Picture28.MousePointer = kPointerNoDrop;
-  form2.Command5.Enabled = false;
-  form2.Command7.Enabled = false;
-  for (Menu* entry : {&form2.menu_save, &form2.menu_print, &form2.menu_comb, &form2.menu_edit, &form2.f_calc,
-                      &form2.f_rest}) {
-    entry->Enabled = false;
-  }
-  form2.HScroll1.Enabled = false;
-  form2.HScroll2.Enabled = false;
+  DisableAll({&form2.Command5, &form2.Command7, &form2.menu_save, &form2.menu_print, &form2.menu_comb,
+              &form2.menu_edit, &form2.f_calc, &form2.f_rest, &form2.HScroll1, &form2.HScroll2});
   form2.Label12[3].BackColor = kLightGrey;
   form2.Label12[4].BackColor = kLightGrey;
 }
@@ -110,8 +98,8 @@ void RefuseFile(Program& program, const std::string& path, int fault) {
   program.files.Close(Handle::Reader);
   workspace.ResultWord = result::kNotGood;
   RemoveFromHistory(program, path);
-  const bool missing = fault == kFaultBadFileName || fault == kFaultFileNotFound || fault == kFaultPathAccess ||
-                       fault == kFaultPathNotFound;
+  const bool missing = fault == kFaultBadFileName || fault == kFaultFileNotFound ||
+                       fault == kFaultPathAccess || fault == kFaultPathNotFound;
   if (missing && workspace.CallerWord == caller::kForm1) {
     ShowBadCommandLine(program);
   } else if (missing && workspace.CallerWord == caller::kForm3) {
@@ -145,8 +133,8 @@ bool OpenByTag(Program& program, const std::string& path) {
 
 void ShowBadCommandLine(Program& program) {
   const bool japanese = CountryCode(program, 0) == kJapan;
-  program.machine.boxes.Message(BoxIcon::Exclamation, "", japanese ? kBadCommandLineJapanese : kBadCommandLine,
-                                BoxButtons::Ok);
+  program.machine.boxes.Message(BoxIcon::Exclamation, "",
+                                japanese ? kBadCommandLineJapanese : kBadCommandLine, BoxButtons::Ok);
 }
 
 void OpenAnyFile(Program& program, const std::string& path) {

@@ -2,9 +2,9 @@
 // from plan files, the list reader goes on from the second field of the same open file.
 #pragma once
 
-#include <string>
-
 #include "workspace/program.h"
+
+#include <string>
 
 namespace veldrin {
 

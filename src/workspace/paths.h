@@ -1,9 +1,9 @@
 // All cutting and joining of paths, by the machine's own rules.
 #pragma once
 
-#include <string>
-
 #include "platform/files.h"
+
+#include <string>
 
 namespace veldrin {
 

@@ -3,6 +3,7 @@
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "workspace/captions.h"
+#include "workspace/control_states.h"
 #include "workspace/decimal.h"
 #include "workspace/language.h"
 #include "workspace/list_tables.h"
@@ -125,7 +126,7 @@ void ShowGears(Program& program) {
     ShowSpeed(workspace, form2.Label2[gear], workspace.SpeedBaseline[gear]);
     form2.Label12[gear].Caption = workspace.GearTable(gear, workspace.PlanIndex[gear]);
     if (gear < 2) continue;
-    const float step = workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1];
+    const float step = ToSingle(workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1]);
     workspace.SpeedStepBaseline[gear - 1] = step;
     ShowStep(workspace, form2.Label39[gear - 1], step);
   }
@@ -153,32 +154,13 @@ void ShowPlanControls(Program& program) {
   Form2& form2 = program.form2;
   form2.Text3.Text = SingleText(workspace, workspace.TyreLength);
   form2.Text4.Text = std::to_string(workspace.ShiftNe);
-  form2.Text6.Visible = true;
-  form2.Label13.Visible = true;
-  for (Picture* panel : {&form2.Picture2, &form2.Picture3, &form2.Picture12, &form2.Picture14,
-                         &form2.Picture15, &form2.Picture29}) {
-    panel->Visible = true;
-  }
-  form2.HScroll1.Visible = true;
-  form2.HScroll2.Visible = true;
+  ShowAll({&form2.Text6, &form2.Label13, &form2.Picture2, &form2.Picture3, &form2.Picture12, &form2.Picture14,
+           &form2.Picture15, &form2.Picture29, &form2.HScroll1, &form2.HScroll2});
   form2.Picture3.BringToFront();
-  for (Picture* panel : {&form2.Picture4, &form2.Picture9, &form2.Picture30}) panel->Visible = false;
-  form2.Label38.Visible = false;
-  form2.Label6.Enabled = true;
-  form2.Label8.Enabled = true;
-  form2.Command11.Enabled = true;
-  form2.Command5.Enabled = true;
-  for (Menu* entry : {&form2.menu_save, &form2.menu_print, &form2.menu_comb, &form2.menu_edit}) {
-    entry->Enabled = true;
-  }
-  form2.HScroll1.Enabled = true;
-  form2.HScroll2.Enabled = true;
-  form2.Spin5.Enabled = true;
-  form2.Spin5.ForeColor = kBlack;
-  if (workspace.PrimaryCount >= 2) {
-    form2.Spin4.Enabled = true;
-    form2.Spin4.ForeColor = kBlack;
-  }
+  HideAll({&form2.Picture4, &form2.Picture9, &form2.Picture30, &form2.Label38});
+  EnableAll({&form2.Label6, &form2.Label8, &form2.Command11, &form2.Command5, &form2.menu_save,
+             &form2.menu_print, &form2.menu_comb, &form2.menu_edit, &form2.HScroll1, &form2.HScroll2});
+  EnableRowSpins(program);
   form2.f_calc.Enabled = false;
   form2.Picture28.MousePointer = kPointerDefault;
 }
@@ -193,21 +175,13 @@ void RefreshAfterReading(Program& program) {
 
 /// The stored speeds belong to other tables: the user chooses between them and the stored plan.
 void AskWhatToBelieve(Program& program) {
-  const Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
   form2.Picture20.Visible = true;
   form2.Picture20.BringToFront();
-  form2.Label17.Caption = Message(workspace, 13);
-  form2.Command8.Caption = Message(workspace, 18);
-  form2.Command9.Caption = Message(workspace, 22);
-  form2.Command11.Enabled = false;
-  for (TextBox* box : {&form2.Text2, &form2.Text3, &form2.Text4, &form2.Text6}) box->Enabled = false;
-  form2.HScroll1.Enabled = false;
-  form2.HScroll2.Enabled = false;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    form2.Label12[gear].Enabled = false;
-    form2.Spin6[gear].Enabled = false;
-  }
+  SetQuestion(program, 13, 18, 22);
+  DisableAll({&form2.Command11, &form2.Text2, &form2.Text3, &form2.Text4, &form2.Text6, &form2.HScroll1,
+              &form2.HScroll2});
+  for (int gear = 1; gear <= kGears; ++gear) DisableAll({&form2.Label12[gear], &form2.Spin6[gear]});
 }
 
 void ShowPlanMode(Program& program) {
@@ -219,11 +193,6 @@ void ShowPlanMode(Program& program) {
   form2.f_comp.Enabled = true;
   form2.Label12[3].BackColor = kLightGrey;
   form2.Label12[4].BackColor = kLightGrey;
-}
-
-void EnableRestore(Program& program, bool enabled) {
-  program.form2.Command7.Enabled = enabled;
-  program.form2.f_rest.Enabled = enabled;
 }
 
 // ---- Writing ----

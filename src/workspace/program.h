@@ -2,9 +2,6 @@
 // above their callers. Units are free functions that take it.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "view/form1.h"
 #include "view/form10.h"
 #include "view/form2.h"
@@ -17,6 +14,9 @@
 #include "workspace/dialog_state.h"
 #include "workspace/file_handles.h"
 #include "workspace/workspace.h"
+
+#include <functional>
+#include <string>
 
 namespace veldrin {
 

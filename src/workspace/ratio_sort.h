@@ -1,10 +1,10 @@
 // The sort of the primary and of the final table.
 #pragma once
 
+#include "workspace/workspace.h"
+
 #include <cstdint>
 #include <functional>
-
-#include "workspace/workspace.h"
 
 namespace veldrin {
 

@@ -1,9 +1,9 @@
 // The main window's title: its parts, and the mark of unsaved changes.
 #pragma once
 
-#include <string>
-
 #include "workspace/program.h"
+
+#include <string>
 
 namespace veldrin {
 

@@ -12,7 +12,9 @@ std::string RatioText(int drive, int driven) {
 }
 
 char DecimalSeparator(const Workspace& workspace) {
-  return workspace.DecimalSep.empty() ? '.' : workspace.DecimalSep.front();
+  const std::string& separator = workspace.DecimalSep;
+  const bool plain = separator.size() == 1 && static_cast<unsigned char>(separator.front()) < 0x80;
+  return plain ? separator.front() : '.';
 }
 
 std::string FormatSingle(const Workspace& workspace, float value, const char* format) {

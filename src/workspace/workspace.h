@@ -5,12 +5,12 @@
 // Gears are numbered 1 to 6; tables start at 1 unless they say otherwise. Texts are UTF-8.
 #pragma once
 
-#include <cstdint>
-#include <string>
-
 #include "platform/colour.h"
 #include "runtime/table.h"
 #include "workspace/words.h"
+
+#include <cstdint>
+#include <string>
 
 namespace veldrin {
 
@@ -26,10 +26,11 @@ inline constexpr int kRatioTextLength = 5;
 
 /// A row of the primary or of the final table.
 struct RatioRow {
-  std::int16_t Drive = 0;    // teeth of the driving sprocket or wheel
-  std::int16_t Driven = 0;   // teeth of the driven one
-  std::string Text = "     ";  // "Drive-Driven", always 5 characters; the row's name in plan files and on screen
-  double Ratio = 0;          // Drive over Driven
+  std::int16_t Drive = 0;   // teeth of the driving sprocket or wheel
+  std::int16_t Driven = 0;  // teeth of the driven one
+  std::string Text =
+      "     ";       // "Drive-Driven", always 5 characters; the row's name in plan files and on screen
+  double Ratio = 0;  // Drive over Driven
 };
 
 /// The text of a row: "drive-driven", filled up with blanks or cut at 5 characters.
@@ -40,7 +41,7 @@ struct Workspace {
   // ---- The machine, constant until the next list is loaded ----
   std::string MachineName;  // as written in the list file
   std::string MachineKey;   // in lower case; empty while no machine is loaded; extension of plan files
-  Table<std::int16_t, 1, kFinalDriveLimit> FinalDriveList;    // teeth
+  Table<std::int16_t, 1, kFinalDriveLimit> FinalDriveList;  // teeth
   std::int16_t FinalDriveCount = 0;
   Table<std::int16_t, 1, kFinalDrivenLimit> FinalDrivenList;  // teeth
   std::int16_t FinalDrivenCount = 0;
@@ -79,20 +80,20 @@ struct Workspace {
   Table<float, 1, kGears> SpeedRequest;
   Table<float, 1, kGears - 1> SpeedStepNow;
   Table<float, 1, kGears - 1> SpeedStepBaseline;
-  Table<float, 1, kGears> ShiftDropNe;   // rev/min after changing up into the gear
-  Table<float, 1, kGears> NeDeviation;   // rev/min away from the baseline
+  Table<float, 1, kGears> ShiftDropNe;  // rev/min after changing up into the gear
+  Table<float, 1, kGears> NeDeviation;  // rev/min away from the baseline
 
   // ---- Requests and the search ----
   Table<std::int16_t, 1, kGears> ToleranceMinus;  // km/h, 1..21
   Table<std::int16_t, 1, kGears> TolerancePlus;
-  Table<std::int16_t, 1, kGears> BaseNe;     // rev/min, 0 before the first entry by revolutions
+  Table<std::int16_t, 1, kGears> BaseNe;  // rev/min, 0 before the first entry by revolutions
   Table<std::int16_t, 1, kGears> RequestNe;
   Table<std::int16_t, 1, kGears> GearChoiceCount;  // columns of a gear's pop-up
   Table<std::string, 0, kPlanLimit> PlanList;      // slot 0 is never used
   std::int16_t PlanCount = 0;
 
   // ---- Files ----
-  std::string AppPath;          // program folder
+  std::string AppPath;  // program folder
   std::string ListPath;
   std::string DataPath;
   std::string InitialDataPath;  // DataPath as it stood at start
@@ -136,7 +137,7 @@ struct Workspace {
   std::int16_t NumExtReg = 0;
   std::int16_t MenuRegCount = 0;
   std::int16_t ExtSlot = 0;
-  std::int16_t LastTop = 0;   // twips
+  std::int16_t LastTop = 0;  // twips
   std::int16_t LastLeft = 0;
   std::string DecimalSep = ".";
   std::string ThousandSep = ".";
@@ -148,7 +149,7 @@ struct Workspace {
   std::uint32_t sortRandom = 1;
 };
 
-/// The system's decimal separator as one character.
+/// The system's decimal separator; a point where the system's is none of the plain characters.
 char DecimalSeparator(const Workspace& workspace);
 
 /// "###.#" and the like of a 32-bit value, with the system's separator.

@@ -63,7 +63,7 @@ void Pass(Workspace& w, const Told& told, const Passes& passes) {
           const double distance =
               plain::GearSpeed(w, p, f, gear, row) - static_cast<double>(w.SpeedRequest[gear]);
           if (passes(gear, distance)) {
-            candidates.Add(static_cast<float>(std::fabs(distance)), row, bestRow[gear]);
+            candidates.Add(ToSingle(std::fabs(distance)), row, bestRow[gear]);
           }
         }
         abandoned = candidates.count == 0;
@@ -104,7 +104,7 @@ inline bool SearchAuto(Workspace& w, int mainGear, const Told& told) {
   std::int16_t tolerance = 1;
   while (true) {
     Pass(w, told, [&](int gear, double distance) {
-      const auto error = static_cast<float>(std::fabs(distance));
+      const float error = ToSingle(std::fabs(distance));
       const int limit = gear == mainGear ? 1 : tolerance;
       return error <= static_cast<float>(limit);
     });
@@ -130,7 +130,7 @@ inline bool SearchMixed(Workspace& w, const Table<bool, 1, kGears>& manual, cons
   Table<Bounds, 1, kGears> work = fixed;
   while (true) {
     Pass(w, told, [&](int gear, double distance) {
-      const auto signedError = static_cast<float>(distance);
+      const float signedError = ToSingle(distance);
       const Bounds& bounds = manual[gear] ? fixed[gear] : work[gear];
       return signedError >= static_cast<float>(bounds.lower) &&
              signedError <= static_cast<float>(bounds.upper);

@@ -1,4 +1,4 @@
-// States of controls that several units of the gear panel set alike.
+// States of the main window's controls that several units set alike.
 #pragma once
 
 #include "workspace/program.h"
@@ -23,5 +23,14 @@ void EnableOutput(Program& program, bool enabled);
 /// The arrows of primary and final. A machine with a single primary row leaves nothing to step, so those of
 /// the primary stay as they are. Raises nothing.
 void EnableRowSpins(Program& program);
+
+/// Restore, as button and as menu entry.
+void EnableRestore(Program& program, bool enabled);
+
+/// The three texts of the decision panel by their messages: a question and its two answers.
+void SetQuestion(Program& program, int question, int left, int right);
+
+/// Puts the decision panel in front, with the focus on the right answer, the discarding one.
+void RaiseDecisionPanel(Program& program);
 
 }  // namespace veldrin

@@ -1,4 +1,6 @@
-#include "mainwin/gear_panel_state.h"
+#include "workspace/control_states.h"
+
+#include "workspace/language.h"
 
 namespace veldrin {
 
@@ -47,6 +49,23 @@ void EnableOutput(Program& program, bool enabled) {
 void EnableRowSpins(Program& program) {
   if (program.workspace.PrimaryCount >= kRowsToStep) EnableSpin(program.form2.Spin4);
   EnableSpin(program.form2.Spin5);
+}
+
+void EnableRestore(Program& program, bool enabled) {
+  program.form2.Command7.Enabled = enabled;
+  program.form2.f_rest.Enabled = enabled;
+}
+
+void SetQuestion(Program& program, int question, int left, int right) {
+  program.form2.Label17.Caption = Message(program.workspace, question);
+  program.form2.Command8.Caption = Message(program.workspace, left);
+  program.form2.Command9.Caption = Message(program.workspace, right);
+}
+
+void RaiseDecisionPanel(Program& program) {
+  program.form2.Picture20.Visible = true;
+  program.form2.Picture20.BringToFront();
+  SetFocus(program.form2.Command9);
 }
 
 }  // namespace veldrin

@@ -1,0 +1,239 @@
+#include "dialogs/progress_meter.h"
+
+#include "script/simulated_machine.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace veldrin {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// A meter on a surface of 2000 by 1000 twips. A character of size 9 is 90 twips wide, a line 216 high.
+struct Meter : testing::Test {
+  SimulatedMachine simulated;
+  Surface surface{simulated.metrics};
+  clsProgressBar meter;
+
+  Meter() {
+    surface.SetSize(2000, 1000);
+    surface.font = {"Arial", 9, false, false};
+    meter.SetPicture(surface);
+  }
+
+  /// What was drawn since the last call.
+  Lines Drawn() {
+    Lines lines;
+    for (const Primitive& primitive : surface.Drawing()) lines.push_back(Describe(primitive));
+    surface.Clear();
+    return lines;
+  }
+};
+
+std::string Text(const std::string& place, const std::string& text, const std::string& colour = "0,0,128") {
+  return "text " + place + " \"" + text + "\" " + colour + " font=\"Arial\" size=9 bold=False italic=False";
+}
+
+TEST_F(Meter, TakingASurfaceClearsItAndShowsNothing) {
+  EXPECT_EQ(surface.UserScale(), (Scale{0, 0, 100, 1000}));
+  // A character is 4.5 wide now: 50 - 9 / 2, and (1000 - 216) / 2.
+  EXPECT_EQ(Drawn(),
+            (Lines{"fill 0 0 100 1000 255,255,255 mode=copy", Text("45.5 392", "0%"),
+                   "fill 0 0 0 1000 0,0,128 mode=notxor", "fill 0 0 100 1000 255,255,255 mode=notxor"}));
+  surface.Line(0, 0, 1, 1, kRed);
+  meter.SetPicture(surface);
+  EXPECT_EQ(Drawn().size(), 4U);
+}
+
+TEST_F(Meter, FillsFromTheLeft) {
+  Drawn();
+  meter.SetValue(30);
+  EXPECT_EQ(Drawn(),
+            (Lines{"fill 0 0 100 1000 255,255,255 mode=copy", Text("43.25 392", "30%"),
+                   "fill 0 0 30 1000 0,0,128 mode=notxor", "fill 30 0 100 1000 255,255,255 mode=notxor"}));
+  EXPECT_EQ(surface.drawMode, DrawMode::NotXorPen);
+  EXPECT_EQ(surface.foreColour, Rgb(0, 0, 128));
+}
+
+TEST_F(Meter, FillsFromTheBottomWithPartsThatDoNotMeet) {
+  meter.SetDirection(1);
+  EXPECT_EQ(surface.UserScale(), (Scale{0, 0, 100, 100}));
+  Drawn();
+  meter.SetValue(30);
+  // A line is 21.6 high now. The lower part begins at 70, the upper one ends at 30.
+  EXPECT_EQ(Drawn(),
+            (Lines{"fill 0 0 100 100 255,255,255 mode=copy", Text("43.25 39.2", "30%"),
+                   "fill 0 100 100 70 0,0,128 mode=notxor", "fill 0 0 100 30 255,255,255 mode=notxor"}));
+  meter.SetValue(80);
+  // Now they overlap from 20 to 80.
+  EXPECT_EQ(Drawn()[2], "fill 0 100 100 20 0,0,128 mode=notxor");
+  meter.SetValue(80);
+  EXPECT_EQ(Drawn()[3], "fill 0 0 100 80 255,255,255 mode=notxor");
+}
+
+TEST_F(Meter, AnyOtherDirectionDrawsNoBar) {
+  for (const int direction : {2, -1, std::numeric_limits<int>::max()}) {
+    meter.SetDirection(direction);
+    Drawn();
+    meter.SetValue(30);
+    EXPECT_EQ(Drawn(), (Lines{"fill 0 0 100 100 255,255,255 mode=copy", Text("43.25 39.2", "30%")}))
+        << direction;
+    EXPECT_EQ(meter.Direction(), direction);
+  }
+}
+
+TEST_F(Meter, HoldsTheValueWithinItsEnds) {
+  struct Case {
+    std::int32_t value;
+    std::int32_t held;
+  };
+  const Case cases[] = {{-1, 0},
+                        {0, 0},
+                        {1, 1},
+                        {99, 99},
+                        {100, 100},
+                        {101, 100},
+                        {std::numeric_limits<std::int32_t>::min(), 0},
+                        {std::numeric_limits<std::int32_t>::max(), 100}};
+  for (const Case& c : cases) {
+    Drawn();
+    meter.SetValue(c.value);
+    EXPECT_EQ(meter.Value(), c.held) << c.value;
+    EXPECT_EQ(Drawn()[2], "fill 0 0 " + std::to_string(c.held) + " 1000 0,0,128 mode=notxor") << c.value;
+  }
+}
+
+TEST_F(Meter, NothingIsAllEmptyAndEverythingIsAllFull) {
+  Drawn();
+  meter.SetValue(0);
+  Lines lines = Drawn();
+  EXPECT_EQ(lines[2], "fill 0 0 0 1000 0,0,128 mode=notxor");
+  EXPECT_EQ(lines[3], "fill 0 0 100 1000 255,255,255 mode=notxor");
+  meter.SetValue(100);
+  lines = Drawn();
+  EXPECT_EQ(lines[2], "fill 0 0 100 1000 0,0,128 mode=notxor");
+  EXPECT_EQ(lines[3], "fill 100 0 100 1000 255,255,255 mode=notxor");
+}
+
+TEST_F(Meter, WithoutNumberAndTextTheBarHasNoText) {
+  meter.SetText("");
+  meter.SetShowNumber(false);
+  Drawn();
+  meter.SetValue(40);
+  EXPECT_EQ(Drawn(), (Lines{"fill 0 0 100 1000 255,255,255 mode=copy", "fill 0 0 40 1000 0,0,128 mode=notxor",
+                            "fill 40 0 100 1000 255,255,255 mode=notxor"}));
+}
+
+TEST_F(Meter, TextStandsBehindTheNumberOrAlone) {
+  Drawn();
+  meter.SetText(" MB");
+  EXPECT_EQ(Drawn()[1], Text("41 392", "0 MB"));
+  meter.SetShowNumber(false);
+  EXPECT_EQ(Drawn()[1], Text("43.25 392", " MB"));
+  // A character from beyond ASCII is twice as wide.
+  meter.SetText("空き");
+  EXPECT_EQ(Drawn()[1], Text("41 392", "空き"));
+}
+
+TEST_F(Meter, AHigherMaxIsTheScaleInBothDirections) {
+  Drawn();
+  meter.SetMax(500);
+  EXPECT_EQ(meter.Max(), 500);
+  EXPECT_EQ(surface.UserScale(), (Scale{0, 0, 500, 500}));
+  // A character is 22.5 wide, a line 108 high.
+  EXPECT_EQ(Drawn(),
+            (Lines{"fill 0 0 500 500 255,255,255 mode=copy", Text("227.5 196", "0%"),
+                   "fill 0 0 0 500 0,0,128 mode=notxor", "fill 0 0 500 500 255,255,255 mode=notxor"}));
+  meter.SetValue(400);
+  EXPECT_EQ(meter.Value(), 400);
+}
+
+TEST_F(Meter, ALowerMaxTakesTheValueAlong) {
+  meter.SetValue(80);
+  meter.SetMax(50);
+  EXPECT_EQ(meter.Value(), 50);
+  meter.SetMax(200);
+  EXPECT_EQ(meter.Value(), 50);
+}
+
+TEST_F(Meter, SettingTheDirectionResetsTheScale) {
+  meter.SetMax(50);
+  surface.SetScale({0, 0, 7, 7});
+  Drawn();
+  meter.SetDirection(0);
+  EXPECT_EQ(surface.UserScale(), (Scale{0, 0, 50, 50}));
+  // Drawn for the scale, and once more for the direction.
+  EXPECT_EQ(Drawn().size(), 8U);
+}
+
+TEST_F(Meter, ColoursAreTakenAtOnce) {
+  meter.SetValue(30);
+  Drawn();
+  meter.SetBarColor(kRed);
+  Lines lines = Drawn();
+  EXPECT_EQ(lines[1], Text("43.25 392", "30%", "255,0,0"));
+  EXPECT_EQ(lines[2], "fill 0 0 30 1000 255,0,0 mode=notxor");
+  meter.SetBackColor(kYellow);
+  lines = Drawn();
+  // What is below stays white.
+  EXPECT_EQ(lines[0], "fill 0 0 100 1000 255,255,255 mode=copy");
+  EXPECT_EQ(lines[3], "fill 30 0 100 1000 255,255,0 mode=notxor");
+  EXPECT_EQ(meter.BarColor(), kRed);
+  EXPECT_EQ(meter.BackColor(), kYellow);
+}
+
+TEST_F(Meter, RefreshDrawsTheSameAgain) {
+  meter.SetValue(30);
+  Drawn();
+  meter.Refresh();
+  const Lines first = Drawn();
+  meter.Refresh();
+  EXPECT_EQ(Drawn(), first);
+  EXPECT_EQ(first[2], "fill 0 0 30 1000 0,0,128 mode=notxor");
+}
+
+TEST_F(Meter, ScaleIsTakenInWholeNumbers) {
+  surface.SetScale({0, 0, 100.5, 40.5});
+  Drawn();
+  meter.SetText("");
+  meter.SetShowNumber(false);
+  Drawn();
+  meter.SetValue(30);
+  // Rounded half to even, but for the lower edge of the empty part.
+  EXPECT_EQ(Drawn(), (Lines{"fill 0 0 100 40 255,255,255 mode=copy", "fill 0 0 30 40 0,0,128 mode=notxor",
+                            "fill 30 0 100 40.5 255,255,255 mode=notxor"}));
+}
+
+TEST_F(Meter, DefaultsAreThoseOfAPercentage) {
+  const clsProgressBar fresh;
+  EXPECT_EQ(fresh.Value(), 0);
+  EXPECT_EQ(fresh.BarColor().bgr, 0x800000U);
+  EXPECT_EQ(fresh.BackColor().bgr, 0xFFFFFFU);
+  EXPECT_EQ(fresh.Max(), 100);
+  EXPECT_EQ(fresh.Text(), "%");
+  EXPECT_TRUE(fresh.ShowNumber());
+  EXPECT_EQ(fresh.Direction(), 0);
+}
+
+TEST_F(Meter, WithoutASurfaceItKeepsWhatItIsTold) {
+  clsProgressBar fresh;
+  fresh.SetMax(10);
+  fresh.SetValue(20);
+  fresh.SetText("x");
+  fresh.SetShowNumber(false);
+  fresh.SetDirection(1);
+  EXPECT_EQ(fresh.Value(), 10);
+  EXPECT_EQ(fresh.Text(), "x");
+  Drawn();
+  // A new surface begins at 0, with the scale's width alone.
+  fresh.SetPicture(surface);
+  EXPECT_EQ(fresh.Value(), 0);
+  EXPECT_EQ(surface.UserScale().width, 10);
+}
+
+}  // namespace
+}  // namespace veldrin
