@@ -2,6 +2,7 @@
 // real ones must equal in every slot, count and fault, and what the bench measures them against.
 #pragma once
 
+#include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "workspace/workspace.h"
 
