@@ -254,6 +254,21 @@ std::string FormWidget::Title() const {
   return windowTitle().replace(kMarkItself, kMark).toStdString();
 }
 
+QPixmap FormWidget::Picture() {
+  if (!clipped_) return grab();
+  const int menu = MenuHeight();
+  const QSize whole = client_->size() + QSize(0, menu);
+  QPixmap picture(whole * devicePixelRatioF());
+  picture.setDevicePixelRatio(devicePixelRatioF());
+  if (menuBar_ != nullptr) {
+    menuBar_->setGeometry(0, 0, whole.width(), menu);
+    menuBar_->render(&picture);
+    PlaceInside();
+  }
+  client_->render(&picture, QPoint(0, menu));
+  return picture;
+}
+
 int FormWidget::MenuHeight() const {
   return menuBar_ == nullptr ? 0 : menuBar_->sizeHint().height();
 }

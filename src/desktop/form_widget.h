@@ -9,6 +9,7 @@
 #include "desktop/client_area.h"
 
 #include <QMenuBar>
+#include <QPixmap>
 #include <QScrollArea>
 #include <QWidget>
 
@@ -41,6 +42,8 @@ class FormWidget : public QWidget {
   void CutToEllipse(const QRect& box);
   /// What the window has to be shown as before it is shown modally.
   void BecomeModal();
+  /// The window as it looks without its frame, whole even where the screen has no room for it.
+  QPixmap Picture();
   /// Whether the user can draw the window larger and smaller.
   bool CanBeDrawnAt() const { return CanResize() && !clipped_ && ellipse_.isNull(); }
   /// The title as the program wrote it.

@@ -1,9 +1,12 @@
 #include "desktop/grid_widget.h"
 
+#include "desktop/fitted_text.h"
 #include "desktop/text_ends.h"
 
 #include <QHeaderView>
+#include <QPainter>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -12,6 +15,20 @@ namespace veldrin {
 namespace {
 
 constexpr double kRowTwips = 270;
+
+/// Paints cells that are just as wide as their texts.
+class CellPainter : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const bool picked = option.state.testFlag(QStyle::State_Selected);
+    if (picked) painter->fillRect(option.rect, option.palette.color(QPalette::Highlight));
+    painter->setPen(option.palette.color(picked ? QPalette::HighlightedText : QPalette::Text));
+    DrawFitted(*painter, QRectF(option.rect).adjusted(1, 0, -1, 0), index.data().toString(), option.font,
+               Qt::AlignHCenter);
+  }
+};
 
 }  // namespace
 
@@ -25,6 +42,7 @@ GridWidget::GridWidget(Grid& grid, Stage& stage, QWidget* parent) : ControlWidge
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setTabKeyNavigation(false);
+  setItemDelegate(new CellPainter(this));
 }
 
 void GridWidget::Take(std::string_view slot) {
@@ -62,7 +80,6 @@ void GridWidget::TakeCells() {
       QTableWidgetItem* cell = item(row, column);
       if (cell == nullptr) {
         cell = new QTableWidgetItem;
-        cell->setTextAlignment(Qt::AlignCenter);
         setItem(row, column, cell);
       }
       cell->setText(ToWidgetText(grid.Cell(row, column)));

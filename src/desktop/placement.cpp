@@ -44,8 +44,15 @@ QRectF PlaceInParent(const Control& control, const Zoom& zoom) {
     return QRectF(QPointF(x(line.X1), y(line.Y1)), QPointF(x(line.X2), y(line.Y2))).normalized();
   }
   const auto& placed = static_cast<const PlacedControl&>(control);
-  return {x(placed.Left), y(placed.Top), static_cast<double>(placed.Width) * units.across,
-          static_cast<double>(placed.Height) * units.down};
+  QRectF place(x(placed.Left), y(placed.Top), static_cast<double>(placed.Width) * units.across,
+               static_cast<double>(placed.Height) * units.down);
+  if (control.kind == ControlKind::Label && control.parent->kind == ControlKind::Picture) {
+    const QRectF panel = PlaceInParent(*control.parent, zoom);
+    if (place.left() < panel.width() && place.right() > panel.width()) {
+      place.moveRight(std::max(panel.width(), place.width()));
+    }
+  }
+  return place;
 }
 
 QRect PixelsInParent(const Control& control, const Zoom& zoom) {

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <iterator>
 
 namespace veldrin {
 
@@ -15,14 +16,19 @@ namespace {
 constexpr double kTwipsPerPoint = 20;
 constexpr double kTwipsPerPrintedInch = 1440;
 
+/// Fonts that the program asks for by itself; other fonts stand for those that the system lacks.
+constexpr const char* kOwnFonts[] = {"Arial", "ＭＳ ゴシック", "ＭＳ Ｐゴシック"};
+
 }  // namespace
 
 RealPrinter::RealPrinter(const TextMetrics& metrics) : metrics_(&metrics), page_(metrics) {}
 
 std::vector<std::string> RealPrinter::Fonts() const {
-  std::vector<std::string> fonts;
+  std::vector<std::string> fonts(std::begin(kOwnFonts), std::end(kOwnFonts));
   for (const QString& family : QFontDatabase::families()) {
-    if (!QFontDatabase::isPrivateFamily(family)) fonts.push_back(family.toStdString());
+    const std::string font = family.toStdString();
+    const bool known = std::find(std::begin(kOwnFonts), std::end(kOwnFonts), font) != std::end(kOwnFonts);
+    if (!known && !QFontDatabase::isPrivateFamily(family)) fonts.push_back(font);
   }
   return fonts;
 }

@@ -18,6 +18,7 @@ class RealPrinter : public Printer {
 
   /// Always: without a printer there is the PDF file.
   bool Available() const override { return true; }
+  /// The fonts that the program asks for by itself, and then the system's.
   std::vector<std::string> Fonts() const override;
   void SetCopies(int copies) override;
   /// As large as the printable area of the paper that is set at this moment, when nothing is drawn yet.

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <utility>
 
 #ifdef _WIN32
 #include <windows.h>

@@ -16,7 +16,7 @@ namespace veldrin {
 /// user has set.
 class RealProfile : public Profile {
  public:
-  explicit RealProfile(QLocale locale = QLocale::system()) : locale_(std::move(locale)) {}
+  explicit RealProfile(const QLocale& locale = QLocale::system()) : locale_(locale) {}
 
   /// Entries are found without regard to case. Separators are told only where one byte holds them.
   std::optional<std::string> International(const std::string& entry) const override;

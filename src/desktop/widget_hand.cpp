@@ -276,7 +276,7 @@ bool WidgetHand::Screenshot(Program& /*program*/, Window& window, const std::str
   windows_.Settle();
   QCoreApplication::processEvents();
   stage_.input.RethrowCaught();
-  return form->grab().save(QString::fromStdString(file), "PNG");
+  return form->Picture().save(QString::fromStdString(file), "PNG");
 }
 
 std::vector<Mismatch> WidgetHand::Mismatches() {

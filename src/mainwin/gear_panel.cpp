@@ -11,6 +11,8 @@
 #include "view/bind.h"
 #include "workspace/plan_file.h"
 
+#include <string>
+
 namespace veldrin {
 
 namespace {
@@ -68,6 +70,17 @@ void menu_qr_Click(Program& program) {
   program.hooks.OpenQuickRatioChooser();
 }
 
+/// Without a plan in the working file there is nothing to restore: nothing is said, and changes stay changes.
+void Restore(Program& program) {
+  Workspace& workspace = program.workspace;
+  const std::string dataChanged = workspace.DataChanged;
+  const std::string remarkChanged = workspace.RemarkChanged;
+  if (Guarded([&] { RestorePlan(program); }) == 0) return;
+  workspace.CallerWord = caller::kUser;
+  workspace.DataChanged = dataChanged;
+  workspace.RemarkChanged = remarkChanged;
+}
+
 }  // namespace
 
 void AttachGearPanel(Program& program) {
@@ -80,8 +93,8 @@ void AttachGearPanel(Program& program) {
   AttachGearPanelChart(program);
   AttachDecisionPanel(program);
   On(program, form2.Command11.Click, Command11_Click);
-  On(program, form2.Command7.Click, RestorePlan);
-  On(program, form2.f_rest.Click, RestorePlan);
+  On(program, form2.Command7.Click, Restore);
+  On(program, form2.f_rest.Click, Restore);
   On(program, form2.Command4.MouseUp, Command4_MouseUp);
   On(program, form2.f_comp.Click, f_comp_Click);
   On(program, form2.Command5.Click, Command5_Click);

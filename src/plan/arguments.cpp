@@ -22,7 +22,8 @@ const char kPlanHelp[] =
   --manual G=-A+B     gear G stays within A km/h below and B above its speed, 1 to 21 each; may be given for
                       several gears. The others then widen as the window's AUTO gears do beside a MANUAL one
   --main G            gear G stays within 1 km/h; not together with --manual
-  --min-plan N        plans wanted before the search stops, 1 to 30, default 1; not together with --manual
+  --min-plan N        plans wanted before the search stops, 1 to 30, default 1; not together with --manual. A gap
+                      that the search leaves in its list counts as one, and is not printed
   --shift-ne N        shift-up revolutions, 5000 to 24000, default the list's SHIFT_NE, else 13000
   --tyre L            rolling length of the tyre in metres, 1 to 3, default the list's TYRE_L, else 1.9
   --format FORMAT     table (default): a block for each plan

@@ -22,10 +22,14 @@ struct Form2 : Window {
       .fore = kLightGrey, .back = kDarkBlue, .align = Align::Right, .transparent = true};
   static constexpr Look kSmallTitle{
       .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8, .transparent = true};
+  // Numerals beside an axis, over the outer ends of its ticks; steps between the gears.
+  static constexpr Look kNumeral{.fore = kLightGrey, .back = kDarkBlue, .fontSize = 8, .align = Align::Right};
+  static constexpr Look kStep{
+      .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8, .align = Align::Right, .transparent = true};
   static constexpr Look kPartHead{.fore = kLightGrey, .back = kBlack, .transparent = true};
   // ... figures of the gears, which the constructor gives the colours of their gears, ...
   static constexpr Look kGearName{.back = kBlack, .fontSize = 10, .fontBold = true, .align = Align::Centre};
-  static constexpr Look kSpeed{.back = kBlack, .fontSize = 8, .fontBold = true};
+  static constexpr Look kSpeed{.back = kBlack, .fontSize = 8, .fontBold = true, .align = Align::Right};
   static constexpr Look kFigure{.back = kBlack, .fontSize = 8, .fontBold = true, .align = Align::Right};
   static constexpr Look kTolerance{.caption = "--",
                                    .back = kBlack,
@@ -95,11 +99,11 @@ struct Form2 : Window {
   Line         Line2    {"Line2",     Picture19,  480, 5520, 4460, 5520};
   ControlArray<Line> Line3{0, 18, [this](int i) { return std::make_unique<Line>("Line3", Picture19, 360.0F, 5520 - static_cast<float>(i) * kTickSpeed, 480.0F, 5520 - static_cast<float>(i) * kTickSpeed); }};
   ControlArray<Line> Line4{0, 24, [this](int i) { return std::make_unique<Line>("Line4", Picture19, (static_cast<float>(i) * kTickNe + 480) * 1.008F, 5520.0F, (static_cast<float>(i) * kTickNe + 480) * 1.008F, 5640.0F); }};
-  Label        Label18  {"Label18",   Picture19, {150, 5430 - 15 * kTickSpeed, 315, 195}, Titled("300", kSmallTitle)};
-  Label        Label19  {"Label19",   Picture19, {150, 5430 - 10 * kTickSpeed, 315, 195}, Titled("200", kSmallTitle)};
-  Label        Label20  {"Label20",   Picture19, {150, 5430 - 5 * kTickSpeed, 315, 195}, Titled("100", kSmallTitle)};
+  Label        Label18  {"Label18",   Picture19, {150, 5430 - 15 * kTickSpeed, 285, 195}, Titled("300", kNumeral)};
+  Label        Label19  {"Label19",   Picture19, {150, 5430 - 10 * kTickSpeed, 285, 195}, Titled("200", kNumeral)};
+  Label        Label20  {"Label20",   Picture19, {150, 5430 - 5 * kTickSpeed, 285, 195}, Titled("100", kNumeral)};
   Label        Label21  {"Label21",   Picture19, { 360, 5640,  120,  195}, Titled("0", kSmallTitle)};
-  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, [](int i) { return i == 4 ? Place{3480, 5805, 900, 195} : Place{static_cast<float>(5 * i + 5) * kTickNe + (i == 0 ? 450 : 400), 5640, 315, 195}; }, kSmallTitle, {"5", "10", "15", "20", "(x1000rpm)"})};
+  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, [](int i) { return i == 4 ? Place{3480, 5805, 900, 195} : Place{static_cast<float>(5 * i + 5) * kTickNe + (i == 0 ? 450 : 400), 5640, 240, 195}; }, kSmallTitle, {"5", "10", "15", "20", "(x1000rpm)"})};
   TimerControl Timer2   {"Timer2",    Picture19, 100};
   TimerControl Timer3   {"Timer3",    Picture19, 200};
 
@@ -150,11 +154,11 @@ struct Form2 : Window {
   // The plan. The head Picture34 lies over the blank top of its column and over the end of the head before.
   Picture Picture12{"Picture12", *this,     {1320,  960, 3795, 3795}, kHiddenPanel};
   Picture Picture25{"Picture25", Picture12, {   0,    0,  345, 3105}, kPanel};
-  ControlArray<Label> Label39{1, 5, Elements<Label>("Label39", Picture25, GearColumn(0, 345, 195, 150), kSmallTitle)};
+  ControlArray<Label> Label39{1, 5, Elements<Label>("Label39", Picture25, GearColumn(0, 345, 195, 150), kStep)};
   Picture Picture14{"Picture14", Picture12, { 345,    0,  480, 3105}, kPanel};
   ControlArray<Label> Label9{0, 6, Column("Label9", Picture14, 0, 480, kSpeed, {"CHG"})};
   ControlArray<Picture> Picture26{0, 0, Elements<Picture>("Picture26", Picture12, [](int) { return Place{825, 0, 345, 3105}; }, kPanel)};
-  ControlArray<Label> Label40{1, 5, Elements<Label>("Label40", Picture26[0], GearColumn(0, 345, 195, 150), kSmallTitle)};
+  ControlArray<Label> Label40{1, 5, Elements<Label>("Label40", Picture26[0], GearColumn(0, 345, 195, 150), kStep)};
   Picture Picture16{"Picture16", Picture12, {1170,    0,  630, 3510}, kPanel};
   ControlArray<Label> Label11{0, 6, Column("Label11", Picture16, 15, 600, kFigure, {"Shift"})};
   TextBox Text4    {"Text4",     Picture16, {  15, 3150,  600,  330}, kSmallBox};

@@ -18,6 +18,7 @@ namespace veldrin {
 namespace {
 
 constexpr double kHighestMaxSpeed = 340;  // km/h
+constexpr int kRowsToStep = 2;  // primary rows that make stepping worth its arrows
 constexpr int kTeethCharacters = 2;       // of each of the two numbers of a row's text
 
 // ---- Reading ----
@@ -59,12 +60,20 @@ void RaiseTopSpeed(Program& program) {
   program.hooks.ChartScale();
 }
 
+/// A number of teeth. The two characters written of a row may hold one digit and the hyphen behind it, which
+/// is then left out.
+std::int16_t ReadTeeth(TextReader& reader) {
+  std::string field = reader.Field();
+  if (field.size() == 2 && field.back() == '-') field.pop_back();
+  return ParseInt16(field);
+}
+
 /// The teeth, the plan line and the remark's first line.
 void ReadChoice(Workspace& workspace, TextReader& reader) {
-  workspace.FilePrimaryDrive = reader.Int16Field();
-  workspace.FilePrimaryDriven = reader.Int16Field();
-  workspace.FileFinalDrive = reader.Int16Field();
-  workspace.FileFinalDriven = reader.Int16Field();
+  workspace.FilePrimaryDrive = ReadTeeth(reader);
+  workspace.FilePrimaryDriven = ReadTeeth(reader);
+  workspace.FileFinalDrive = ReadTeeth(reader);
+  workspace.FileFinalDriven = ReadTeeth(reader);
   workspace.PlanLine = reader.Line();
   workspace.RemarkFirstLine = reader.Line();
 }
@@ -160,7 +169,8 @@ void ShowPlanControls(Program& program) {
   HideAll({&form2.Picture4, &form2.Picture9, &form2.Picture30, &form2.Label38});
   EnableAll({&form2.Label6, &form2.Label8, &form2.Command11, &form2.Command5, &form2.menu_save,
              &form2.menu_print, &form2.menu_comb, &form2.menu_edit, &form2.HScroll1, &form2.HScroll2});
-  EnableRowSpins(program);
+  EnableSpin(form2.Spin5);
+  if (workspace.PrimaryCount >= kRowsToStep) EnableSpin(form2.Spin4);
   form2.f_calc.Enabled = false;
   form2.Picture28.MousePointer = kPointerDefault;
 }
@@ -179,9 +189,12 @@ void AskWhatToBelieve(Program& program) {
   form2.Picture20.Visible = true;
   form2.Picture20.BringToFront();
   SetQuestion(program, 13, 18, 22);
+  // A box that loses the focus because it is disabled here has not been left by the user.
+  program.workspace.CallerWord = caller::kModule1;
   DisableAll({&form2.Command11, &form2.Text2, &form2.Text3, &form2.Text4, &form2.Text6, &form2.HScroll1,
               &form2.HScroll2});
   for (int gear = 1; gear <= kGears; ++gear) DisableAll({&form2.Label12[gear], &form2.Spin6[gear]});
+  program.workspace.CallerWord = caller::kUser;
 }
 
 void ShowPlanMode(Program& program) {
@@ -247,6 +260,8 @@ void ReadPlanFile(Program& program) {
   program.files.Close(Handle::Reader);
   program.form3.Hide();
 
+  // The working file is written below; a plan made before this one must not hold the flag back.
+  workspace.WorkFileStale = false;
   RefreshAfterReading(program);
   if (workspace.ResultWord == result::kDifferent) AskWhatToBelieve(program);
   ShowPlanMode(program);

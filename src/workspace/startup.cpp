@@ -30,6 +30,15 @@ std::string Unquoted(const std::string& commandLine) {
   return path;
 }
 
+/// A path without a root is meant from the current folder.
+std::string FullPath(const Program& program, const std::string& path) {
+  const Files& files = program.machine.files;
+  const PathRules rules = files.Rules();
+  const bool rooted = path.starts_with(rules.separator) || (rules.rootLength > 0 && Contains(path, ":"));
+  if (path.empty() || rooted) return path;
+  return JoinPath(rules, TrimRoot(rules, files.CurrentFolder()), path);
+}
+
 /// The window covers the screen, and only an ellipse in its middle shows of it.
 void ShowSplash(Program& program) {
   Form1& form1 = program.form1;
@@ -147,6 +156,11 @@ void SecondTick(Program& program) {
   }
 }
 
+/// The splash goes at the hand-over alone: without its timer no other window would ever come.
+void Form1_QueryUnload(Program& program, int reason) {
+  program.form1.closeRefused = reason == static_cast<int>(CloseReason::User);
+}
+
 }  // namespace
 
 std::string LongCommandPath(const Program& program, const std::string& text) {
@@ -176,7 +190,7 @@ void Form1_Load(Program& program) {
   SetTitleTexts(program, ChooseWorkFile(program));
   if (firstRun) CreateSettings(program);
   ReadSettings(program);
-  workspace.CommandFile = LongCommandPath(program, Unquoted(workspace.CommandFile));
+  workspace.CommandFile = LongCommandPath(program, FullPath(program, Unquoted(workspace.CommandFile)));
   program.form1.Timer1.Interval = kFirstTick;
   program.form1.Timer1.Enabled = true;
 }
@@ -193,6 +207,7 @@ void Form1_Timer1_Timer(Program& program) {
 
 void AttachStartup(Program& program) {
   On(program, program.form1.Load, Form1_Load);
+  On(program, program.form1.QueryUnload, Form1_QueryUnload);
   On(program, program.form1.Timer1.Timer, Form1_Timer1_Timer);
   OnEach(program, program.form2.menu_files, &Menu::Click, ReopenFromHistory);
 }

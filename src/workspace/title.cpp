@@ -24,6 +24,8 @@ void MarkTitle(Program& program) {
 }
 
 void UnmarkTitle(Program& program) {
+  // A caption file may leave the mark empty; there is nothing to cut then.
+  if (program.workspace.ChangedMark.empty()) return;
   const std::string& title = program.form2.Caption;
   const std::size_t at = title.find(program.workspace.ChangedMark);
   if (at != std::string::npos) program.form2.Caption = title.substr(0, at);

@@ -141,6 +141,24 @@ TEST_F(RealFilesTest, WhatIsWrittenStandsAfterCloseOnly) {
   EXPECT_EQ(Names(), QStringList("plan.nx4"));
 }
 
+TEST_F(RealFilesTest, RightsAndLinksStayAsTheyWere) {
+  Put("plan.nx4", "old");
+  ASSERT_EQ(chmod(In("plan.nx4").c_str(), 0640), 0);
+  ASSERT_EQ(symlink("plan.nx4", In("link.nx4").c_str()), 0);
+  Save("link.nx4", "new");
+  EXPECT_EQ(Bytes("plan.nx4"), "new");
+  struct stat status = {};
+  ASSERT_EQ(lstat(In("link.nx4").c_str(), &status), 0);
+  EXPECT_TRUE(S_ISLNK(status.st_mode));
+  ASSERT_EQ(stat(In("plan.nx4").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0640U);
+  Save("new.nx4", "new");
+  const mode_t mask = umask(0);
+  umask(mask);
+  ASSERT_EQ(stat(In("new.nx4").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0666 & ~mask);
+}
+
 TEST_F(RealFilesTest, AWriterThatIsDroppedLeavesTheFileAndNothingElse) {
   Put("plan.nx4", "old");
   files.OpenForWriting(In("plan.nx4"))->Write("new");

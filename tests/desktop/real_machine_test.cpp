@@ -33,7 +33,7 @@ class DesktopEnvironment : public ::testing::Environment {
   std::unique_ptr<QApplication> application_;
 };
 
-const ::testing::Environment* const kDesktop = ::testing::AddGlobalTestEnvironment(new DesktopEnvironment);
+const ::testing::Environment* const Desktop = ::testing::AddGlobalTestEnvironment(new DesktopEnvironment);
 
 constexpr char kSettings[] = "Software\\Tarn Ridge\\Veldrin";
 constexpr char kList[] =

@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace veldrin {
 namespace {
 
@@ -139,7 +141,9 @@ TEST(RealPrinter, IsThereWithoutAnyPrinterAndOffersTheSystemsFonts) {
   const PlainMetrics metrics;
   const RealPrinter printer(metrics);
   EXPECT_TRUE(printer.Available());
-  EXPECT_FALSE(printer.Fonts().empty());
+  const std::vector<std::string> fonts = printer.Fonts();
+  EXPECT_EQ(std::count(fonts.begin(), fonts.end(), "Arial"), 1);
+  EXPECT_EQ(std::count(fonts.begin(), fonts.end(), "ＭＳ ゴシック"), 1);
 }
 
 }  // namespace
