@@ -10,7 +10,7 @@ namespace veldrin {
 namespace {
 
 constexpr double kSmallestShare = 0.72;
-constexpr double kLinesToWrap = 1.8;
+constexpr double kWrapHeight = 2.2;  // of a room for two lines, in sizes of the font
 constexpr double kAnyHeight = 1e6;
 
 /// Whether a text of this font has its place; `flags` say whether it wraps.
@@ -26,7 +26,7 @@ bool Fits(const QFont& font, const QSizeF& room, int flags, const QString& text)
 
 void DrawFitted(QPainter& painter, const QRectF& room, const QString& text, const QFont& font,
                 Qt::Alignment align) {
-  const bool wraps = room.height() >= QFontMetricsF(font).height() * kLinesToWrap;
+  const bool wraps = room.height() >= font.pixelSize() * kWrapHeight;
   const int across = static_cast<int>(align & Qt::AlignHorizontal_Mask);
   const int flags = across | (wraps ? Qt::TextWordWrap : Qt::TextSingleLine);
   QFont fitting = font;

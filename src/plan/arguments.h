@@ -37,7 +37,4 @@ struct PlanArguments {
 /// wrong.
 std::optional<PlanArguments> ReadArguments(const std::vector<std::string>& arguments, std::string& mistake);
 
-/// The text of --help.
-extern const char kPlanHelp[];
-
 }  // namespace veldrin

@@ -131,8 +131,8 @@ void CheckAsLines(FieldScanner scanner, int rows, ListRemarks& remarks) {
       continue;
     }
     for (int gear = 1; gear <= kGears; ++gear) {
-      const auto k = static_cast<std::size_t>((gear - 1) * kFieldsOfACell);
-      cells.Check(gear, row, fields[k], fields[k + 1], fields[k + 2]);
+      const int k = (gear - 1) * kFieldsOfACell;
+      cells.Check(gear, row, fields.at(k), fields.at(k + 1), fields.at(k + 2));
     }
   }
   if (allRead) cells.CheckColumns(firstLine);

@@ -2,6 +2,7 @@
 
 #include "calc/plan_search.h"
 #include "plan/arguments.h"
+#include "plan/help.h"
 #include "plan/list_check.h"
 #include "plan/plan_output.h"
 #include "platform/text_encoding.h"

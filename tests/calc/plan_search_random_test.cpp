@@ -153,6 +153,11 @@ struct Tally {
   }
 };
 
+std::size_t CombinationsOf(const Workspace& workspace) {
+  return static_cast<std::size_t>(workspace.PrimaryCount) * workspace.FinalDriveCount *
+         workspace.FinalDrivenCount;
+}
+
 constexpr std::uint32_t kMachines = 10000;
 
 TEST(SearchAuto, EqualsThePlainLoopOnRandomMachines) {
@@ -167,8 +172,7 @@ TEST(SearchAuto, EqualsThePlainLoopOnRandomMachines) {
         OutcomeOf(workspace, [&](Workspace& w, const Blink& told) { return SearchAuto(w, mainGear, told); });
     ASSERT_TRUE(outcome == plainly) << "machine " << seed << "\nexpected " << Described(plainly)
                                     << "\nfound    " << Described(outcome);
-    tally.Count(outcome, static_cast<std::size_t>(workspace.PrimaryCount * workspace.FinalDriveCount *
-                                                  workspace.FinalDrivenCount));
+    tally.Count(outcome, CombinationsOf(workspace));
   }
   EXPECT_GT(tally.found, 500);
   EXPECT_GT(tally.failed, 50);
@@ -193,8 +197,7 @@ TEST(SearchMixed, EqualsThePlainLoopOnRandomMachines) {
         OutcomeOf(workspace, [&](Workspace& w, const Blink& told) { return SearchMixed(w, manual, told); });
     ASSERT_TRUE(outcome == plainly) << "machine " << seed << "\nexpected " << Described(plainly)
                                     << "\nfound    " << Described(outcome);
-    tally.Count(outcome, static_cast<std::size_t>(workspace.PrimaryCount * workspace.FinalDriveCount *
-                                                  workspace.FinalDrivenCount));
+    tally.Count(outcome, CombinationsOf(workspace));
   }
   EXPECT_GT(tally.found, 500);
   EXPECT_GT(tally.failed, 50);

@@ -15,7 +15,7 @@ namespace {
 
 using Plans = std::vector<std::string>;
 
-const Blink kSilent = [](int) {};
+void Silent(int /*finalRow*/) {}
 
 /// A machine whose gears all run at 100 km/h with their one row, and are asked to.
 Workspace OneRowAt100() {
@@ -110,24 +110,24 @@ TEST(SearchAuto, MainGearStaysWithin1WhileTheOthersWiden) {
   Workspace workspace = OneRowAt100();
   SetFinals(workspace, {100});
   for (int gear = 1; gear <= kGears; ++gear) workspace.SpeedRequest[gear] = gear == 4 ? 101 : 115;
-  EXPECT_TRUE(SearchAuto(workspace, 4, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 4, Silent));
   workspace.SpeedRequest[4] = 102;
-  EXPECT_FALSE(SearchAuto(workspace, 4, kSilent));
-  EXPECT_TRUE(SearchAuto(workspace, 3, kSilent) == false) << "the main gear is 15 off";
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_FALSE(SearchAuto(workspace, 4, Silent));
+  EXPECT_TRUE(SearchAuto(workspace, 3, Silent) == false) << "the main gear is 15 off";
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
 }
 
 TEST(SearchAuto, TieKeepsTheEarlierRow) {
   Workspace workspace = OneRowAt100();
   SetSpeeds(workspace, 2, {98, 102});
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(Found(workspace), Plans{"1,1,1,1,1,1,1,1"});
 }
 
 TEST(SearchAuto, TakesTheNearestRowOfAnOrderedGear) {
   Workspace workspace = OneRowAt100();
   SetSpeeds(workspace, 5, {97, 99, 100, 101, 103});
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(Found(workspace), Plans{"1,1,1,1,1,1,3,1"});
 }
 
@@ -136,7 +136,7 @@ TEST(SearchAuto, ComparesWithTheCandidateJustBeforeAndNotWithTheNearest) {
   // All pass at once, since gear 6 asks for a tolerance of 9. Errors 0, 8, 7: the third row takes over.
   SetSpeeds(workspace, 1, {100, 108, 107});
   SetSpeeds(workspace, 6, {109});
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(Found(workspace), Plans{"1,1,3,1,1,1,1,1"});
 }
 
@@ -144,7 +144,7 @@ TEST(SearchAuto, RowsThatDoNotPassAreNoCandidates) {
   Workspace workspace = OneRowAt100();
   // Errors 0, 8, 7 at a tolerance of 1: only the first row is a candidate.
   SetSpeeds(workspace, 1, {100, 108, 107});
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(Found(workspace), Plans{"1,1,1,1,1,1,1,1"});
 }
 
@@ -153,23 +153,23 @@ TEST(SearchAuto, PlacesWithoutAPairAreSkipped) {
   SetSpeeds(workspace, 3, {100, 100, 101});
   workspace.GearTable(3, 1) = "99";
   workspace.GearTable(3, 2) = "99";
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(Found(workspace), Plans{"1,1,1,1,3,1,1,1"});
 }
 
 TEST(SearchAuto, GearWithoutAnyPairFails) {
   Workspace workspace = OneRowAt100();
   workspace.GearTable(6, 1) = "99";
-  EXPECT_FALSE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_FALSE(SearchAuto(workspace, 0, Silent));
 }
 
 TEST(SearchAuto, ForbiddenPairDropsTheCombinationThoughAWorseRowWouldBeAllowed) {
   Workspace workspace = OneRowAt100();
   SetSpeeds(workspace, 3, {100, 101});
   workspace.M34Matrix(1, 1) = 99;
-  EXPECT_FALSE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_FALSE(SearchAuto(workspace, 0, Silent));
   workspace.M34Matrix(1, 1) = 98;
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
 }
 
 TEST(SearchAuto, ForbiddenPairIsReadByTheRowOfThirdThenOfFourth) {
@@ -177,17 +177,17 @@ TEST(SearchAuto, ForbiddenPairIsReadByTheRowOfThirdThenOfFourth) {
   SetSpeeds(workspace, 3, {100, 130});
   SetSpeeds(workspace, 4, {130, 100});
   workspace.M34Matrix(2, 1) = 99;
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(Found(workspace), Plans{"1,1,1,1,1,2,1,1"});
   workspace.M34Matrix(1, 2) = 99;
-  EXPECT_FALSE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_FALSE(SearchAuto(workspace, 0, Silent));
 }
 
 TEST(SearchAuto, PlansOfEarlierPassesStayAndAreListedOnce) {
   Workspace workspace = OneRowAt100();
   SetFinals(workspace, {102, 100});
   workspace.MinPlan = 2;
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(Found(workspace), (Plans{"1,2,1,1,1,1,1,1", "1,1,1,1,1,1,1,1"}));
 }
 
@@ -197,7 +197,7 @@ TEST(SearchAuto, TwoNeighbouringDuplicatesLeaveAnEmptyPlan) {
   // C moves to 4 and the gap at 3, which moved under the walk, stays.
   SetFinals(workspace, {100, 102, 103});
   workspace.MinPlan = 3;
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(Found(workspace), (Plans{"1,1,1,1,1,1,1,1", "1,2,1,1,1,1,1,1", "", "1,3,1,1,1,1,1,1"}));
   EXPECT_EQ(workspace.PlanList[5], "1,3,1,1,1,1,1,1") << "what lies behind the count is left as it was";
 }
@@ -208,7 +208,7 @@ TEST(SearchAuto, EmptyPlanAtTheEndOfTheListEndsTheCompaction) {
   // Pass 2 leaves A B. Pass 3 finds both again, A B A B: slots 3 and 4 are emptied, at 3 the list is closed
   // by one, 4 lies behind its end and takes another one off.
   workspace.MinPlan = 3;
-  EXPECT_FALSE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_FALSE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(Found(workspace), (Plans{"1,1,1,1,1,1,1,1", "1,2,1,1,1,1,1,1"}));
 }
 
@@ -227,11 +227,11 @@ TEST(SearchAuto, ThirtyPlansFitAndThe31stIsFault9) {
   SetFinals(workspace, std::vector<int>(15, 100));
   workspace.PrimaryCount = 2;
   SetRatio(workspace.PrimaryTable[2], 1, 3);
-  EXPECT_TRUE(SearchAuto(workspace, 0, kSilent));
+  EXPECT_TRUE(SearchAuto(workspace, 0, Silent));
   EXPECT_EQ(workspace.PlanCount, 30);
   EXPECT_EQ(workspace.PlanList[30], "2,15,1,1,1,1,1,1");
   SetFinals(workspace, std::vector<int>(16, 100));
-  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, kSilent); }), kFaultSubscript);
+  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, Silent); }), kFaultSubscript);
   EXPECT_EQ(workspace.PlanCount, 31);
   EXPECT_EQ(workspace.PlanList[30], "2,14,1,1,1,1,1,1");
 }
@@ -241,41 +241,40 @@ TEST(SearchAuto, PlansFoundAgainCountUntilThePassEnds) {
   // 16 plans in pass 1 are too few for a MinPlan of 17; in pass 2 the 15th of them is the 31st in the list.
   SetFinals(workspace, std::vector<int>(16, 100));
   workspace.MinPlan = 17;
-  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, kSilent); }), kFaultSubscript);
+  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, Silent); }), kFaultSubscript);
 }
 
 TEST(SearchAuto, ToothlessPairIsAFaultWhenItIsLookedAt) {
   Workspace workspace = OneRowAt100();
   SetPair(workspace, 2, 1, "A", 1, 0);
-  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, kSilent); }), kFaultDivisionByZero);
+  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, Silent); }), kFaultDivisionByZero);
   SetPair(workspace, 2, 1, "A", 0, 0);
-  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, kSilent); }), kFaultOverflow);
+  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, Silent); }), kFaultOverflow);
   // Gear 1 abandons every combination before gear 2 is looked at.
   workspace.SpeedRequest[1] = 300;
-  EXPECT_EQ(Guarded([&] { EXPECT_FALSE(SearchAuto(workspace, 0, kSilent)); }), 0);
+  EXPECT_EQ(Guarded([&] { EXPECT_FALSE(SearchAuto(workspace, 0, Silent)); }), 0);
   // A place without a pair is never divided.
   workspace.SpeedRequest[1] = 100;
   SetPair(workspace, 2, 1, "99", 0, 0);
-  EXPECT_EQ(Guarded([&] { EXPECT_FALSE(SearchAuto(workspace, 0, kSilent)); }), 0);
+  EXPECT_EQ(Guarded([&] { EXPECT_FALSE(SearchAuto(workspace, 0, Silent)); }), 0);
 }
 
 TEST(SearchAuto, MoreGearRowsThanTheTablesHoldAreFault9) {
   Workspace workspace = OneRowAt100();
   SetSpeeds(workspace, 1, {100});
   workspace.GearRows = 11;
-  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, kSilent); }), kFaultSubscript);
+  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, Silent); }), kFaultSubscript);
   SetPair(workspace, 1, 10, "B", 1, 0);
-  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, kSilent); }), kFaultDivisionByZero)
-      << "row 10 comes first";
+  EXPECT_EQ(Guarded([&] { SearchAuto(workspace, 0, Silent); }), kFaultDivisionByZero) << "row 10 comes first";
   workspace.PrimaryCount = 0;
-  EXPECT_EQ(Guarded([&] { EXPECT_FALSE(SearchAuto(workspace, 0, kSilent)); }), 0) << "nothing is walked";
+  EXPECT_EQ(Guarded([&] { EXPECT_FALSE(SearchAuto(workspace, 0, Silent)); }), 0) << "nothing is walked";
 }
 
 TEST(SearchAuto, MachineWithoutGearRowsFindsNothing) {
   Workspace workspace = OneRowAt100();
   for (const int rows : {0, -1, -32768}) {
     workspace.GearRows = static_cast<std::int16_t>(rows);
-    EXPECT_FALSE(SearchAuto(workspace, 0, kSilent)) << rows;
+    EXPECT_FALSE(SearchAuto(workspace, 0, Silent)) << rows;
   }
 }
 
@@ -314,7 +313,7 @@ TEST(SearchMixed, LowerBoundSinksByOneInEveryPassDownTo21) {
     EXPECT_EQ(counter.passes, below);
   }
   SetSpeeds(workspace, 2, {78});
-  EXPECT_FALSE(SearchMixed(workspace, Manual({1}), kSilent));
+  EXPECT_FALSE(SearchMixed(workspace, Manual({1}), Silent));
 }
 
 TEST(SearchMixed, UpperBoundGrowsOnceAndStays) {
@@ -328,7 +327,7 @@ TEST(SearchMixed, UpperBoundGrowsOnceAndStays) {
   EXPECT_TRUE(SearchMixed(workspace, Manual({1}), second.Count()));
   EXPECT_EQ(second.passes, 2);
   SetSpeeds(workspace, 2, {103});
-  EXPECT_FALSE(SearchMixed(workspace, Manual({1}), kSilent));
+  EXPECT_FALSE(SearchMixed(workspace, Manual({1}), Silent));
 }
 
 TEST(SearchMixed, AutoGearsUseTheirStoredTolerancesToo) {
@@ -346,7 +345,7 @@ TEST(SearchMixed, TakesTheFirstPassWithPlansWhateverMinPlanIs) {
   Workspace workspace = OneRowAt100();
   SetFinals(workspace, {98, 100, 101, 99});
   workspace.MinPlan = 30;
-  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), kSilent));
+  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), Silent));
   EXPECT_EQ(Found(workspace), (Plans{"1,2,1,1,1,1,1,1", "1,3,1,1,1,1,1,1", "1,4,1,1,1,1,1,1"}));
 }
 
@@ -356,10 +355,10 @@ TEST(SearchMixed, ChoosesRowsByTheirAbsoluteErrors) {
   workspace.TolerancePlus[1] = 5;
   SetSpeeds(workspace, 1, {95, 103, 97, 102});
   // Errors 5, 3, 3, 2: the tie keeps row 2, row 4 is nearer than row 3.
-  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), kSilent));
+  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), Silent));
   EXPECT_EQ(Found(workspace), Plans{"1,1,4,1,1,1,1,1"});
   SetSpeeds(workspace, 1, {95, 103, 97});
-  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), kSilent));
+  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), Silent));
   EXPECT_EQ(Found(workspace), Plans{"1,1,2,1,1,1,1,1"});
 }
 
@@ -367,7 +366,7 @@ TEST(SearchMixed, ForbiddenPairDropsTheCombination) {
   Workspace workspace = OneRowAt100();
   SetSpeeds(workspace, 3, {100, 101});
   workspace.M34Matrix(1, 1) = 99;
-  EXPECT_FALSE(SearchMixed(workspace, Manual({1}), kSilent));
+  EXPECT_FALSE(SearchMixed(workspace, Manual({1}), Silent));
 }
 
 TEST(SearchMixed, The31stPlanIsFault9) {
@@ -375,7 +374,7 @@ TEST(SearchMixed, The31stPlanIsFault9) {
   workspace.PrimaryCount = 2;
   SetRatio(workspace.PrimaryTable[2], 1, 3);
   SetFinals(workspace, std::vector<int>(16, 100));
-  EXPECT_EQ(Guarded([&] { SearchMixed(workspace, Manual({1}), kSilent); }), kFaultSubscript);
+  EXPECT_EQ(Guarded([&] { SearchMixed(workspace, Manual({1}), Silent); }), kFaultSubscript);
   EXPECT_EQ(workspace.PlanCount, 31);
 }
 

@@ -346,15 +346,19 @@ TEST_F(Planner, ListsCutAtAnyByteAreReadOrRefusedInOneLine) {
     const std::string text = TextOf(Sample(name));
     ASSERT_FALSE(text.empty());
     for (std::size_t size = 0; size < text.size(); ++size) {
+      const bool complete = CheckList(text.substr(0, size), "X").Faults() == 0;
+      ASSERT_TRUE(!complete || size > text.find("M34-ARRAY")) << size;
+      // The disk is slow: the planner as a whole runs on every ninth of them, and on all that are complete.
+      if (!complete && size % 9 != 0) continue;
       const std::string path = File(name, text.substr(0, size));
       const int status = Search(path, "92,114,134,150,164,176", {"--format=csv"});
+      ASSERT_EQ(status != 2, complete) << size;
       if (status == 2) {
         ASSERT_EQ(ErrorLines(), 1) << size << '\n' << errors;
         ASSERT_TRUE(errors.starts_with(path + ":")) << errors;
         ASSERT_EQ(out, "") << size;
       } else {
         ASSERT_TRUE(status == 0 || status == 1) << size;
-        ASSERT_GT(size, text.find("M34-ARRAY")) << "before the matrix no list is complete";
       }
     }
   }

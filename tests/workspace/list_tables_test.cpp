@@ -197,7 +197,7 @@ TEST_F(ListTables, PrimaryWithoutDrivenTeethKeepsItsRatio) {
 }
 
 TEST_F(ListTables, KeywordsAreComparedExactly) {
-  const auto fails = [this](List list) { return !Read(list); };
+  const auto fails = [this](const List& list) { return !Read(list); };
   List list;
   list.finalDrive = "Final-Drive\n14,99\n";
   EXPECT_TRUE(fails(list));

@@ -1,0 +1,139 @@
+#include "tests/desktop/test_window.h"
+
+#include "desktop/spin_widget.h"
+
+#include <QScrollBar>
+
+namespace veldrin {
+namespace {
+
+using Mouse = WidgetsTest;
+
+TEST_F(Mouse, ClickMovesTheFocusThenGoesDownUpAndClicks) {
+  Click(form->Text1);
+  events.clear();
+  Click(form->Command1);
+  EXPECT_EQ(events, (Events{"Text1.LostFocus", "Command1.GotFocus", "Command1.MouseDown", "Command1.MouseUp",
+                            "Command1.Click"}));
+  EXPECT_EQ(form->focus, &form->Command1);
+  EXPECT_EQ(Widget().focusWidget(), &WidgetOf(form->Command1));
+}
+
+TEST_F(Mouse, LeavingAButtonTakesThePressBack) {
+  Press(form->Command1);
+  events.clear();
+  Release(form->Command1, {500, 0});
+  EXPECT_EQ(events, Events{});
+}
+
+TEST_F(Mouse, OtherControlsHearOfTheWayUpWhereverItIs) {
+  Press(form->Picture1);
+  Release(form->Picture1, {500, 0});
+  EXPECT_EQ(events, (Events{"Picture1.MouseDown", "Picture1.MouseUp"}));
+}
+
+TEST_F(Mouse, RightButtonDoesNotClick) {
+  QWidget& button = WidgetOf(form->Command1);
+  WidgetsTest::Mouse(button, QEvent::MouseButtonPress, {5, 5}, Qt::RightButton);
+  WidgetsTest::Mouse(button, QEvent::MouseButtonRelease, {5, 5}, Qt::RightButton);
+  EXPECT_EQ(events.back(), "Command1.MouseUp");
+}
+
+TEST_F(Mouse, ControlThatIsOffIsNotClickedAndNeitherIsWhatLiesAroundIt) {
+  form->Option1[2].Enabled = false;
+  Click(form->Option1[2]);
+  EXPECT_EQ(events, Events{});
+  EXPECT_FALSE(form->Option1[2].Value);
+}
+
+TEST_F(Mouse, ControlInAPanelThatIsOffIsNotClicked) {
+  form->Picture1.Enabled = false;
+  Click(form->Option1[2]);
+  EXPECT_EQ(events, Events{});
+}
+
+TEST_F(Mouse, PressThatHidesItsOwnButtonGoesNoFurther) {
+  Click(form->Text1);
+  reactions["Text1.LostFocus"] = [this] { form->Command1.Visible = false; };
+  events.clear();
+  Click(form->Command1);
+  EXPECT_EQ(std::count(events.begin(), events.end(), "Command1.Click"), 0);
+}
+
+TEST_F(Mouse, OptionIsChosenOnceAndClearsTheOthers) {
+  form->Option1[1].Value = true;
+  events.clear();
+  Click(form->Option1[2]);
+  EXPECT_TRUE(form->Option1[2].Value);
+  EXPECT_FALSE(form->Option1[1].Value);
+  EXPECT_EQ(std::count(events.begin(), events.end(), "Option1(2).Click"), 1);
+  EXPECT_TRUE(*Widget().ViewOf(form->Option1[2])->WhatShows().chosen);
+  EXPECT_FALSE(*Widget().ViewOf(form->Option1[1])->WhatShows().chosen);
+  Click(form->Option1[2]);
+  EXPECT_TRUE(*Widget().ViewOf(form->Option1[2])->WhatShows().chosen);
+}
+
+TEST_F(Mouse, DoubleClickIsAClickThenDblClick) {
+  QWidget& label = WidgetOf(form->Label1);
+  Click(form->Label1);
+  WidgetsTest::Mouse(label, QEvent::MouseButtonDblClick, {5, 5});
+  WidgetsTest::Mouse(label, QEvent::MouseButtonRelease, {5, 5});
+  EXPECT_EQ(events,
+            (Events{"Label1.MouseDown", "Label1.MouseUp", "Label1.Click", "Label1.DblClick"}));
+}
+
+TEST_F(Mouse, TwoQuickClicksOnAButtonAreTwo) {
+  QWidget& button = WidgetOf(form->Command1);
+  Click(form->Command1);
+  WidgetsTest::Mouse(button, QEvent::MouseButtonDblClick, {5, 5});
+  WidgetsTest::Mouse(button, QEvent::MouseButtonRelease, {5, 5});
+  EXPECT_EQ(std::count(events.begin(), events.end(), "Command1.Click"), 2);
+}
+
+TEST_F(Mouse, SpinTurnsAtOnceRepeatsWhileHeldAndStopsOutside) {
+  auto& spin = WidgetOf<SpinWidget>(form->Spin1);
+  WidgetsTest::Mouse(spin, QEvent::MouseButtonPress, spin.ArrowRect(true).center());
+  EXPECT_EQ(events, Events{"Spin1.SpinUp"});
+  Wait(700);
+  const std::size_t turned = events.size();
+  EXPECT_GE(turned, 3U);
+  WidgetsTest::Mouse(spin, QEvent::MouseMove, spin.ArrowRect(false).center());
+  Wait(200);
+  EXPECT_LE(events.size(), turned + 1);
+  WidgetsTest::Mouse(spin, QEvent::MouseButtonRelease, spin.ArrowRect(false).center());
+  const std::size_t stopped = events.size();
+  Wait(200);
+  EXPECT_EQ(events.size(), stopped);
+}
+
+TEST_F(Mouse, SpinThatIsSwitchedOffByItsHandlerStops) {
+  reactions["Spin1.SpinDown"] = [this] { form->Spin1.Enabled = false; };
+  auto& spin = WidgetOf<SpinWidget>(form->Spin1);
+  WidgetsTest::Mouse(spin, QEvent::MouseButtonPress, spin.ArrowRect(false).center());
+  Wait(600);
+  EXPECT_EQ(events, Events{"Spin1.SpinDown"});
+}
+
+TEST_F(Mouse, WheelTurnsSpinButtonsAndScrollBars) {
+  Wheel(WidgetOf(form->Spin1), 2);
+  EXPECT_EQ(events, (Events{"Spin1.SpinUp", "Spin1.SpinUp"}));
+  events.clear();
+  Wheel(WidgetOf(form->HScroll1), -1);
+  EXPECT_EQ(form->HScroll1.Value, 45);
+  EXPECT_EQ(events, Events{"HScroll1.Change"});
+}
+
+TEST_F(Mouse, ThumbIsFollowedAndEndsHold) {
+  WidgetOf<QScrollBar>(form->HScroll1).setValue(500);
+  EXPECT_EQ(form->HScroll1.Value, 100);
+  form->HScroll1.Max = 80;
+  EXPECT_EQ(WidgetOf<QScrollBar>(form->HScroll1).value(), 80);
+}
+
+TEST_F(Mouse, ScrollBarThatTheProgramMovesTellsNothingBack) {
+  form->HScroll1.Value = 60;
+  EXPECT_EQ(events, Events{"HScroll1.Change"});
+}
+
+}  // namespace
+}  // namespace veldrin

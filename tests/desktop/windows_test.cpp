@@ -1,0 +1,229 @@
+#include "desktop/menu_view.h"
+#include "desktop/placement.h"
+#include "desktop/shown_check.h"
+#include "program/event_boundary.h"
+#include "tests/desktop/test_window.h"
+
+#include <QLabel>
+#include <QScreen>
+#include <QTimer>
+
+namespace veldrin {
+namespace {
+
+class Windows_ : public WidgetsTest {
+ protected:
+  std::vector<std::string> Differences() {
+    std::vector<std::string> names;
+    for (const Mismatch& mismatch : DifferencesIn(Widget(), stage)) {
+      names.push_back(mismatch.name + ": " + mismatch.slot + " / " + mismatch.shown);
+    }
+    return names;
+  }
+};
+
+TEST_F(Windows_, NewWindowShowsWhatItsSlotsSay) {
+  EXPECT_EQ(Differences(), Events{});
+  EXPECT_EQ(Widget().Title(), "Test [*]");
+  EXPECT_EQ(Widget().Client().size(), QSize((6120 - 120) / 15, (5190 - 690) / 15));
+}
+
+TEST_F(Windows_, EveryWrittenSlotIsShownAtOnce) {
+  form->Label1.Caption = "other";
+  form->Label1.ForeColor = kRed;
+  form->Label1.BackColor = kYellow;
+  form->Label1.Left = 200;
+  form->Label1.Height = 400;
+  form->Command1.Visible = false;
+  form->Command2.Enabled = false;
+  form->Text1.Text = "text";
+  form->Option1[3].Value = true;
+  form->HScroll1.Value = 77;
+  form->menu_b.Caption = "Other";
+  form->menu_c.Visible = false;
+  form->Line1.Y1 = 100;
+  form->Caption = "New";
+  form->Picture1.BringToFront();
+  form->SetSize(7500, 6000);
+  EXPECT_EQ(Differences(), Events{});
+}
+
+TEST_F(Windows_, WidgetThatWasTamperedWithIsFound) {
+  WidgetOf<QLabel>(form->Label1).setText("tampered");
+  WidgetOf(form->Text1).hide();
+  WidgetOf(form->Command1).move(0, 0);
+  WidgetOf(form->Spin1).setEnabled(false);
+  WidgetOf(form->Picture1).raise();
+  EXPECT_EQ(Differences().size(), 5U);
+}
+
+TEST_F(Windows_, EveryZoomPlacesEveryControl) {
+  for (const double factor : {0.5, 0.75, 1.25, 1.75, 2.0, 3.0}) {
+    stage.zoom.Set(factor);
+    EXPECT_EQ(Differences(), Events{}) << factor;
+    EXPECT_EQ(WidgetOf(form->Command1).width(), qRound(80 * factor));
+    EXPECT_EQ(WidgetOf(form->Command1).font().pixelSize(), qRound(12 * factor));
+  }
+}
+
+TEST_F(Windows_, ChildrenOfAScaledPictureStretchWithIt) {
+  form->Picture1.surface.SetScale({0, 0, 735, 735});
+  Settle();
+  EXPECT_EQ(WidgetOf(form->Option1[1]).geometry(), QRect(13, 41, 120, 34));
+  EXPECT_EQ(Differences(), Events{});
+  form->Picture1.Width = 2970;
+  EXPECT_EQ(WidgetOf(form->Option1[1]).x(), 1 + qRound(90 * 196.0 / 735));
+  EXPECT_EQ(Differences(), Events{});
+}
+
+TEST_F(Windows_, ChildrenOfAPictureWithAnotherScaleStayInTwips) {
+  const QRect before = WidgetOf(form->Option1[1]).geometry();
+  form->Picture1.surface.SetScale({0, 340, 15000, -340});
+  Settle();
+  EXPECT_EQ(WidgetOf(form->Option1[1]).geometry(), before);
+}
+
+TEST_F(Windows_, MenusGrowAndShrinkInTheirOwnEvent) {
+  Menu& entry = form->menu_d.Load(1);
+  entry.Caption = "C:\\A&B.nx4";
+  entry.Visible = true;
+  entry.Click.Bind([this](int) { form->menu_d.Unload(1); });
+  auto* view = dynamic_cast<MenuView*>(Widget().ViewOf(entry));
+  ASSERT_NE(view, nullptr);
+  EXPECT_EQ(view->Action().text(), "C:\\A&&B.nx4");
+  EXPECT_EQ(Differences(), Events{});
+  view->Action().trigger();
+  EXPECT_FALSE(form->menu_d.Has(1));
+  EXPECT_EQ(Differences(), Events{});
+}
+
+TEST_F(Windows_, MarksOfMenusAreKeysInBracketsAlone) {
+  EXPECT_EQ(MenuText("File(&F)"), "File(&F)");
+  EXPECT_EQ(MenuText(" 640 * 480(&6)"), " 640 * 480(&6)");
+  EXPECT_EQ(MenuText("/home/a&b/x.nx4"), "/home/a&&b/x.nx4");
+  EXPECT_EQ(MenuText("(&)"), "(&&)");
+  EXPECT_EQ(MenuText("&"), "&&");
+}
+
+TEST_F(Windows_, EntryOfAMenuThatIsOffDoesNothing) {
+  form->menu_a.Enabled = false;
+  dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_b))->Action().trigger();
+  EXPECT_EQ(events, Events{});
+}
+
+TEST_F(Windows_, WindowMayUnloadInAnEventOfItsOwnButton) {
+  reactions["Command1.Click"] = [this] {
+    form->UnloadWindow();
+    program->desk.retired.push_back(std::move(form));
+  };
+  Click(form->Command1);
+  EXPECT_TRUE(windows.Forms().empty());
+}
+
+TEST_F(Windows_, CloseBoxAsksTheProgram) {
+  form->QueryUnload.Bind([this](int) { form->closeRefused = true; });
+  Widget().close();
+  EXPECT_TRUE(Widget().isVisible());
+  EXPECT_TRUE(form->loaded);
+}
+
+TEST_F(Windows_, ModalLoopEndsWhenTheWindowHidesAndKeepsOthersOutOfReach) {
+  TestForm modal(program->desk);
+  bool blocked = false;
+  QTimer::singleShot(0, qApp, [&] {
+    Click(form->Command1);
+    blocked = events.empty();
+    EXPECT_EQ(windows.FormOf(modal)->windowModality(), Qt::ApplicationModal);
+    stage.input.Do([&] {
+      modal.Hide();
+      return true;
+    });
+  });
+  bool returned = false;
+  stage.input.Do([&] {
+    modal.ShowModal();
+    returned = true;
+    return true;
+  });
+  EXPECT_TRUE(blocked);
+  EXPECT_TRUE(returned);
+  modal.UnloadWindow();
+}
+
+TEST_F(Windows_, EndOfTheProgramLeavesEveryModalLoopAndRoutine) {
+  TestForm first(program->desk);
+  TestForm second(program->desk);
+  QTimer::singleShot(0, qApp, [&] {
+    QTimer::singleShot(0, qApp, [&] { stage.input.Do([]() -> bool { throw EndOfProgram{}; }); });
+    stage.input.Do([&] {
+      second.ShowModal();
+      ADD_FAILURE() << "the inner routine went on";
+      return true;
+    });
+  });
+  stage.input.ended = [] { QCoreApplication::quit(); };
+  stage.input.Do([&] {
+    first.ShowModal();
+    ADD_FAILURE() << "the outer routine went on";
+    return true;
+  });
+  EXPECT_TRUE(program->ended);
+  EXPECT_EQ(program->endFault, 0);
+  windows.Forget();
+}
+
+TEST_F(Windows_, FaultInAnEventEndsTheProgramWithItsBox) {
+  reactions["Command1.Click"] = [] { Raise(kFaultDivisionByZero); };
+  bool ended = false;
+  stage.input.ended = [&] { ended = true; };
+  Click(form->Command1);
+  EXPECT_TRUE(ended);
+  EXPECT_EQ(program->endFault, kFaultDivisionByZero);
+  events.clear();
+  Click(form->Command2);
+  EXPECT_EQ(events, Events{});
+}
+
+TEST_F(Windows_, WindowDrawnLargerTellsItsNewSize) {
+  const QSize pixels = Widget().size();
+  Widget().resize(pixels + QSize(60, 30));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(form->Width, 6120 + 900);
+  EXPECT_EQ(form->Height, 5190 + 450);
+  EXPECT_GE(std::count(events.begin(), events.end(), "Resize"), 1);
+  EXPECT_EQ(Differences(), Events{});
+}
+
+TEST_F(Windows_, WindowLargerThanTheScreenScrolls) {
+  const QSize screen = Widget().screen()->availableSize();
+  stage.zoom.Set(Zoom::kMost);
+  EXPECT_LE(Widget().width(), screen.width());
+  EXPECT_LE(Widget().height(), screen.height());
+  EXPECT_EQ(Widget().Client().size(), QSize(1200, 900));
+  EXPECT_EQ(form->Width, 6120);
+}
+
+TEST_F(Windows_, MovedWindowTellsItsPlaceInTwips) {
+  Widget().move(100, 60);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(form->Left, 1500);
+  EXPECT_EQ(form->Top, 900);
+}
+
+TEST_F(Windows_, TimersRunByTheClockWhileTheyAreOn) {
+  form->Timer1.Enabled = true;
+  Wait(150);
+  const auto ticks = events.size();
+  EXPECT_GE(ticks, 3U);
+  form->Timer1.Enabled = false;
+  Wait(60);
+  EXPECT_EQ(events.size(), ticks);
+}
+
+TEST_F(Windows_, ControlsHaveNamesForThoseWhoDoNotSeeThem) {
+  EXPECT_EQ(WidgetOf(form->Text1).accessibleName(), "Name");
+  EXPECT_EQ(WidgetOf(form->Command1).accessibleName(), "O K");
+}
+
+}  // namespace
+}  // namespace veldrin
