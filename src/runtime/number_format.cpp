@@ -33,7 +33,7 @@ struct Digits {
 Digits RoundedDigits(double value, int decimals) {
   // The value's own decimal expansion is exact in fixed form, so half away from zero is decided on it by
   // the first dropped digit and not on a product with a power of ten, which could round a second time.
-  std::array<char, 1200> buffer;
+  std::array<char, 1500> buffer;  // 309 digits, the point and 1080 decimals fit
   const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
                                     std::chars_format::fixed, 1080);
   const std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));

@@ -10,9 +10,9 @@
 namespace veldrin {
 namespace {
 
-using Keyboard = WidgetsTest;
+using KeyboardTest = WidgetsTest;
 
-TEST_F(Keyboard, TabGoesThroughTheControlsInTheOrderOfTheScreen) {
+TEST_F(KeyboardTest, TabGoesThroughTheControlsInTheOrderOfTheScreen) {
   Click(form->Text1);
   std::vector<std::string> way;
   for (int i = 0; i < 9; ++i) {
@@ -24,13 +24,13 @@ TEST_F(Keyboard, TabGoesThroughTheControlsInTheOrderOfTheScreen) {
                                            "Option1(3)", "Combo1", "Combo2"}));
 }
 
-TEST_F(Keyboard, ShiftTabGoesBackAndRoundTheEnd) {
+TEST_F(KeyboardTest, ShiftTabGoesBackAndRoundTheEnd) {
   Click(form->Text1);
   Key(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(form->focus, &form->Grid1);
 }
 
-TEST_F(Keyboard, TabPassesWhatIsOffAndAllOptionsButTheChosenOne) {
+TEST_F(KeyboardTest, TabPassesWhatIsOffAndAllOptionsButTheChosenOne) {
   form->Text2.Enabled = false;
   form->Text3.Visible = false;
   form->Command1.Enabled = false;
@@ -43,7 +43,7 @@ TEST_F(Keyboard, TabPassesWhatIsOffAndAllOptionsButTheChosenOne) {
   EXPECT_EQ(form->focus, &form->Combo1);
 }
 
-TEST_F(Keyboard, SpaceAndEnterPressAButtonWithTheEventsOfTheMouse) {
+TEST_F(KeyboardTest, SpaceAndEnterPressAButtonWithTheEventsOfTheMouse) {
   Click(form->Command1);
   events.clear();
   Key(Qt::Key_Space);
@@ -54,7 +54,7 @@ TEST_F(Keyboard, SpaceAndEnterPressAButtonWithTheEventsOfTheMouse) {
   EXPECT_EQ(events.back(), "Command1.Click");
 }
 
-TEST_F(Keyboard, KeyThatMovesTheFocusDoesNothingElse) {
+TEST_F(KeyboardTest, KeyThatMovesTheFocusDoesNothingElse) {
   reactions["Command1.KeyDown"] = [this] { SetFocus(form->Text1); };
   Click(form->Command1);
   events.clear();
@@ -63,7 +63,7 @@ TEST_F(Keyboard, KeyThatMovesTheFocusDoesNothingElse) {
   EXPECT_EQ(Widget().focusWidget(), &WidgetOf(form->Text1));
 }
 
-TEST_F(Keyboard, EscapePressesCancel) {
+TEST_F(KeyboardTest, EscapePressesCancel) {
   Click(form->Text1);
   events.clear();
   Key(Qt::Key_Escape);
@@ -74,7 +74,7 @@ TEST_F(Keyboard, EscapePressesCancel) {
   EXPECT_EQ(std::count(events.begin(), events.end(), "Command2.Click"), 0);
 }
 
-TEST_F(Keyboard, ArrowsWalkThroughTheOptionsOfAPanel) {
+TEST_F(KeyboardTest, ArrowsWalkThroughTheOptionsOfAPanel) {
   form->Option1[1].Value = true;
   Click(form->Option1[1]);
   Key(Qt::Key_Down);
@@ -87,7 +87,7 @@ TEST_F(Keyboard, ArrowsWalkThroughTheOptionsOfAPanel) {
   EXPECT_TRUE(form->Option1[2].Value);
 }
 
-TEST_F(Keyboard, TypedTextIsAChangeForEachCharacter) {
+TEST_F(KeyboardTest, TypedTextIsAChangeForEachCharacter) {
   Click(form->Text1);
   events.clear();
   Type("12");
@@ -95,7 +95,7 @@ TEST_F(Keyboard, TypedTextIsAChangeForEachCharacter) {
   EXPECT_EQ(events, (Events{"Text1.KeyDown", "Text1.Change", "Text1.KeyDown", "Text1.Change"}));
 }
 
-TEST_F(Keyboard, BoxThatTheKeyboardComesToIsTypedOver) {
+TEST_F(KeyboardTest, BoxThatTheKeyboardComesToIsTypedOver) {
   form->Text2.Text = "250";
   Click(form->Text1);
   Key(Qt::Key_Tab);
@@ -103,7 +103,7 @@ TEST_F(Keyboard, BoxThatTheKeyboardComesToIsTypedOver) {
   EXPECT_EQ(form->Text2.Text, "90");
 }
 
-TEST_F(Keyboard, ProgramThatEmptiesABoxAtAChangeHasItsWay) {
+TEST_F(KeyboardTest, ProgramThatEmptiesABoxAtAChangeHasItsWay) {
   reactions["Text1.Change"] = [this] {
     if (form->Text1.Text == "12") form->Text1.Text = "";
   };
@@ -114,7 +114,7 @@ TEST_F(Keyboard, ProgramThatEmptiesABoxAtAChangeHasItsWay) {
   EXPECT_EQ(form->Text1.Text, "3");
 }
 
-TEST_F(Keyboard, InputMethodBringsJapaneseAndNothingBeforeItIsSettled) {
+TEST_F(KeyboardTest, InputMethodBringsJapaneseAndNothingBeforeItIsSettled) {
   Click(form->Text3);
   events.clear();
   QInputMethodEvent composing("あめ", {});
@@ -128,7 +128,7 @@ TEST_F(Keyboard, InputMethodBringsJapaneseAndNothingBeforeItIsSettled) {
   EXPECT_EQ(events, Events{"Text3.Change"});
 }
 
-TEST_F(Keyboard, LinesEndAsTheProgramEndsThem) {
+TEST_F(KeyboardTest, LinesEndAsTheProgramEndsThem) {
   form->Text3.Text = "a\r\nb";
   EXPECT_EQ(WidgetOf<QPlainTextEdit>(form->Text3).toPlainText(), "a\nb");
   Click(form->Text3);
@@ -138,7 +138,7 @@ TEST_F(Keyboard, LinesEndAsTheProgramEndsThem) {
   EXPECT_EQ(form->Text3.Text, "a\r\nb\r\nc");
 }
 
-TEST_F(Keyboard, CopyIsTheBoxesWhenTheUserHasSelectedAndTheMenusOtherwise) {
+TEST_F(KeyboardTest, CopyIsTheBoxesWhenTheUserHasSelectedAndTheMenusOtherwise) {
   form->Text1.Text = "120";
   Click(form->Text1);
   EXPECT_FALSE(KeepsKey(Qt::Key_C, Qt::ControlModifier));
@@ -149,7 +149,7 @@ TEST_F(Keyboard, CopyIsTheBoxesWhenTheUserHasSelectedAndTheMenusOtherwise) {
   EXPECT_EQ(std::count(events.begin(), events.end(), "menu_b.Click"), 0);
 }
 
-TEST_F(Keyboard, WhatABoxSelectsByItselfIsNothingToCopy) {
+TEST_F(KeyboardTest, WhatABoxSelectsByItselfIsNothingToCopy) {
   form->Text2.Text = "120";
   Click(form->Text1);
   Key(Qt::Key_Tab);
@@ -157,7 +157,7 @@ TEST_F(Keyboard, WhatABoxSelectsByItselfIsNothingToCopy) {
   EXPECT_FALSE(KeepsKey(Qt::Key_C, Qt::ControlModifier));
 }
 
-TEST_F(Keyboard, CutStaysInTheBoxAndUndoWhereThereIsSomethingToTakeBack) {
+TEST_F(KeyboardTest, CutStaysInTheBoxAndUndoWhereThereIsSomethingToTakeBack) {
   Click(form->Text1);
   EXPECT_TRUE(KeepsKey(Qt::Key_X, Qt::ControlModifier));
   EXPECT_FALSE(KeepsKey(Qt::Key_Z, Qt::ControlModifier));
@@ -165,7 +165,7 @@ TEST_F(Keyboard, CutStaysInTheBoxAndUndoWhereThereIsSomethingToTakeBack) {
   EXPECT_TRUE(KeepsKey(Qt::Key_Z, Qt::ControlModifier));
 }
 
-TEST_F(Keyboard, EditableComboIsTypedInAndPickedFrom) {
+TEST_F(KeyboardTest, EditableComboIsTypedInAndPickedFrom) {
   auto& combo = WidgetOf<QComboBox>(form->Combo1);
   Click(form->Text1);
   combo.setFocus(Qt::TabFocusReason);
@@ -180,7 +180,7 @@ TEST_F(Keyboard, EditableComboIsTypedInAndPickedFrom) {
   EXPECT_EQ(events.back(), "Combo1.Click");
 }
 
-TEST_F(Keyboard, EnterPicksTheCellThatTheArrowsWentTo) {
+TEST_F(KeyboardTest, EnterPicksTheCellThatTheArrowsWentTo) {
   form->Grid1.Cols = 2;
   form->Grid1.Rows = 3;
   form->Grid1.SetCell(1, 0, "here");
@@ -197,7 +197,7 @@ TEST_F(Keyboard, EnterPicksTheCellThatTheArrowsWentTo) {
   EXPECT_EQ(form->Grid1.column, 0);
 }
 
-TEST_F(Keyboard, KeysAloneFireTheirEventAndNothingElse) {
+TEST_F(KeyboardTest, KeysAloneFireTheirEventAndNothingElse) {
   Click(form->Command1);
   events.clear();
   stage.keysAlone = true;

@@ -7,9 +7,9 @@
 namespace veldrin {
 namespace {
 
-using Mouse = WidgetsTest;
+using MouseTest = WidgetsTest;
 
-TEST_F(Mouse, ClickMovesTheFocusThenGoesDownUpAndClicks) {
+TEST_F(MouseTest, ClickMovesTheFocusThenGoesDownUpAndClicks) {
   Click(form->Text1);
   events.clear();
   Click(form->Command1);
@@ -19,40 +19,40 @@ TEST_F(Mouse, ClickMovesTheFocusThenGoesDownUpAndClicks) {
   EXPECT_EQ(Widget().focusWidget(), &WidgetOf(form->Command1));
 }
 
-TEST_F(Mouse, LeavingAButtonTakesThePressBack) {
+TEST_F(MouseTest, LeavingAButtonTakesThePressBack) {
   Press(form->Command1);
   events.clear();
   Release(form->Command1, {500, 0});
   EXPECT_EQ(events, Events{});
 }
 
-TEST_F(Mouse, OtherControlsHearOfTheWayUpWhereverItIs) {
+TEST_F(MouseTest, OtherControlsHearOfTheWayUpWhereverItIs) {
   Press(form->Picture1);
   Release(form->Picture1, {500, 0});
   EXPECT_EQ(events, (Events{"Picture1.MouseDown", "Picture1.MouseUp"}));
 }
 
-TEST_F(Mouse, RightButtonDoesNotClick) {
+TEST_F(MouseTest, RightButtonDoesNotClick) {
   QWidget& button = WidgetOf(form->Command1);
-  WidgetsTest::Mouse(button, QEvent::MouseButtonPress, {5, 5}, Qt::RightButton);
-  WidgetsTest::Mouse(button, QEvent::MouseButtonRelease, {5, 5}, Qt::RightButton);
+  Mouse(button, QEvent::MouseButtonPress, {5, 5}, Qt::RightButton);
+  Mouse(button, QEvent::MouseButtonRelease, {5, 5}, Qt::RightButton);
   EXPECT_EQ(events.back(), "Command1.MouseUp");
 }
 
-TEST_F(Mouse, ControlThatIsOffIsNotClickedAndNeitherIsWhatLiesAroundIt) {
+TEST_F(MouseTest, ControlThatIsOffIsNotClickedAndNeitherIsWhatLiesAroundIt) {
   form->Option1[2].Enabled = false;
   Click(form->Option1[2]);
   EXPECT_EQ(events, Events{});
   EXPECT_FALSE(form->Option1[2].Value);
 }
 
-TEST_F(Mouse, ControlInAPanelThatIsOffIsNotClicked) {
+TEST_F(MouseTest, ControlInAPanelThatIsOffIsNotClicked) {
   form->Picture1.Enabled = false;
   Click(form->Option1[2]);
   EXPECT_EQ(events, Events{});
 }
 
-TEST_F(Mouse, PressThatHidesItsOwnButtonGoesNoFurther) {
+TEST_F(MouseTest, PressThatHidesItsOwnButtonGoesNoFurther) {
   Click(form->Text1);
   reactions["Text1.LostFocus"] = [this] { form->Command1.Visible = false; };
   events.clear();
@@ -60,7 +60,7 @@ TEST_F(Mouse, PressThatHidesItsOwnButtonGoesNoFurther) {
   EXPECT_EQ(std::count(events.begin(), events.end(), "Command1.Click"), 0);
 }
 
-TEST_F(Mouse, OptionIsChosenOnceAndClearsTheOthers) {
+TEST_F(MouseTest, OptionIsChosenOnceAndClearsTheOthers) {
   form->Option1[1].Value = true;
   events.clear();
   Click(form->Option1[2]);
@@ -73,48 +73,48 @@ TEST_F(Mouse, OptionIsChosenOnceAndClearsTheOthers) {
   EXPECT_TRUE(*Widget().ViewOf(form->Option1[2])->WhatShows().chosen);
 }
 
-TEST_F(Mouse, DoubleClickIsAClickThenDblClick) {
+TEST_F(MouseTest, DoubleClickIsAClickThenDblClick) {
   QWidget& label = WidgetOf(form->Label1);
   Click(form->Label1);
-  WidgetsTest::Mouse(label, QEvent::MouseButtonDblClick, {5, 5});
-  WidgetsTest::Mouse(label, QEvent::MouseButtonRelease, {5, 5});
+  Mouse(label, QEvent::MouseButtonDblClick, {5, 5});
+  Mouse(label, QEvent::MouseButtonRelease, {5, 5});
   EXPECT_EQ(events,
             (Events{"Label1.MouseDown", "Label1.MouseUp", "Label1.Click", "Label1.DblClick"}));
 }
 
-TEST_F(Mouse, TwoQuickClicksOnAButtonAreTwo) {
+TEST_F(MouseTest, TwoQuickClicksOnAButtonAreTwo) {
   QWidget& button = WidgetOf(form->Command1);
   Click(form->Command1);
-  WidgetsTest::Mouse(button, QEvent::MouseButtonDblClick, {5, 5});
-  WidgetsTest::Mouse(button, QEvent::MouseButtonRelease, {5, 5});
+  Mouse(button, QEvent::MouseButtonDblClick, {5, 5});
+  Mouse(button, QEvent::MouseButtonRelease, {5, 5});
   EXPECT_EQ(std::count(events.begin(), events.end(), "Command1.Click"), 2);
 }
 
-TEST_F(Mouse, SpinTurnsAtOnceRepeatsWhileHeldAndStopsOutside) {
+TEST_F(MouseTest, SpinTurnsAtOnceRepeatsWhileHeldAndStopsOutside) {
   auto& spin = WidgetOf<SpinWidget>(form->Spin1);
-  WidgetsTest::Mouse(spin, QEvent::MouseButtonPress, spin.ArrowRect(true).center());
+  Mouse(spin, QEvent::MouseButtonPress, spin.ArrowRect(true).center());
   EXPECT_EQ(events, Events{"Spin1.SpinUp"});
   Wait(700);
   const std::size_t turned = events.size();
   EXPECT_GE(turned, 3U);
-  WidgetsTest::Mouse(spin, QEvent::MouseMove, spin.ArrowRect(false).center());
+  Mouse(spin, QEvent::MouseMove, spin.ArrowRect(false).center());
   Wait(200);
   EXPECT_LE(events.size(), turned + 1);
-  WidgetsTest::Mouse(spin, QEvent::MouseButtonRelease, spin.ArrowRect(false).center());
+  Mouse(spin, QEvent::MouseButtonRelease, spin.ArrowRect(false).center());
   const std::size_t stopped = events.size();
   Wait(200);
   EXPECT_EQ(events.size(), stopped);
 }
 
-TEST_F(Mouse, SpinThatIsSwitchedOffByItsHandlerStops) {
+TEST_F(MouseTest, SpinThatIsSwitchedOffByItsHandlerStops) {
   reactions["Spin1.SpinDown"] = [this] { form->Spin1.Enabled = false; };
   auto& spin = WidgetOf<SpinWidget>(form->Spin1);
-  WidgetsTest::Mouse(spin, QEvent::MouseButtonPress, spin.ArrowRect(false).center());
+  Mouse(spin, QEvent::MouseButtonPress, spin.ArrowRect(false).center());
   Wait(600);
   EXPECT_EQ(events, Events{"Spin1.SpinDown"});
 }
 
-TEST_F(Mouse, WheelTurnsSpinButtonsAndScrollBars) {
+TEST_F(MouseTest, WheelTurnsSpinButtonsAndScrollBars) {
   Wheel(WidgetOf(form->Spin1), 2);
   EXPECT_EQ(events, (Events{"Spin1.SpinUp", "Spin1.SpinUp"}));
   events.clear();
@@ -123,14 +123,14 @@ TEST_F(Mouse, WheelTurnsSpinButtonsAndScrollBars) {
   EXPECT_EQ(events, Events{"HScroll1.Change"});
 }
 
-TEST_F(Mouse, ThumbIsFollowedAndEndsHold) {
+TEST_F(MouseTest, ThumbIsFollowedAndEndsHold) {
   WidgetOf<QScrollBar>(form->HScroll1).setValue(500);
   EXPECT_EQ(form->HScroll1.Value, 100);
   form->HScroll1.Max = 80;
   EXPECT_EQ(WidgetOf<QScrollBar>(form->HScroll1).value(), 80);
 }
 
-TEST_F(Mouse, ScrollBarThatTheProgramMovesTellsNothingBack) {
+TEST_F(MouseTest, ScrollBarThatTheProgramMovesTellsNothingBack) {
   form->HScroll1.Value = 60;
   EXPECT_EQ(events, Events{"HScroll1.Change"});
 }

@@ -11,7 +11,7 @@
 namespace veldrin {
 namespace {
 
-class Windows_ : public WidgetsTest {
+class WindowsTest : public WidgetsTest {
  protected:
   std::vector<std::string> Differences() {
     std::vector<std::string> names;
@@ -22,13 +22,13 @@ class Windows_ : public WidgetsTest {
   }
 };
 
-TEST_F(Windows_, NewWindowShowsWhatItsSlotsSay) {
+TEST_F(WindowsTest, NewWindowShowsWhatItsSlotsSay) {
   EXPECT_EQ(Differences(), Events{});
   EXPECT_EQ(Widget().Title(), "Test [*]");
   EXPECT_EQ(Widget().Client().size(), QSize((6120 - 120) / 15, (5190 - 690) / 15));
 }
 
-TEST_F(Windows_, EveryWrittenSlotIsShownAtOnce) {
+TEST_F(WindowsTest, EveryWrittenSlotIsShownAtOnce) {
   form->Label1.Caption = "other";
   form->Label1.ForeColor = kRed;
   form->Label1.BackColor = kYellow;
@@ -48,7 +48,7 @@ TEST_F(Windows_, EveryWrittenSlotIsShownAtOnce) {
   EXPECT_EQ(Differences(), Events{});
 }
 
-TEST_F(Windows_, WidgetThatWasTamperedWithIsFound) {
+TEST_F(WindowsTest, WidgetThatWasTamperedWithIsFound) {
   WidgetOf<QLabel>(form->Label1).setText("tampered");
   WidgetOf(form->Text1).hide();
   WidgetOf(form->Command1).move(0, 0);
@@ -57,7 +57,7 @@ TEST_F(Windows_, WidgetThatWasTamperedWithIsFound) {
   EXPECT_EQ(Differences().size(), 5U);
 }
 
-TEST_F(Windows_, EveryZoomPlacesEveryControl) {
+TEST_F(WindowsTest, EveryZoomPlacesEveryControl) {
   for (const double factor : {0.5, 0.75, 1.25, 1.75, 2.0, 3.0}) {
     stage.zoom.Set(factor);
     EXPECT_EQ(Differences(), Events{}) << factor;
@@ -66,7 +66,7 @@ TEST_F(Windows_, EveryZoomPlacesEveryControl) {
   }
 }
 
-TEST_F(Windows_, ChildrenOfAScaledPictureStretchWithIt) {
+TEST_F(WindowsTest, ChildrenOfAScaledPictureStretchWithIt) {
   form->Picture1.surface.SetScale({0, 0, 735, 735});
   Settle();
   EXPECT_EQ(WidgetOf(form->Option1[1]).geometry(), QRect(13, 41, 120, 34));
@@ -76,14 +76,14 @@ TEST_F(Windows_, ChildrenOfAScaledPictureStretchWithIt) {
   EXPECT_EQ(Differences(), Events{});
 }
 
-TEST_F(Windows_, ChildrenOfAPictureWithAnotherScaleStayInTwips) {
+TEST_F(WindowsTest, ChildrenOfAPictureWithAnotherScaleStayInTwips) {
   const QRect before = WidgetOf(form->Option1[1]).geometry();
   form->Picture1.surface.SetScale({0, 340, 15000, -340});
   Settle();
   EXPECT_EQ(WidgetOf(form->Option1[1]).geometry(), before);
 }
 
-TEST_F(Windows_, MenusGrowAndShrinkInTheirOwnEvent) {
+TEST_F(WindowsTest, MenusGrowAndShrinkInTheirOwnEvent) {
   Menu& entry = form->menu_d.Load(1);
   entry.Caption = "C:\\A&B.nx4";
   entry.Visible = true;
@@ -97,7 +97,7 @@ TEST_F(Windows_, MenusGrowAndShrinkInTheirOwnEvent) {
   EXPECT_EQ(Differences(), Events{});
 }
 
-TEST_F(Windows_, MarksOfMenusAreKeysInBracketsAlone) {
+TEST_F(WindowsTest, MarksOfMenusAreKeysInBracketsAlone) {
   EXPECT_EQ(MenuText("File(&F)"), "File(&F)");
   EXPECT_EQ(MenuText(" 640 * 480(&6)"), " 640 * 480(&6)");
   EXPECT_EQ(MenuText("/home/a&b/x.nx4"), "/home/a&&b/x.nx4");
@@ -105,13 +105,13 @@ TEST_F(Windows_, MarksOfMenusAreKeysInBracketsAlone) {
   EXPECT_EQ(MenuText("&"), "&&");
 }
 
-TEST_F(Windows_, EntryOfAMenuThatIsOffDoesNothing) {
+TEST_F(WindowsTest, EntryOfAMenuThatIsOffDoesNothing) {
   form->menu_a.Enabled = false;
   dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_b))->Action().trigger();
   EXPECT_EQ(events, Events{});
 }
 
-TEST_F(Windows_, WindowMayUnloadInAnEventOfItsOwnButton) {
+TEST_F(WindowsTest, WindowMayUnloadInAnEventOfItsOwnButton) {
   reactions["Command1.Click"] = [this] {
     form->UnloadWindow();
     program->desk.retired.push_back(std::move(form));
@@ -120,14 +120,14 @@ TEST_F(Windows_, WindowMayUnloadInAnEventOfItsOwnButton) {
   EXPECT_TRUE(windows.Forms().empty());
 }
 
-TEST_F(Windows_, CloseBoxAsksTheProgram) {
+TEST_F(WindowsTest, CloseBoxAsksTheProgram) {
   form->QueryUnload.Bind([this](int) { form->closeRefused = true; });
   Widget().close();
   EXPECT_TRUE(Widget().isVisible());
   EXPECT_TRUE(form->loaded);
 }
 
-TEST_F(Windows_, ModalLoopEndsWhenTheWindowHidesAndKeepsOthersOutOfReach) {
+TEST_F(WindowsTest, ModalLoopEndsWhenTheWindowHidesAndKeepsOthersOutOfReach) {
   TestForm modal(program->desk);
   bool blocked = false;
   QTimer::singleShot(0, qApp, [&] {
@@ -150,7 +150,7 @@ TEST_F(Windows_, ModalLoopEndsWhenTheWindowHidesAndKeepsOthersOutOfReach) {
   modal.UnloadWindow();
 }
 
-TEST_F(Windows_, EndOfTheProgramLeavesEveryModalLoopAndRoutine) {
+TEST_F(WindowsTest, EndOfTheProgramLeavesEveryModalLoopAndRoutine) {
   TestForm first(program->desk);
   TestForm second(program->desk);
   QTimer::singleShot(0, qApp, [&] {
@@ -172,7 +172,7 @@ TEST_F(Windows_, EndOfTheProgramLeavesEveryModalLoopAndRoutine) {
   windows.Forget();
 }
 
-TEST_F(Windows_, FaultInAnEventEndsTheProgramWithItsBox) {
+TEST_F(WindowsTest, FaultInAnEventEndsTheProgramWithItsBox) {
   reactions["Command1.Click"] = [] { Raise(kFaultDivisionByZero); };
   bool ended = false;
   stage.input.ended = [&] { ended = true; };
@@ -184,7 +184,7 @@ TEST_F(Windows_, FaultInAnEventEndsTheProgramWithItsBox) {
   EXPECT_EQ(events, Events{});
 }
 
-TEST_F(Windows_, WindowDrawnLargerTellsItsNewSize) {
+TEST_F(WindowsTest, WindowDrawnLargerTellsItsNewSize) {
   const QSize pixels = Widget().size();
   Widget().resize(pixels + QSize(60, 30));
   QCoreApplication::processEvents();
@@ -194,7 +194,7 @@ TEST_F(Windows_, WindowDrawnLargerTellsItsNewSize) {
   EXPECT_EQ(Differences(), Events{});
 }
 
-TEST_F(Windows_, WindowLargerThanTheScreenScrolls) {
+TEST_F(WindowsTest, WindowLargerThanTheScreenScrolls) {
   const QSize screen = Widget().screen()->availableSize();
   stage.zoom.Set(Zoom::kMost);
   EXPECT_LE(Widget().width(), screen.width());
@@ -203,14 +203,14 @@ TEST_F(Windows_, WindowLargerThanTheScreenScrolls) {
   EXPECT_EQ(form->Width, 6120);
 }
 
-TEST_F(Windows_, MovedWindowTellsItsPlaceInTwips) {
+TEST_F(WindowsTest, MovedWindowTellsItsPlaceInTwips) {
   Widget().move(100, 60);
   QCoreApplication::processEvents();
   EXPECT_EQ(form->Left, 1500);
   EXPECT_EQ(form->Top, 900);
 }
 
-TEST_F(Windows_, TimersRunByTheClockWhileTheyAreOn) {
+TEST_F(WindowsTest, TimersRunByTheClockWhileTheyAreOn) {
   form->Timer1.Enabled = true;
   Wait(150);
   const auto ticks = events.size();
@@ -220,7 +220,7 @@ TEST_F(Windows_, TimersRunByTheClockWhileTheyAreOn) {
   EXPECT_EQ(events.size(), ticks);
 }
 
-TEST_F(Windows_, ControlsHaveNamesForThoseWhoDoNotSeeThem) {
+TEST_F(WindowsTest, ControlsHaveNamesForThoseWhoDoNotSeeThem) {
   EXPECT_EQ(WidgetOf(form->Text1).accessibleName(), "Name");
   EXPECT_EQ(WidgetOf(form->Command1).accessibleName(), "O K");
 }

@@ -17,6 +17,8 @@ TEST(FileChooser, ListsTenThousandFilesAndPicksTheLast) {
     machine.files.AddFile("C:\\VELDRIN\\DAT\\P" + std::to_string(10000 + i) + ".nx4", "x");
   }
   const auto program = AssembleProgram(machine.machine);
+  program->workspace.MaxNe = 15000;
+  program->workspace.MaxSpeed = 340;
   program->form3.LoadWindow();
   program->form3.Show();
   program->form3.File1.Pattern = "*.nx4";
