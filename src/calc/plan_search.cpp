@@ -96,7 +96,9 @@ void ShowFailurePanel(Program& program) {
 
 bool SearchAuto(Workspace& workspace, int mainGear, const Blink& blink) {
   workspace.PlanCount = 0;
-  PlanWalk walk(workspace, [mainGear](int gear, float error) {
+  Table<Reach, 1, kGears> reach;
+  for (int gear = 1; gear <= kGears; ++gear) reach[gear] = {kAutoPasses, kAutoPasses};
+  PlanWalk walk(workspace, reach, [mainGear](int gear, float error) {
     const float distance = std::fabs(error);
     if (distance <= 1) return 1;
     if (gear == mainGear || !(distance <= kAutoPasses)) return kNoPass;
@@ -114,7 +116,11 @@ bool SearchMixed(Workspace& workspace, const Table<bool, 1, kGears>& manual, con
   workspace.PlanCount = 0;
   const Table<std::int16_t, 1, kGears> minus = workspace.ToleranceMinus;
   const Table<std::int16_t, 1, kGears> plus = workspace.TolerancePlus;
-  PlanWalk walk(workspace, [&](int gear, float error) {
+  Table<Reach, 1, kGears> reach;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    reach[gear] = {static_cast<double>(minus[gear]) + kMixedPasses, static_cast<double>(plus[gear]) + 1};
+  }
+  PlanWalk walk(workspace, reach, [&](int gear, float error) {
     // Kept: the upper bound is always the user's plus one, so it grows once, in the second pass, while the
     // lower bound sinks by one in every pass.
     const double lower = -minus[gear];

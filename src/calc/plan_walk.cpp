@@ -11,8 +11,8 @@
 
 namespace veldrin {
 
-PlanWalk::PlanWalk(const Workspace& workspace, FirstPass firstPass)
-    : workspace_(workspace), firstPass_(std::move(firstPass)) {
+PlanWalk::PlanWalk(const Workspace& workspace, const Table<Reach, 1, kGears>& reach, FirstPass firstPass)
+    : workspace_(workspace), reach_(reach), firstPass_(std::move(firstPass)) {
   for (int gear = 1; gear <= kGears; ++gear) pairs_[static_cast<std::size_t>(gear - 1)] = PairsOf(gear);
   const auto count = static_cast<std::size_t>(workspace_.PrimaryCount * FinalRowCount(workspace_));
   combinations_.resize(count);
@@ -29,8 +29,28 @@ PlanWalk::GearPairs PlanWalk::PairsOf(int gear) const {
     pairs.drive[k] = workspace_.GearDriveTeeth(gear, row);
     pairs.driven[k] = workspace_.GearDrivenTeeth(gear, row);
     pairs.lacksTeeth = pairs.lacksTeeth || pairs.driven[k] == 0;
+    if (pairs.lacksTeeth) continue;
+    const double ratio = pairs.drive[k] / pairs.driven[k];
+    pairs.lowestRatio = k == 0 ? ratio : std::min(pairs.lowestRatio, ratio);
+    pairs.highestRatio = k == 0 ? ratio : std::max(pairs.highestRatio, ratio);
   }
   return pairs;
+}
+
+/// Whether every row of the gear is for certain too slow or too fast for any pass. The speeds here are not
+/// the rule's to the last bit, so a row near the border is not said to be beyond it.
+bool PlanWalk::IsBeyondReach(double speedBeforeGear, int gear) const {
+  constexpr double kSlack = 1e-6;
+  constexpr double kSurelySingle = 1e38;
+  const GearPairs& pairs = pairs_[static_cast<std::size_t>(gear - 1)];
+  const double request = workspace_.SpeedRequest[gear];
+  const double one = GearSpeedOf(speedBeforeGear, pairs.lowestRatio, 1);
+  const double other = GearSpeedOf(speedBeforeGear, pairs.highestRatio, 1);
+  // Errors beyond 32 bits are for the rows to raise.
+  if (std::max(std::fabs(one), std::fabs(other)) > kSurelySingle) return false;
+  const double slack = kSlack * (std::fabs(one) + std::fabs(other) + std::fabs(request) + 1);
+  return std::max(one, other) + slack < request - reach_[gear].below ||
+         std::min(one, other) - slack > request + reach_[gear].above;
 }
 
 /// Computes the errors of the next gear; gives the first pass in which one of its rows is near enough.
@@ -46,11 +66,12 @@ int PlanWalk::LearnGear(Combination& combination, double speedBeforeGear) {
       GearSpeed(workspace_, speedBeforeGear, gear, pairs.row[static_cast<std::size_t>(k)]);
     }
   }
+  if (workspace_.GearRows > kGearRowLimit) Raise(kFaultSubscript);
+  if (pairs.count == 0 || IsBeyondReach(speedBeforeGear, gear)) return kNoPass;
   for (std::size_t k = 0; k < static_cast<std::size_t>(pairs.count); ++k) {
     const double speed = GearSpeedOf(speedBeforeGear, pairs.drive[k], pairs.driven[k]);
     errors[k] = ToSingle(speed - request);
   }
-  if (workspace_.GearRows > kGearRowLimit) Raise(kFaultSubscript);
   int first = kNoPass;
   for (std::size_t k = 0; k < static_cast<std::size_t>(pairs.count); ++k) {
     first = std::min(first, firstPass_(gear, errors[k]));

@@ -25,13 +25,20 @@ inline constexpr int kNoPass = 127;
 /// request in km/h; kNoPass when none is.
 using FirstPass = std::function<int(int gear, float error)>;
 
+/// How far, in km/h, a row may miss its gear's request and still pass in the widest pass.
+struct Reach {
+  double below;
+  double above;
+};
+
 /// Told of every combination of every pass, by its final row: the search's sign of life.
 using Blink = std::function<void(int finalRow)>;
 
 class PlanWalk {
  public:
   /// The walk looks at the workspace's tables, requests and running conditions as they stand.
-  PlanWalk(const Workspace& workspace, FirstPass firstPass);
+  /// A gear all of whose rows miss its request by more than its `reach` is not asked row by row.
+  PlanWalk(const Workspace& workspace, const Table<Reach, 1, kGears>& reach, FirstPass firstPass);
 
   /// Makes one pass and appends its plans to `PlanList` of `found`. Raises fault 9 for a 31st plan and for
   /// `GearRows` beyond the tables, 11 or 6 for a gear pair without driven teeth that is looked at.
@@ -50,14 +57,19 @@ class PlanWalk {
     std::array<double, kGearRowLimit> driven;
     int count = 0;
     bool lacksTeeth = false;
+    /// Lowest and highest drive over driven, where no row lacks teeth.
+    double lowestRatio = 0;
+    double highestRatio = 0;
   };
 
   GearPairs PairsOf(int gear) const;
+  bool IsBeyondReach(double speedBeforeGear, int gear) const;
   int LearnGear(Combination& combination, double speedBeforeGear);
   int BestRow(const Combination& combination, int gear, int pass) const;
   void AddPlan(const Combination& combination, int primary, int final, int pass, Workspace& found) const;
 
   const Workspace& workspace_;
+  Table<Reach, 1, kGears> reach_;
   FirstPass firstPass_;
   std::array<GearPairs, kGears> pairs_;
   std::vector<Combination> combinations_;

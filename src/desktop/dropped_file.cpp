@@ -18,9 +18,10 @@ bool HasUnsavedChanges(const Program& program) {
 }
 
 bool AgreesToDiscard(Program& program) {
-  const std::string question =
-      Message(program.workspace, kChangedMessage) + "\r\n\r\n" + Message(program.workspace, kDiscardMessage) + " ?";
-  return program.machine.boxes.Message(BoxIcon::Question, "", question, BoxButtons::OkCancel) == BoxAnswer::Ok;
+  const std::string question = Message(program.workspace, kChangedMessage) + "\r\n\r\n" +
+                               Message(program.workspace, kDiscardMessage) + " ?";
+  return program.machine.boxes.Message(BoxIcon::Question, "", question, BoxButtons::OkCancel) ==
+         BoxAnswer::Ok;
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ namespace veldrin {
 namespace {
 
 constexpr double kHighestMaxSpeed = 340;  // km/h
-constexpr int kRowsToStep = 2;  // primary rows that make stepping worth its arrows
+constexpr int kRowsToStep = 2;            // primary rows that make stepping worth its arrows
 constexpr int kTeethCharacters = 2;       // of each of the two numbers of a row's text
 
 // ---- Reading ----

@@ -20,8 +20,8 @@ TEST_F(KeyboardTest, TabGoesThroughTheControlsInTheOrderOfTheScreen) {
     way.push_back(form->focus->IndexedName());
     EXPECT_EQ(Widget().focusWidget(), &WidgetOf(*form->focus));
   }
-  EXPECT_EQ(way, (std::vector<std::string>{"Text2", "Text3", "Command1", "Command2", "Option1(1)", "Option1(2)",
-                                           "Option1(3)", "Combo1", "Combo2"}));
+  EXPECT_EQ(way, (std::vector<std::string>{"Text2", "Text3", "Command1", "Command2", "Option1(1)",
+                                           "Option1(2)", "Option1(3)", "Combo1", "Combo2"}));
 }
 
 TEST_F(KeyboardTest, ShiftTabGoesBackAndRoundTheEnd) {
@@ -47,8 +47,7 @@ TEST_F(KeyboardTest, SpaceAndEnterPressAButtonWithTheEventsOfTheMouse) {
   Click(form->Command1);
   events.clear();
   Key(Qt::Key_Space);
-  EXPECT_EQ(events,
-            (Events{"Command1.KeyDown", "Command1.MouseDown", "Command1.MouseUp", "Command1.Click"}));
+  EXPECT_EQ(events, (Events{"Command1.KeyDown", "Command1.MouseDown", "Command1.MouseUp", "Command1.Click"}));
   events.clear();
   Key(Qt::Key_Return);
   EXPECT_EQ(events.back(), "Command1.Click");

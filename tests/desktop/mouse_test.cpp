@@ -1,6 +1,5 @@
-#include "tests/desktop/test_window.h"
-
 #include "desktop/spin_widget.h"
+#include "tests/desktop/test_window.h"
 
 #include <QScrollBar>
 
@@ -78,8 +77,7 @@ TEST_F(MouseTest, DoubleClickIsAClickThenDblClick) {
   Click(form->Label1);
   Mouse(label, QEvent::MouseButtonDblClick, {5, 5});
   Mouse(label, QEvent::MouseButtonRelease, {5, 5});
-  EXPECT_EQ(events,
-            (Events{"Label1.MouseDown", "Label1.MouseUp", "Label1.Click", "Label1.DblClick"}));
+  EXPECT_EQ(events, (Events{"Label1.MouseDown", "Label1.MouseUp", "Label1.Click", "Label1.DblClick"}));
 }
 
 TEST_F(MouseTest, TwoQuickClicksOnAButtonAreTwo) {

@@ -154,10 +154,20 @@ class WidgetsTest : public ::testing::Test {
   SimulatedMachine simulated;
   Stage stage;
   DesktopWindows windows{stage};
-  Machine machine{simulated.files,   simulated.registry, simulated.profile,  simulated.environment,
-                  simulated.instances, simulated.screen, windows,            simulated.boxes,
-                  simulated.metrics, simulated.printer,  simulated.pictures, simulated.shell,
-                  simulated.sound,   simulated.figures};
+  Machine machine{simulated.files,
+                  simulated.registry,
+                  simulated.profile,
+                  simulated.environment,
+                  simulated.instances,
+                  simulated.screen,
+                  windows,
+                  simulated.boxes,
+                  simulated.metrics,
+                  simulated.printer,
+                  simulated.pictures,
+                  simulated.shell,
+                  simulated.sound,
+                  simulated.figures};
   std::unique_ptr<Program> program = std::make_unique<Program>(machine);
   std::shared_ptr<TestForm> form = std::make_shared<TestForm>(program->desk);
   Events events;
