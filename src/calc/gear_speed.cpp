@@ -139,15 +139,13 @@ void RefreshDisplay(Program& program) {
   if (!flagStays) AdvanceDirtyFlag(program);
 }
 
-void ShowBaseline(Program& program) {
+void ShowBaseline(Program& program, int gear) {
   Workspace& workspace = program.workspace;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    ShowSpeed(workspace, program.form2.Label2[gear], workspace.SpeedBaseline[gear]);
-    if (gear < 2) continue;
-    const float step = ToSingle(workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1]);
-    workspace.SpeedStepBaseline[gear - 1] = step;
-    ShowStep(workspace, program.form2.Label39[gear - 1], step);
-  }
+  ShowSpeed(workspace, program.form2.Label2[gear], workspace.SpeedBaseline[gear]);
+  if (gear < 2) return;
+  const float step = ToSingle(workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1]);
+  workspace.SpeedStepBaseline[gear - 1] = step;
+  ShowStep(workspace, program.form2.Label39[gear - 1], step);
 }
 
 }  // namespace veldrin

@@ -31,7 +31,7 @@ DesktopProgram::DesktopProgram() {
   machine.boxes.closed = [this] { stage.input.RethrowCaught(); };
   program = AssembleProgram(machine.machine);
   stage.input.Serve(program.get());
-  stage.input.ended = [] { QCoreApplication::quit(); };
+  stage.input.ended = [] { QCoreApplication::exit(); };
   stage.fileDropped = [this](const std::string& path) {
     stage.input.Do([&] {
       if (!user::Activate(program->form2)) return false;
@@ -82,7 +82,7 @@ int DesktopProgram::Run(const std::string& commandLine) {
   QTimer::singleShot(0, qApp, [&] {
     StartProgram(*program, commandLine);
     windows.Settle();
-    if (program->ended) QCoreApplication::quit();
+    if (program->ended) QCoreApplication::exit();
   });
   QApplication::exec();
   windows.Forget();

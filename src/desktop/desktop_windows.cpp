@@ -38,9 +38,12 @@ FormWidget* DesktopWindows::FormOf(const Window& window) const {
 }
 
 void DesktopWindows::Settle() {
+  const Program* served = stage_->input.Served();
+  if (served != nullptr && served->ended) {
+    for (const ModalLoop& modal : loops_) modal.loop->quit();
+  }
   for (const auto& form : forms_) form->Settle();
-  const Program* program = stage_->input.Served();
-  if (program != nullptr && program->eventDepth > 0) return;
+  if (served != nullptr && served->eventDepth > 0) return;
   // A handler of one of its widgets may be on its way back through Qt still.
   for (auto& form : retired_) form.release()->deleteLater();
   retired_.clear();

@@ -30,6 +30,12 @@ void SendMouse(QWidget& widget, QEvent::Type type, const QPoint& point, Qt::Mous
   QApplication::sendEvent(&widget, &event);
 }
 
+/// What the pointer hits of a widget.
+QWidget& TargetOf(ControlView& view) {
+  auto* area = qobject_cast<QAbstractScrollArea*>(view.Widget());
+  return area != nullptr ? *area->viewport() : *view.Widget();
+}
+
 /// Lists, whose own clicks pick something, and what has no event of the mouse.
 bool IsPickedFrom(const Control& control) {
   switch (control.kind) {
@@ -124,14 +130,16 @@ bool WidgetHand::Click(Program& program, Control& control, int button) {
     if (button != kLeftButton) return ScriptHand::Click(program, control, button);
     return Through([&] { static_cast<MenuView*>(view)->Action().trigger(); });
   }
-  return ClickAt(*view->Widget(), view->Widget()->rect().center(), button);
+  QWidget& target = TargetOf(*view);
+  return ClickAt(target, target.rect().center(), button);
 }
 
 bool WidgetHand::DoubleClick(Program& program, Control& control) {
   ControlView* const view = ViewOf(control);
   const bool clicks = view != nullptr && view->Widget() != nullptr && !IsPickedFrom(control);
   if (!clicks || control.FindEvent("DblClick") == nullptr) return ScriptHand::DoubleClick(program, control);
-  return ClickAt(*view->Widget(), view->Widget()->rect().center(), kLeftButton, true);
+  QWidget& target = TargetOf(*view);
+  return ClickAt(target, target.rect().center(), kLeftButton, true);
 }
 
 bool WidgetHand::DoubleClickEntry(Program& program, FileBox& box, const std::string& entry) {

@@ -52,6 +52,8 @@ void Dir1_KeyDown(Program& program, int key) {
     LeaveFolder(program);
   } else if (key == kKeyLeft) {
     SetFocus(form3.File1);
+    // The first entry is picked anew also where it was selected before.
+    form3.File1.ListIndex.Put(-1);
     if (!form3.File1.entries.empty()) form3.File1.ListIndex = 0;
   }
 }
@@ -86,8 +88,9 @@ void Combo1_Change(Program& program) {
 }
 
 /// Selects the typed name, if its extension is the machine's, and runs OK. Selecting an existing file runs OK
-/// already by the double click that it fires; the second run finds the work done. Only where the first one
-/// ended in the question whether to overwrite, the second would be the answer, and is left out.
+/// already by the double click that it fires; the second run finds the work done. Only in the Save role it is left
+/// out where the first one ended in the question whether to overwrite, which it would answer, or where that one
+/// was the answer, so that the chooser has gone or stands in another role.
 void Combo1_Enter(Program& program) {
   Form3& form3 = program.form3;
   const std::string text = form3.Combo1.Text;
@@ -97,12 +100,13 @@ void Combo1_Enter(Program& program) {
     form3.Combo1.Text = "";
     return;
   }
+  const bool saving = RoleOfChooser(program) == ChooserRole::Save;
   const bool askedBefore = form3.Label4.Visible;
   Guarded([&] { form3.File1.FileName = dot == 0 ? text + "." + key : text; });
-  const bool asksNow = !askedBefore && form3.Label4.Visible &&
-                       form3.Label4.Caption == Message(program.workspace, 8) &&
-                       RoleOfChooser(program) == ChooserRole::Save;
-  if (!asksNow) Guarded([&] { form3.Command1.Click(); });
+  const bool asksNow =
+      !askedBefore && form3.Label4.Visible && form3.Label4.Caption == Message(program.workspace, 8);
+  const bool saved = !form3.Visible || RoleOfChooser(program) != ChooserRole::Save;
+  if (!(saving && (asksNow || saved))) Guarded([&] { form3.Command1.Click(); });
 }
 
 void Combo1_KeyDown(Program& program, int key) {

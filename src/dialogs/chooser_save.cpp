@@ -66,6 +66,7 @@ void TitleSavedPlan(Program& program) {
   program.form2.Caption = PlanTitle(program, program.workspace.SaveName);
 }
 
+/// Kept: the entry is named by its place, and the save has moved the entries.
 void ReopenWaitingEntry(Program& program) {
   program.form3.Hide();
   ReopenFromHistory(program, program.workspace.PendingHistoryIndex);
@@ -135,8 +136,10 @@ void FirstOk(Program& program) {
     program.form3.Command1.Enabled = false;
     return;
   }
-  const std::string found = program.machine.files.FindFirst(workspace.SaveName);
-  if (LowerCase(found) == LowerCase(workspace.SaveName)) {
+  // A name with a folder in it is not among the folder's names, but its file may be there all the same.
+  const Files& files = program.machine.files;
+  const std::string found = files.FindFirst(workspace.SaveName);
+  if (LowerCase(found) == LowerCase(workspace.SaveName) || files.FileExists(TargetPath(program))) {
     ShowChooserPrompt(program, kOverwriteMessage);
     MakeProgramFolderCurrent(program);
     return;

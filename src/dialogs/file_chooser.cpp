@@ -49,6 +49,13 @@ void Form3_Deactivate(Program& program) {
   program.form3.Hide();
 }
 
+/// The close box is CANCEL: the window lives as long as the program.
+void Form3_QueryUnload(Program& program, int reason) {
+  if (reason != static_cast<int>(CloseReason::User)) return;
+  program.form3.closeRefused = true;
+  program.form3.Command2.Click();
+}
+
 std::string ChosenPath(const Program& program, const std::string& name) {
   return JoinPath(program.machine.files.Rules(), program.workspace.TempDir, name);
 }
@@ -185,6 +192,7 @@ void Command3_Click(Program& program) {
 void AttachFileChooser(Program& program) {
   Form3& form3 = program.form3;
   On(program, form3.Load, Form3_Load);
+  On(program, form3.QueryUnload, Form3_QueryUnload);
   On(program, form3.Activate, Form3_Activate);
   On(program, form3.Deactivate, Form3_Deactivate);
   On(program, form3.Command1.Click, Command1_Click);

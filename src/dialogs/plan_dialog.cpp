@@ -180,19 +180,15 @@ void ShowChosenRows(Program& program) {
 }
 
 /// Kept: the arrows keep their colour.
-void SetGearsToAuto(Program& program) {
+void SetGearToAuto(Program& program, int gear) {
   Form2& form2 = program.form2;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    form2.Command1[gear].Caption = kAuto;
-    form2.Label14[gear].Enabled = false;
-    form2.Label14[gear].Caption = "--";
-    form2.Label15[gear].Enabled = false;
-    form2.Label15[gear].Caption = "--";
-    form2.Spin1[gear].Enabled = false;
-    form2.Spin3[gear].Enabled = false;
-    program.workspace.ToleranceMinus[gear] = 1;
-    program.workspace.TolerancePlus[gear] = 1;
-  }
+  form2.Command1[gear].Caption = kAuto;
+  DisableAll({&form2.Label14[gear], &form2.Label15[gear]});
+  form2.Label14[gear].Caption = "--";
+  form2.Label15[gear].Caption = "--";
+  DisableAll({&form2.Spin1[gear], &form2.Spin3[gear]});
+  program.workspace.ToleranceMinus[gear] = 1;
+  program.workspace.TolerancePlus[gear] = 1;
 }
 
 void Command1_Click(Program& program) {
@@ -212,8 +208,10 @@ void Command1_Click(Program& program) {
   form2.Label38.Visible = false;
   form2.f_calc.Enabled = false;
   EnableOutput(program, true);
-  ShowBaseline(program);
-  SetGearsToAuto(program);
+  for (int gear = 1; gear <= kGears; ++gear) {
+    ShowBaseline(program, gear);
+    SetGearToAuto(program, gear);
+  }
   form2.Picture28.Enabled = true;
   form2.Picture28.MousePointer = kPointerDefault;
   form2.menu_print.Enabled = true;

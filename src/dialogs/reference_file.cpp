@@ -98,16 +98,19 @@ void LeaveChooser(Program& program) {
   program.form3.Hide();
 }
 
-void ReadQuickRatioSpeed(Program& program, TextReader& reader, int gear, std::string& field) {
+/// A field that is missing leaves both speeds as they were.
+void ReadQuickRatioSpeed(Program& program, TextReader& reader, int gear) {
   Workspace& workspace = program.workspace;
+  std::string field;
   Guarded([&] { field = reader.Field(); });
   Guarded([&] { workspace.SpeedBaseline[gear] = ParseSingle(field); });
   Guarded([&] { workspace.SpeedRequest[gear] = ParseInt16(field); });
   Append(program, field);
 }
 
-void ReadReferenceSpeed(Program& program, TextReader& reader, int gear, std::string& line) {
+void ReadReferenceSpeed(Program& program, TextReader& reader, int gear) {
   Workspace& workspace = program.workspace;
+  std::string line;
   Guarded([&] { line = reader.Line(); });
   workspace.SpeedRequest[gear] = 0;
   Guarded([&] {
@@ -131,8 +134,7 @@ void LoadQuickRatioFile(Program& program) {
     Guarded([&] { workspace.ShiftNe = reader.Int16Field(); });
     Append(program, std::to_string(workspace.ShiftNe));
     FollowShiftNe(program);
-    std::string field;
-    for (int gear = 1; gear <= kGears; ++gear) ReadQuickRatioSpeed(program, reader, gear, field);
+    for (int gear = 1; gear <= kGears; ++gear) ReadQuickRatioSpeed(program, reader, gear);
     FollowTopSpeed(workspace);
     AppendRest(program, reader);
   }
@@ -153,16 +155,13 @@ void LoadReferenceFile(Program& program) {
     OpenedReference file(program);
     TextReader& reader = file.Reader();
     ReadRemarkLine(program, reader);
-    std::string line;
-    Guarded([&] { line = reader.Line(); });
-    Guarded([&] { workspace.TyreLength = ParseSingle(FixDecimal(workspace, line), separator); });
+    Guarded([&] { workspace.TyreLength = ParseSingle(FixDecimal(workspace, reader.Line()), separator); });
     Append(program, SingleText(workspace, workspace.TyreLength));
-    Guarded([&] { line = reader.Line(); });
-    Guarded([&] { workspace.ShiftNe = ToInt16(ParseSingle(FixDecimal(workspace, line), separator)); });
+    Guarded([&] { workspace.ShiftNe = ToInt16(ParseSingle(FixDecimal(workspace, reader.Line()), separator)); });
     FollowShiftNe(program);
     workspace.ReferenceNe = workspace.ShiftNe;
     Append(program, std::to_string(workspace.ShiftNe));
-    for (int gear = 1; gear <= kGears; ++gear) ReadReferenceSpeed(program, reader, gear, line);
+    for (int gear = 1; gear <= kGears; ++gear) ReadReferenceSpeed(program, reader, gear);
     FollowTopSpeed(workspace);
     AppendRest(program, reader);
   }

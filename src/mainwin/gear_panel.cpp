@@ -25,7 +25,7 @@ void Command11_Click(Program& program) {
   Workspace& workspace = program.workspace;
   program.form2.Picture15.Visible = true;
   for (int gear = 1; gear <= kGears; ++gear) workspace.SpeedBaseline[gear] = workspace.SpeedNow[gear];
-  ShowBaseline(program);
+  for (int gear = 1; gear <= kGears; ++gear) ShowBaseline(program, gear);
   if (workspace.DataChanged == dirty::kYes) workspace.RemarkChanged = dirty::kYes;
   workspace.ReferenceNe = workspace.ShiftNe;
   workspace.CallerWord = caller::kTakeBaseline;

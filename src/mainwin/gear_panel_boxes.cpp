@@ -1,5 +1,6 @@
 #include "mainwin/gear_panel_boxes.h"
 
+#include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"
@@ -107,10 +108,14 @@ void ValidateTyreLength(Program& program) {
   RefreshDisplay(program);
 }
 
-/// A reader that hides the panel takes the focus away as well; that is no leaving of the box.
+/// A reader that hides the panel takes the focus away as well; that is no leaving of the box. Opening the
+/// requests does so too, and their chart is to stand behind the refresh that validates the box.
 template <void (*validate)(Program&)>
 void Box_LostFocus(Program& program) {
-  if (program.workspace.CallerWord != caller::kModule1) validate(program);
+  const Workspace& workspace = program.workspace;
+  if (workspace.CallerWord == caller::kModule1) return;
+  validate(program);
+  if (workspace.ModeWord == mode::kSpeed || workspace.ModeWord == mode::kRpm) ChartRequest(program);
 }
 
 void Text2_DblClick(Program& program) {

@@ -35,12 +35,13 @@ void ShowFirstRows(Program& program) {
 void ShowScrollBars(Program& program) {
   const Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  for (ScrollBar* bar : {&form2.HScroll1, &form2.HScroll2}) {
-    bar->Enabled = true;
-    bar->Visible = true;
-  }
-  form2.HScroll1.Value = workspace.ShiftNe;
-  form2.HScroll2.Value = ToInt16(workspace.CheckNe);
+  const auto show = [](ScrollBar& bar, int value) {
+    bar.Enabled = true;
+    bar.Visible = true;
+    bar.Value = value;
+  };
+  show(form2.HScroll1, workspace.ShiftNe);
+  show(form2.HScroll2, ToInt16(workspace.CheckNe));
 }
 
 /// Kept: the working file is stale from here on, so refreshes never mark this plan as changed until a plan
@@ -116,11 +117,12 @@ void CloseRequests(Program& program) {
   HideAll({&form2.Label38, &form2.Picture30, &form2.Picture1, &form2.Picture4});
   ChartPlan(program);
   form2.f_calc.Enabled = false;
-  EnableOutput(program, true);
-  EnableAll({&form2.Command3, &form2.Command4, &form2.Command11, &form2.HScroll1, &form2.HScroll2,
+  EnableAll({&form2.menu_save, &form2.Command3, &form2.Command4, &form2.Command5, &form2.menu_print,
+             &form2.menu_comb, &form2.menu_edit, &form2.Command11, &form2.HScroll1, &form2.HScroll2,
              &form2.Label6, &form2.Label8});
   ShowAll({&form2.Command11, &form2.Picture2, &form2.Picture3, &form2.Picture12});
   form2.Picture12.BringToFront();
+  form2.Picture28.MousePointer = kPointerDefault;
   form2.Text2.Text = SingleText(workspace, workspace.CheckNe);
   EnableRowSpins(program);
 }

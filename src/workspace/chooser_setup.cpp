@@ -18,6 +18,7 @@ void SetUpChooserBoxes(Program& program, const std::vector<std::string>& pattern
   Guarded([&] { form3.Drive1.Drive = folder; });
   Guarded([&] { form3.Dir1.Path = folder; });
   Guarded([&] { form3.File1.Path = folder; });
+  form3.Label3.Caption = form3.Dir1.Path;
   form3.File1.Pattern = kAnyPattern;
   form3.File1.Pattern = patterns.back();
   form3.Command1.Enabled = false;

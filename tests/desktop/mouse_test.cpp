@@ -117,13 +117,13 @@ TEST_F(MouseTest, WheelTurnsSpinButtonsAndScrollBars) {
   EXPECT_EQ(events, (Events{"Spin1.SpinUp", "Spin1.SpinUp"}));
   events.clear();
   Wheel(WidgetOf(form->HScroll1), -1);
-  EXPECT_EQ(form->HScroll1.Value, 45);
+  EXPECT_EQ(form->HScroll1.Value.get(), 45);
   EXPECT_EQ(events, Events{"HScroll1.Change"});
 }
 
 TEST_F(MouseTest, ThumbIsFollowedAndEndsHold) {
   WidgetOf<QScrollBar>(form->HScroll1).setValue(500);
-  EXPECT_EQ(form->HScroll1.Value, 100);
+  EXPECT_EQ(form->HScroll1.Value.get(), 100);
   form->HScroll1.Max = 80;
   EXPECT_EQ(WidgetOf<QScrollBar>(form->HScroll1).value(), 80);
 }

@@ -8,6 +8,7 @@
 #include "view/control_array.h"
 #include "workspace/program.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QTimer>
 #include <QWheelEvent>
@@ -86,13 +87,19 @@ class WidgetsTest : public ::testing::Test {
     QApplication::sendEvent(&widget, &event);
   }
 
+  /// What the pointer hits of a widget.
+  QWidget& TargetOf(const Control& control) {
+    auto* area = dynamic_cast<QAbstractScrollArea*>(&WidgetOf(control));
+    return area != nullptr ? *area->viewport() : WidgetOf(control);
+  }
+
   void Press(const Control& control) {
-    QWidget& widget = WidgetOf(control);
+    QWidget& widget = TargetOf(control);
     Mouse(widget, QEvent::MouseButtonPress, widget.rect().center());
   }
 
   void Release(const Control& control, const QPoint& away = {}) {
-    QWidget& widget = WidgetOf(control);
+    QWidget& widget = TargetOf(control);
     Mouse(widget, QEvent::MouseButtonRelease, widget.rect().center() + away);
   }
 

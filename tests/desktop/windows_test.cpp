@@ -161,7 +161,6 @@ TEST_F(WindowsTest, EndOfTheProgramLeavesEveryModalLoopAndRoutine) {
       return true;
     });
   });
-  stage.input.ended = [] { QCoreApplication::quit(); };
   stage.input.Do([&] {
     first.ShowModal();
     ADD_FAILURE() << "the outer routine went on";
@@ -188,8 +187,8 @@ TEST_F(WindowsTest, WindowDrawnLargerTellsItsNewSize) {
   const QSize pixels = Widget().size();
   Widget().resize(pixels + QSize(60, 30));
   QCoreApplication::processEvents();
-  EXPECT_EQ(form->Width, 6120 + 900);
-  EXPECT_EQ(form->Height, 5190 + 450);
+  EXPECT_EQ(form->Width.get(), 6120 + 900);
+  EXPECT_EQ(form->Height.get(), 5190 + 450);
   EXPECT_GE(std::count(events.begin(), events.end(), "Resize"), 1);
   EXPECT_EQ(Differences(), Events{});
 }
@@ -200,14 +199,14 @@ TEST_F(WindowsTest, WindowLargerThanTheScreenScrolls) {
   EXPECT_LE(Widget().width(), screen.width());
   EXPECT_LE(Widget().height(), screen.height());
   EXPECT_EQ(Widget().Client().size(), QSize(1200, 900));
-  EXPECT_EQ(form->Width, 6120);
+  EXPECT_EQ(form->Width.get(), 6120);
 }
 
 TEST_F(WindowsTest, MovedWindowTellsItsPlaceInTwips) {
   Widget().move(100, 60);
   QCoreApplication::processEvents();
-  EXPECT_EQ(form->Left, 1500);
-  EXPECT_EQ(form->Top, 900);
+  EXPECT_EQ(form->Left.get(), 1500);
+  EXPECT_EQ(form->Top.get(), 900);
 }
 
 TEST_F(WindowsTest, TimersRunByTheClockWhileTheyAreOn) {

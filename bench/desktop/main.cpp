@@ -1,0 +1,187 @@
+// bench-desktop: what the program costs beside an empty window of Qt, in one run: the time to the first painted
+// main window, the memory at that moment, and a step of a spin button with all that it computes and repaints.
+// Each start is a process of its own; the best of several counts. QT_QPA_PLATFORM=offscreen needs no display.
+#include "desktop/desktop_program.h"
+#include "desktop/look.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWidget>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <string>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kStarts = 7;
+constexpr int kSteps = 200;
+constexpr double kSplash = 100;  // ms that the splash window stays by rule
+constexpr double kFrame = 1000.0 / 60;
+constexpr char kShare[] = VELDRIN_SHARE;
+
+double MillisecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+/// Memory that the process holds, in KiB; 0 where the system does not tell.
+long Memory() {
+  QFile status("/proc/self/status");
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  for (const QByteArray& line : status.readAll().split('\n')) {
+    if (line.startsWith("VmRSS:")) return line.mid(6).simplified().split(' ').first().toLong();
+  }
+  return 0;
+}
+
+/// Calls `done` once, when the widget has been painted for the first time.
+class FirstPaint : public QObject {
+ public:
+  FirstPaint(QWidget& widget, std::function<void()> done) : QObject(&widget), done_(std::move(done)) {
+    widget.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* widget, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      widget->removeEventFilter(this);
+      QTimer::singleShot(0, qApp, done_);
+    }
+    return false;
+  }
+
+ private:
+  std::function<void()> done_;
+};
+
+/// What a started process tells: milliseconds and KiB at the first painted window, milliseconds of a step.
+struct Told {
+  double painted = 1e9;
+  long memory = 0;
+  double step = 1e9;
+};
+
+void Tell(double painted, long memory, double step) {
+  std::printf("%.3f %ld %.4f\n", painted, memory, step);
+}
+
+/// Repeats a step with what it leaves to be painted; the time of one.
+double TimeOf(const std::function<void(int)>& step) {
+  const auto begin = Clock::now();
+  for (int i = 0; i < kSteps; ++i) {
+    step(i);
+    QCoreApplication::processEvents();
+  }
+  return MillisecondsSince(begin) / kSteps;
+}
+
+int RunEmpty(Clock::time_point start) {
+  QWidget window;
+  window.resize(640, 466);
+  const FirstPaint* watch = new FirstPaint(window, [&] {
+    const double painted = MillisecondsSince(start);
+    const long memory = Memory();
+    Tell(painted, memory, TimeOf([&](int) { window.update(); }));
+    QCoreApplication::exit();
+  });
+  (void)watch;
+  window.show();
+  return QApplication::exec();
+}
+
+int RunProgram(QApplication& application, Clock::time_point start) {
+  veldrin::SetUpLook(application);
+  QDir::setCurrent(qEnvironmentVariable("VELDRIN_HOME"));
+  veldrin::DesktopProgram desktop;
+  desktop.stage.zoom.Set(1);
+  veldrin::Form2& form2 = desktop.program->form2;
+  const auto measure = [&] {
+    const double painted = MillisecondsSince(start);
+    const long memory = Memory();
+    auto& input = desktop.stage.input;
+    input.Do([&] { return veldrin::user::Click(form2.Command2); });
+    QCoreApplication::processEvents();
+    const double step = TimeOf([&](int i) {
+      input.Do([&] { return veldrin::user::Spin(form2.Spin6[5], i % 2 == 0); });
+    });
+    Tell(painted, memory, step);
+    std::fflush(stdout);
+    QCoreApplication::exit();
+  };
+  // The main window comes with the splash window's timer.
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, qApp, [&] {
+    veldrin::FormWidget* const form = desktop.windows.FormOf(form2);
+    if (form == nullptr) return;
+    look.stop();
+    new FirstPaint(form->Client(), measure);
+  });
+  look.start(0);
+  return desktop.Run("");
+}
+
+/// Starts one kind of window and reads what it tells.
+Told Start(const QString& kind) {
+  const QTemporaryDir home;
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
+    environment.insert(name, home.path());
+  }
+  environment.insert("VELDRIN_HOME", kShare);
+  process.setProcessEnvironment(environment);
+  const auto now = Clock::now().time_since_epoch().count();
+  process.start(QCoreApplication::applicationFilePath(), {kind, QString::number(now)});
+  Told told;
+  if (!process.waitForFinished()) return told;
+  const QList<QByteArray> words = process.readAllStandardOutput().simplified().split(' ');
+  if (words.size() == 3) told = {words[0].toDouble(), words[1].toLong(), words[2].toDouble()};
+  return told;
+}
+
+void Report(const char* what, const char* unit, double program, double empty) {
+  std::printf("%-34s %9.1f %s, empty window %9.1f %s, ratio %.2f\n", what, program, unit, empty, unit,
+              program / empty);
+}
+
+int Compare() {
+  Told empty;
+  Told program;
+  const auto take = [](Told& best, const Told& told) {
+    best.painted = std::min(best.painted, told.painted);
+    best.step = std::min(best.step, told.step);
+    best.memory = told.memory;
+  };
+  for (int i = 0; i < kStarts; ++i) {  // in turn, so that both see the same load
+    take(empty, Start("empty"));
+    take(program, Start("program"));
+  }
+  Report("first painted main window", "ms ", program.painted, empty.painted);
+  Report("the same without the splash time", "ms ", program.painted - kSplash, empty.painted);
+  Report("memory", "MiB", static_cast<double>(program.memory) / 1024, static_cast<double>(empty.memory) / 1024);
+  std::printf("%-34s %9.2f ms , a frame of 60 Hz %.2f ms , ratio %.2f\n", "spin step with refresh and repaint",
+              program.step, kFrame, program.step / kFrame);
+  std::printf("%-34s %9.2f ms\n", "repaint of the empty window", empty.step);
+  return 0;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  const std::string kind = count > 2 ? arguments[1] : "";
+  if (kind.empty()) {
+    const QCoreApplication application(count, arguments);
+    return Compare();
+  }
+  const Clock::time_point start{Clock::duration(std::stoll(arguments[2]))};
+  QApplication application(count, arguments);
+  return kind == "empty" ? RunEmpty(start) : RunProgram(application, start);
+}
