@@ -1,6 +1,7 @@
-// bench-desktop: what the program costs beside an empty window of Qt, in one run: the time to the first painted
-// main window, the memory at that moment, and a step of a spin button with all that it computes and repaints.
-// Each start is a process of its own; the best of several counts. QT_QPA_PLATFORM=offscreen needs no display.
+// bench-desktop: what the program costs beside an empty window of Qt, in one run: the time to the first
+// painted main window, the memory at that moment, and a step of a spin button with all that it computes and
+// repaints. Each start is a process of its own; the best of several counts. QT_QPA_PLATFORM=offscreen needs
+// no display.
 #include "desktop/desktop_program.h"
 #include "desktop/look.h"
 
@@ -109,9 +110,8 @@ int RunProgram(QApplication& application, Clock::time_point start) {
     auto& input = desktop.stage.input;
     input.Do([&] { return veldrin::user::Click(form2.Command2); });
     QCoreApplication::processEvents();
-    const double step = TimeOf([&](int i) {
-      input.Do([&] { return veldrin::user::Spin(form2.Spin6[5], i % 2 == 0); });
-    });
+    const double step =
+        TimeOf([&](int i) { input.Do([&] { return veldrin::user::Spin(form2.Spin6[5], i % 2 == 0); }); });
     Tell(painted, memory, step);
     std::fflush(stdout);
     QCoreApplication::exit();
@@ -166,9 +166,10 @@ int Compare() {
   }
   Report("first painted main window", "ms ", program.painted, empty.painted);
   Report("the same without the splash time", "ms ", program.painted - kSplash, empty.painted);
-  Report("memory", "MiB", static_cast<double>(program.memory) / 1024, static_cast<double>(empty.memory) / 1024);
-  std::printf("%-34s %9.2f ms , a frame of 60 Hz %.2f ms , ratio %.2f\n", "spin step with refresh and repaint",
-              program.step, kFrame, program.step / kFrame);
+  Report("memory", "MiB", static_cast<double>(program.memory) / 1024,
+         static_cast<double>(empty.memory) / 1024);
+  std::printf("%-34s %9.2f ms , a frame of 60 Hz %.2f ms , ratio %.2f\n",
+              "spin step with refresh and repaint", program.step, kFrame, program.step / kFrame);
   std::printf("%-34s %9.2f ms\n", "repaint of the empty window", empty.step);
   return 0;
 }

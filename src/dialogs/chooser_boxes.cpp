@@ -88,9 +88,9 @@ void Combo1_Change(Program& program) {
 }
 
 /// Selects the typed name, if its extension is the machine's, and runs OK. Selecting an existing file runs OK
-/// already by the double click that it fires; the second run finds the work done. Only in the Save role it is left
-/// out where the first one ended in the question whether to overwrite, which it would answer, or where that one
-/// was the answer, so that the chooser has gone or stands in another role.
+/// already by the double click that it fires; the second run finds the work done. Only in the Save role it is
+/// left out where the first one ended in the question whether to overwrite, which it would answer, or where
+/// that one was the answer, so that the chooser has gone or stands in another role.
 void Combo1_Enter(Program& program) {
   Form3& form3 = program.form3;
   const std::string text = form3.Combo1.Text;

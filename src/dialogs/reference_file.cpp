@@ -157,7 +157,8 @@ void LoadReferenceFile(Program& program) {
     ReadRemarkLine(program, reader);
     Guarded([&] { workspace.TyreLength = ParseSingle(FixDecimal(workspace, reader.Line()), separator); });
     Append(program, SingleText(workspace, workspace.TyreLength));
-    Guarded([&] { workspace.ShiftNe = ToInt16(ParseSingle(FixDecimal(workspace, reader.Line()), separator)); });
+    Guarded(
+        [&] { workspace.ShiftNe = ToInt16(ParseSingle(FixDecimal(workspace, reader.Line()), separator)); });
     FollowShiftNe(program);
     workspace.ReferenceNe = workspace.ShiftNe;
     Append(program, std::to_string(workspace.ShiftNe));
