@@ -7,8 +7,10 @@
 
 namespace veldrin {
 
-/// The control's own caption, or else that of the label that heads it: the one beside it on the left, or the
-/// nearest above. Elements of an array add their subscript, gears for the most part.
+/// The control's own caption, or else that of the label that heads it: beside it on the left, above, or close
+/// below. A row of a column of labels stands for the column's head. Elements of an array add their subscript,
+/// gears for the most part. A label's text and a window's title speak for themselves: no name, and so have
+/// panels.
 QString AccessibleName(const Control& control);
 
 }  // namespace veldrin

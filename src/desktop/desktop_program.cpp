@@ -18,6 +18,7 @@ namespace {
 
 constexpr char kZoomSetting[] = "Zoom";
 constexpr double kPercent = 100;
+constexpr int kPrepareAfter = 20;  // ms
 
 }  // namespace
 
@@ -83,6 +84,10 @@ int DesktopProgram::Run(const std::string& commandLine) {
     StartProgram(*program, commandLine);
     windows.Settle();
     if (program->ended) QCoreApplication::exit();
+  });
+  // The splash window is on the screen by then and waits for nothing; the main window is the largest.
+  QTimer::singleShot(kPrepareAfter, qApp, [&] {
+    if (!program->ended) windows.Prepare(program->form2);
   });
   QApplication::exec();
   windows.Forget();

@@ -50,6 +50,7 @@ void DesktopWindows::Settle() {
 }
 
 void DesktopWindows::Forget() {
+  waiting_.clear();
   while (!forms_.empty()) Retire(*forms_.back()->Shows());
 }
 
@@ -62,16 +63,35 @@ void DesktopWindows::Retire(const Window& window) {
   forms_.erase(found);
 }
 
+void DesktopWindows::Prepare(Window& window) {
+  if (FormOf(window) == nullptr) Build(window);
+}
+
 void DesktopWindows::Loaded(Window& window) {
+  if (FormOf(window) != nullptr) return;
+  const auto isTimer = [](const Control* control) { return control->kind == ControlKind::Timer; };
+  const bool timed = std::any_of(window.controls.begin(), window.controls.end(), isTimer);
+  if (timed || stage_->buildsAtOnce) {
+    Build(window);
+  } else {
+    waiting_.push_back(&window);
+  }
+}
+
+void DesktopWindows::Build(Window& window) {
   forms_.push_back(std::make_unique<FormWidget>(window, *stage_));
 }
 
 void DesktopWindows::Unloaded(Window& window) {
+  std::erase(waiting_, &window);
   Retire(window);
 }
 
 void DesktopWindows::SlotWritten(Control& control, const char* slot, bool changed) {
-  FormWidget* const form = changed ? FormOf(control.window) : nullptr;
+  if (!changed) return;
+  const bool shows = &control == &control.window && control.Visible;
+  if (shows && std::erase(waiting_, &control.window) > 0) Build(control.window);
+  FormWidget* const form = FormOf(control.window);
   if (form == nullptr) return;
   form->Take(control, slot);
   if (&control != &control.window || control.Visible) return;

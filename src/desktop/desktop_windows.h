@@ -19,10 +19,12 @@ class DesktopWindows : public Windows {
   explicit DesktopWindows(Stage& stage);
   ~DesktopWindows() override;
 
-  /// The widgets of the loaded windows, in the order of loading.
+  /// The widgets of the loaded windows, in the order in which they were made.
   const std::vector<std::unique_ptr<FormWidget>>& Forms() const { return forms_; }
-  /// The widget of a window; null while it is not loaded.
+  /// The widget of a window; null while there is none.
   FormWidget* FormOf(const Window& window) const;
+  /// Makes the widgets of a window that will be loaded soon, when there is time for it.
+  void Prepare(Window& window);
   /// What the program left for the ends of events; outside of events, also those widgets that are out of use.
   void Settle();
   /// Lets go of every window, when the program is gone.
@@ -51,9 +53,12 @@ class DesktopWindows : public Windows {
     QEventLoop* loop;
   };
 
+  void Build(Window& window);
   void Retire(const Window& window);
 
   Stage* stage_;
+  /// Loaded windows without timers get their widgets when they are first shown: the start is faster so.
+  std::vector<Window*> waiting_;
   std::vector<std::unique_ptr<FormWidget>> forms_;
   std::vector<std::unique_ptr<FormWidget>> retired_;
   std::vector<ModalLoop> loops_;

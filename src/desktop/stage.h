@@ -18,6 +18,8 @@ struct Stage {
   bool keysAlone = false;
   /// Whether timers run by the real clock.
   bool servesTimers = true;
+  /// Whether windows get their widgets when they are loaded, and not only when they are shown.
+  bool buildsAtOnce = false;
   /// Takes the path of a file that was dropped on the window with the menu.
   std::function<void(const std::string& path)> fileDropped;
 };

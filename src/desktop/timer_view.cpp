@@ -16,6 +16,7 @@ void TimerView::Take(std::string_view slot) {
   if (slot != "Enabled" && slot != "Interval") return;
   const auto& timer = static_cast<const TimerControl&>(*control_);
   if (stage_->servesTimers && timer.Enabled && timer.Interval > 0) {
+    clock_.setTimerType(Qt::PreciseTimer);
     clock_.start(timer.Interval);
   } else {
     clock_.stop();

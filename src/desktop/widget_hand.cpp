@@ -68,6 +68,7 @@ void BringText(QWidget& widget, const QString& text, bool behind) {
 
 WidgetHand::WidgetHand(double zoom) {
   stage_.servesTimers = false;
+  stage_.buildsAtOnce = true;
   stage_.zoom.Set(zoom);
 }
 
