@@ -1,6 +1,7 @@
 #include "desktop/fitted_text.h"
 
 #include <QFontMetricsF>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -10,45 +11,97 @@ namespace veldrin {
 namespace {
 
 constexpr double kSmallestShare = 0.72;
-constexpr double kWrapHeight = 2.2;  // of a room for two lines, in sizes of the font
-constexpr double kAnyHeight = 1e6;
+constexpr double kWrapHeight = 2.2;     // of a room for two lines, in sizes of the font
+constexpr double kClosestLines = 1.15;  // from line to line, in sizes of the font
 
-/// Whether a text of this font has its place; `flags` say whether it wraps.
-bool Fits(const QFont& font, const QSizeF& room, int flags, const QString& text) {
+/// Breaks the text into lines of the width; returns how many.
+int Break(QTextLayout& layout, double width, Qt::Alignment across) {
+  QTextOption option(across);
+  option.setWrapMode(QTextOption::WordWrap);
+  layout.setTextOption(option);
+  layout.beginLayout();
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(width);
+  }
+  layout.endLayout();
+  return layout.lineCount();
+}
+
+/// How far apart the lines stand: as the font has it, or closer where only that gives them room. Fonts with
+/// Japanese letters leave half a line between two.
+double Pitch(const QTextLayout& layout, double room) {
+  const double natural = layout.lineAt(0).height();
+  const double closest = layout.font().pixelSize() * kClosestLines;
+  return std::max(closest, std::min(natural, room / layout.lineCount()));
+}
+
+bool FitsWrapped(const QTextLayout& layout, const QSizeF& room) {
+  for (int i = 0; i < layout.lineCount(); ++i) {
+    if (layout.lineAt(i).naturalTextWidth() > room.width() + 0.5) return false;
+  }
+  return Pitch(layout, room.height()) * layout.lineCount() <= room.height() + 0.5;
+}
+
+void DrawWrapped(QPainter& painter, const QRectF& room, QString text, QFont font, int smallest,
+                 Qt::Alignment across) {
+  text.replace('\n', QChar::LineSeparator);
+  for (;; font.setPixelSize(font.pixelSize() - 1)) {
+    QTextLayout layout(text, font, painter.device());
+    if (Break(layout, room.width(), across) == 0) return;
+    if (font.pixelSize() > smallest && !FitsWrapped(layout, room.size())) continue;
+    const double pitch = Pitch(layout, room.height());
+    const double top = std::max(0.0, (room.height() - pitch * layout.lineCount()) / 2);
+    for (int i = 0; i < layout.lineCount(); ++i) {
+      QTextLine line = layout.lineAt(i);
+      line.setPosition(QPointF(0, top + pitch * i + (pitch - line.height()) / 2));
+    }
+    layout.draw(&painter, room.topLeft());
+    return;
+  }
+}
+
+/// A tight room is told by what the text itself has above and below the line, not by what its font could
+/// have.
+bool FitsOneLine(const QFont& font, const QSizeF& room, const QString& text) {
   const QFontMetricsF metrics(font);
-  const QRectF bounds = metrics.boundingRect(QRectF(0, 0, room.width(), kAnyHeight), flags, text);
-  // The room of a single line is told by what stands out of it, not by the leading of its font.
-  const double height = bounds.height() > metrics.height() * 1.5 ? bounds.height() : metrics.capHeight();
-  return bounds.width() <= room.width() + 0.5 && height <= room.height() + 0.5;
+  return metrics.horizontalAdvance(text) <= room.width() + 0.5 &&
+         metrics.tightBoundingRect(text).height() <= room.height() + 0.5;
+}
+
+void DrawOneLine(QPainter& painter, const QRectF& room, const QString& text, QFont font, int smallest,
+                 Qt::Alignment across) {
+  while (font.pixelSize() > smallest && !FitsOneLine(font, room.size(), text)) {
+    font.setPixelSize(font.pixelSize() - 1);
+  }
+  painter.setFont(font);
+  const QFontMetricsF metrics(font, painter.device());
+  QString shown = text;
+  if (metrics.horizontalAdvance(text) > room.width() + 1) {
+    shown = metrics.elidedText(text, Qt::ElideRight, room.width() + 1);
+  }
+  // The font's lines stand in the middle, so that texts beside each other share theirs; in a tight room the
+  // text moves as far as keeps it whole.
+  const QRectF ink = metrics.tightBoundingRect(shown);
+  const double line = room.top() + (room.height() - metrics.height()) / 2 + metrics.ascent();
+  const double lowest = room.bottom() - ink.bottom();
+  const double highest = room.top() - ink.top();
+  const double above = std::max(highest, std::min(line, lowest)) - metrics.ascent();
+  painter.drawText(QRectF(room.left(), above, room.width(), metrics.height()),
+                   across | Qt::AlignTop | Qt::TextSingleLine | Qt::TextDontClip, shown);
 }
 
 }  // namespace
 
 void DrawFitted(QPainter& painter, const QRectF& room, const QString& text, const QFont& font,
                 Qt::Alignment align) {
-  const bool wraps = room.height() >= font.pixelSize() * kWrapHeight;
-  const int across = static_cast<int>(align & Qt::AlignHorizontal_Mask);
-  const int flags = across | (wraps ? Qt::TextWordWrap : Qt::TextSingleLine);
-  QFont fitting = font;
+  const Qt::Alignment across = align & Qt::AlignHorizontal_Mask;
   const int smallest = static_cast<int>(std::ceil(font.pixelSize() * kSmallestShare));
-  while (fitting.pixelSize() > smallest && !Fits(fitting, room.size(), flags, text)) {
-    fitting.setPixelSize(fitting.pixelSize() - 1);
-  }
-  painter.setFont(fitting);
-  const QFontMetricsF metrics(fitting, painter.device());
+  const bool wraps = room.height() >= font.pixelSize() * kWrapHeight;
   if (wraps) {
-    const QRectF bounds = metrics.boundingRect(QRectF(0, 0, room.width(), kAnyHeight), flags, text);
-    const double top = room.top() + std::max(0.0, (room.height() - bounds.height()) / 2);
-    painter.drawText(QRectF(room.left(), top, room.width(), room.height()), flags, text);
-    return;
+    DrawWrapped(painter, room, text, font, smallest, across);
+  } else {
+    DrawOneLine(painter, room, text, font, smallest, across);
   }
-  QString shown = text;
-  if (metrics.horizontalAdvance(text) > room.width() + 1) {
-    shown = metrics.elidedText(text, Qt::ElideRight, room.width() + 1);
-  }
-  // Beyond the room's height, so that a tight row does not cut what hangs below the line.
-  const double spare = std::max(0.0, (metrics.height() - room.height()) / 2);
-  painter.drawText(room.adjusted(0, -spare, 0, spare), flags | Qt::AlignVCenter | Qt::TextDontClip, shown);
 }
 
 QString WithoutMarks(const QString& caption) {
