@@ -1,6 +1,7 @@
 #include "desktop/real_instances.h"
 
 #include "desktop/real_lock.h"
+#include "desktop/runtime_folder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -36,6 +37,8 @@ class Gate {
 }  // namespace
 
 QString RealInstances::UsersLocks() {
+  const QString session = UsersRuntimeFolder();
+  if (!session.isEmpty()) return session + "/veldrin-";
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/veldrin";
   if (QDir().mkpath(folder) && QFileInfo(folder).isWritable()) return folder + "/";
   return QDir::tempPath() + "/veldrin-" + QFileInfo(QDir::homePath()).fileName() + "-";

@@ -1,7 +1,7 @@
 // Running copies of the program, each under a lock of its own that goes with its process.
 //
-// The locks stand beside the settings. Where that folder denies writing they stand in the folder for
-// temporary files, under the user's name.
+// The locks stand in the folder of the user's session; without one beside the settings, and where that folder
+// denies writing in the folder for temporary files, under the user's name.
 #pragma once
 
 #include "platform/system.h"

@@ -1,5 +1,6 @@
 #include "desktop/real_system.h"
 
+#include "desktop/runtime_folder.h"
 #include "runtime/text.h"
 
 #include <QDir>
@@ -47,6 +48,14 @@ std::string FolderText(const QString& folder) {
   return QDir::toNativeSeparators(QDir::cleanPath(folder)).toStdString();
 }
 
+/// The folder that "TEMP" names, or what the system has in its place. The system's is often shared by all its
+/// users, while names of working files tell only the copies of one user apart; so the session's comes first.
+QString TemporaryFolder(const QString& named) {
+  if (QFileInfo(named).isDir()) return named;
+  const QString session = qEnvironmentVariableIsSet("TMPDIR") ? QString() : UsersRuntimeFolder();
+  return session.isEmpty() ? QDir::tempPath() : session;
+}
+
 float Twips(int pixels, double zoom) {
   return static_cast<float>(pixels * kTwipsPerPixel / zoom);
 }
@@ -72,7 +81,7 @@ bool IsJapanese(const Profile& profile) {
 std::string RealEnvironment::Variable(const std::string& name) const {
   const QString value = qEnvironmentVariable(name.c_str());
   if (!EqualsIgnoringCase(name, "TEMP")) return value.toStdString();
-  return FolderText(QFileInfo(value).isDir() ? value : QDir::tempPath());
+  return FolderText(TemporaryFolder(value));
 }
 
 float RealScreen::Width() const {

@@ -1,8 +1,9 @@
 #include "platform/canvas.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <utility>
 
 namespace veldrin {
@@ -14,9 +15,10 @@ std::string SevenDigits(double value) {
   if (value == 0) return "0";
   const int before = static_cast<int>(std::floor(std::log10(std::fabs(value)))) + 1;
   const int decimals = std::max(0, 7 - before);
-  char buffer[400];
-  std::snprintf(buffer, sizeof buffer, "%.*f", decimals, value);
-  std::string text = buffer;
+  std::array<char, 400> room{};
+  const auto end =
+      std::to_chars(room.data(), room.data() + room.size(), value, std::chars_format::fixed, decimals);
+  std::string text(room.data(), end.ptr);
   if (text.find('.') != std::string::npos) {
     text.erase(text.find_last_not_of('0') + 1);
     if (text.back() == '.') text.pop_back();

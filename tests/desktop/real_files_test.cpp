@@ -2,6 +2,7 @@
 
 #include "desktop/real_code_pages.h"
 #include "runtime/fault.h"
+#include "tests/desktop/child_process.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +15,6 @@
 #include <functional>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace veldrin {
@@ -56,14 +56,10 @@ class RealFilesTest : public ::testing::Test {
 
 /// What `work` returns in a process of its own that has no rights beyond those of a plain user.
 int AsPlainUser(const std::function<int()>& work) {
-  const pid_t child = fork();
-  if (child == 0) {
+  return WaitForChild(StartChild([&] {
     const bool plain = geteuid() != 0 || setuid(kNobody) == 0;
-    _exit(plain ? work() : 255);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return plain ? work() : 255;
+  }));
 }
 
 TEST_F(RealFilesTest, PathsFollowTheSystem) {
@@ -169,15 +165,12 @@ TEST_F(RealFilesTest, AWriterThatIsDroppedLeavesTheFileAndNothingElse) {
 
 TEST_F(RealFilesTest, AProcessThatDiesWhileWritingLeavesTheOldFileWhole) {
   Put("plan.nx4", "old");
-  const pid_t child = fork();
-  if (child == 0) {
+  const pid_t child = StartChild([&] {
     const auto writer = files.OpenForWriting(In("plan.nx4"));
     writer->Write("half of a pl");
-    raise(SIGKILL);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  ASSERT_TRUE(WIFSIGNALED(status));
+    return raise(SIGKILL);
+  });
+  ASSERT_EQ(WaitForChild(child), -SIGKILL);
   EXPECT_EQ(Bytes("plan.nx4"), "old");
 }
 

@@ -1,11 +1,12 @@
 #include "desktop/real_instances.h"
 
+#include "tests/desktop/child_process.h"
+
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <memory>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace veldrin {
@@ -17,17 +18,17 @@ class OtherCopy {
   explicit OtherCopy(const QString& locks) {
     int ready[2] = {};
     if (pipe(ready) != 0) return;
-    process_ = fork();
-    if (process_ == 0) {
+    process_ = StartChild([&] {
       const RealInstances instances(locks);
       const char sign = 'r';
       if (write(ready[1], &sign, 1) == 1) pause();
-      _exit(0);
-    }
+      return 0;
+    });
+    // Only the child can write now, so that its death ends the reading.
+    close(ready[1]);
     char sign = 0;
     running_ = read(ready[0], &sign, 1) == 1;
     close(ready[0]);
-    close(ready[1]);
   }
   OtherCopy(const OtherCopy&) = delete;
   OtherCopy& operator=(const OtherCopy&) = delete;
@@ -39,8 +40,7 @@ class OtherCopy {
   void Crash() {
     if (!running_) return;
     kill(process_, SIGKILL);
-    int status = 0;
-    waitpid(process_, &status, 0);
+    WaitForChild(process_);
     running_ = false;
   }
 
@@ -88,6 +88,13 @@ TEST_F(RealInstancesTest, ACopyThatEndsIsGone) {
   EXPECT_EQ(instances.Others(), 1);
   other.reset();
   EXPECT_EQ(instances.Others(), 0);
+}
+
+TEST_F(RealInstancesTest, LocksStandInTheFolderOfTheSession) {
+  const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+  qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+  EXPECT_EQ(RealInstances::UsersLocks(), folder.path() + "/veldrin-");
+  before.isEmpty() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", before);
 }
 
 TEST_F(RealInstancesTest, WhereNoLockCanBeTheProgramGoesOnAlone) {

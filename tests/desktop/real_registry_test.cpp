@@ -1,5 +1,6 @@
 #include "desktop/real_processor.h"
 #include "desktop/real_settings_registry.h"
+#include "tests/desktop/child_process.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,8 +9,8 @@
 
 #include <sstream>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace veldrin {
 namespace {
@@ -126,20 +127,18 @@ TEST_F(RealRegistryTest, CopiesOfTheProgramKeepEachOthersWrites) {
 TEST_F(RealRegistryTest, ProcessesThatWriteAtTheSameTimeLoseNothing) {
   constexpr int kWriters = 4;
   constexpr int kWrites = 25;
+  std::vector<pid_t> writers;
   for (int writer = 0; writer < kWriters; ++writer) {
-    if (fork() != 0) continue;
-    SettingsRegistry own(file);
-    bool all = true;
-    for (int i = 0; i < kWrites; ++i) {
-      all = own.Write(kUser, kKey, std::to_string(writer) + "/" + std::to_string(i), "x") && all;
-    }
-    _exit(all ? 0 : 1);
+    writers.push_back(StartChild([&] {
+      SettingsRegistry own(file);
+      bool all = true;
+      for (int i = 0; i < kWrites; ++i) {
+        all = own.Write(kUser, kKey, std::to_string(writer) + "/" + std::to_string(i), "x") && all;
+      }
+      return all ? 0 : 1;
+    }));
   }
-  for (int writer = 0; writer < kWriters; ++writer) {
-    int status = 0;
-    wait(&status);
-    EXPECT_EQ(status, 0);
-  }
+  for (const pid_t writer : writers) EXPECT_EQ(WaitForChild(writer), 0);
   EXPECT_EQ(Text().count("=\"x\""), kWriters * kWrites);
 }
 
@@ -164,16 +163,13 @@ TEST_F(RealRegistryTest, AFolderThatDeniesWritingIsNoHindrance) {
   chmod(folder.path().toLocal8Bit().constData(), 0755);
   chmod((folder.path() + "/settings").toLocal8Bit().constData(), 0555);
   chmod(file.toLocal8Bit().constData(), 0644);
-  const pid_t child = fork();
-  if (child == 0) {
-    if (geteuid() == 0 && setuid(kNobody) != 0) _exit(2);
+  const pid_t child = StartChild([&] {
+    if (geteuid() == 0 && setuid(kNobody) != 0) return 2;
     const bool refused = !registry.Write(kUser, kKey, "Language", "ENGLISH");
     const bool kept = registry.Read(kUser, kKey, "Language") == "ENGLISH";
-    _exit(refused && kept ? 0 : 1);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  EXPECT_EQ(status, 0);
+    return refused && kept ? 0 : 1;
+  });
+  EXPECT_EQ(WaitForChild(child), 0);
   EXPECT_EQ(SettingsRegistry(file).Read(kUser, kKey, "Language"), "JP");
   chmod((folder.path() + "/settings").toLocal8Bit().constData(), 0755);
 }

@@ -66,6 +66,17 @@ TEST(RealEnvironment, TempIsTheVariableOrTheSystemsFolder) {
   EXPECT_EQ(environment.Variable("temp"), folder.path().toStdString());
 }
 
+TEST(RealEnvironment, WithoutANamedFolderTempIsTheUsersOwnForTheSession) {
+  const Variable temp("TEMP");
+  const Variable tmpdir("TMPDIR");
+  const Variable runtime("XDG_RUNTIME_DIR");
+  const QTemporaryDir folder;
+  qunsetenv("TEMP");
+  qunsetenv("TMPDIR");
+  qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+  EXPECT_EQ(RealEnvironment().Variable("TEMP"), folder.path().toStdString());
+}
+
 TEST(RealEnvironment, AVariableThatIsNotThereIsEmpty) {
   const Variable own("VELDRIN_TEST");
   qputenv("VELDRIN_TEST", "鈴鹿");
