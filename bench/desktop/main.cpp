@@ -127,7 +127,8 @@ int RunProgram(QApplication& application, Clock::time_point start) {
   return desktop.Run("");
 }
 
-/// A folder in memory, as sessions have one for their locks; where there is none, the one for temporary files.
+/// A folder in memory, as sessions have one for their locks; where there is none, the one for temporary
+/// files.
 QString MemoryDisk() {
   const QString disk = "/dev/shm";
   return QDir(disk).exists() ? disk : QDir::tempPath();

@@ -25,8 +25,9 @@ QMenu& MenuView::Submenu() {
 
 void MenuView::Take(std::string_view slot) {
   if (slot == "Caption") {
-    action_->setText(MenuText(Record().Caption));
-    action_->setSeparator(Record().Caption == kSeparatorCaption);
+    const bool separator = Record().Caption == kSeparatorCaption;
+    action_->setText(separator ? QString() : MenuText(Record().Caption));  // a text would stand in the line
+    action_->setSeparator(separator);
   } else if (slot == "Visible") {
     action_->setVisible(Record().Visible);
   } else if (slot == "Enabled") {

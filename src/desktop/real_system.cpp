@@ -10,6 +10,7 @@
 #include <QStorageInfo>
 
 #include <algorithm>
+#include <cmath>
 #include <fstream>
 
 #ifdef _WIN32
@@ -60,9 +61,20 @@ float Twips(int pixels, double zoom) {
   return static_cast<float>(pixels * kTwipsPerPixel / zoom);
 }
 
-QSize ScreenSize() {
+/// In logical pixels, each of `sharpness` pixels of the screen.
+struct ScreenFigures {
+  QSize size{1024, 768};
+  double sharpness = 1;
+};
+
+ScreenFigures PrimaryScreen() {
   const QScreen* const screen = QGuiApplication::primaryScreen();
-  return screen == nullptr ? QSize(1024, 768) : screen->size();
+  if (screen == nullptr) return {};
+  return {screen->size(), screen->devicePixelRatio()};
+}
+
+int OwnPixels(int logical, double sharpness) {
+  return static_cast<int>(std::lround(logical * sharpness));
 }
 
 }  // namespace
@@ -85,11 +97,21 @@ std::string RealEnvironment::Variable(const std::string& name) const {
 }
 
 float RealScreen::Width() const {
-  return Twips(ScreenSize().width(), zoom);
+  return Twips(PrimaryScreen().size.width(), zoom);
 }
 
 float RealScreen::Height() const {
-  return Twips(ScreenSize().height(), zoom);
+  return Twips(PrimaryScreen().size.height(), zoom);
+}
+
+int RealScreen::PixelsAcross() const {
+  const ScreenFigures screen = PrimaryScreen();
+  return OwnPixels(screen.size.width(), screen.sharpness);
+}
+
+int RealScreen::PixelsDown() const {
+  const ScreenFigures screen = PrimaryScreen();
+  return OwnPixels(screen.size.height(), screen.sharpness);
 }
 
 MemoryFigures ReadMemoryFigures(std::istream& list) {

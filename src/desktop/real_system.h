@@ -42,6 +42,8 @@ class RealScreen : public Screen {
 
   float Width() const override;
   float Height() const override;
+  int PixelsAcross() const override;
+  int PixelsDown() const override;
 };
 
 /// Total and available memory from a list as Linux keeps it in /proc/meminfo; zeros for what it does not

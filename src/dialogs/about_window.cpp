@@ -60,9 +60,8 @@ std::string SwapFileText(const Program& program) {
 }
 
 std::string ScreenText(const Program& program) {
-  const auto pixels = [&](float twips) { return SingleText(program.workspace, twips / kTwipsPerPixel); };
   const Screen& screen = program.machine.screen;
-  return pixels(screen.Width()) + " x " + pixels(screen.Height());
+  return std::to_string(screen.PixelsAcross()) + " x " + std::to_string(screen.PixelsDown());
 }
 
 /// Free and total bytes, in 64-bit floats.

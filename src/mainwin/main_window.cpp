@@ -70,7 +70,7 @@ void ColourGears(Program& program) {
 
 /// The first picture size that a screen of this width in pixels has no room for.
 /// Kept: only the common widths are known, any other disables nothing.
-int FirstSizeTooLarge(double pixels) {
+int FirstSizeTooLarge(int pixels) {
   if (pixels >= 630 && pixels <= 650) return 3;
   if (pixels >= 790 && pixels <= 810) return 4;
   if (pixels >= 1014 && pixels <= 1034) return 5;
@@ -78,8 +78,8 @@ int FirstSizeTooLarge(double pixels) {
 }
 
 void DisableLargeSizes(Program& program) {
-  const double pixels = RoundHalfToEven(program.machine.screen.Width() / kTwipsPerPixel);
-  for (int size = FirstSizeTooLarge(pixels); size <= kLastPictureSize; ++size) {
+  const int first = FirstSizeTooLarge(program.machine.screen.PixelsAcross());
+  for (int size = first; size <= kLastPictureSize; ++size) {
     program.form2.clip[size].Enabled = false;
     program.form2.bmp[size].Enabled = false;
   }

@@ -14,11 +14,14 @@ class Event;
 
 inline constexpr int kTwipsPerPixel = 15;
 
-/// The screen, in twips.
+/// The screen: in twips, as windows take their places on it, and in its own pixels. Where windows are shown
+/// enlarged, a pixel is less than 15 twips.
 struct Screen {
   virtual ~Screen() = default;
   virtual float Width() const = 0;
   virtual float Height() const = 0;
+  virtual int PixelsAcross() const = 0;
+  virtual int PixelsDown() const = 0;
 };
 
 /// What the windows of the program ask of the one who shows them. The front end finds what to show by

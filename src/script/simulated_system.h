@@ -51,6 +51,8 @@ struct SimulatedScreen : Screen {
 
   float Width() const override { return static_cast<float>(pixelWidth * kTwipsPerPixel); }
   float Height() const override { return static_cast<float>(pixelHeight * kTwipsPerPixel); }
+  int PixelsAcross() const override { return pixelWidth; }
+  int PixelsDown() const override { return pixelHeight; }
 };
 
 struct SimulatedFigures : Figures {

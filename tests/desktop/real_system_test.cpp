@@ -92,9 +92,12 @@ TEST(RealScreen, IsMeasuredInTwips) {
   EXPECT_GT(width, 0);
   EXPECT_GT(height, 0);
   EXPECT_EQ(static_cast<int>(width) % kTwipsPerPixel, 0);
+  const int pixels = screen.PixelsAcross();
   screen.zoom = 2;
   EXPECT_FLOAT_EQ(screen.Width(), width / 2);
   EXPECT_FLOAT_EQ(screen.Height(), height / 2);
+  EXPECT_EQ(screen.PixelsAcross(), pixels) << "the screen has no fewer pixels for windows that are enlarged";
+  EXPECT_EQ(screen.PixelsDown(), static_cast<int>(height) / kTwipsPerPixel);
 }
 
 TEST(RealFigures, MemoryComesFromTheList) {

@@ -97,6 +97,13 @@ TEST_F(WindowsTest, MenusGrowAndShrinkInTheirOwnEvent) {
   EXPECT_EQ(Differences(), Events{});
 }
 
+TEST_F(WindowsTest, ASeparatorOfAMenuHasNoTextInItsLine) {
+  auto* view = dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_d[0]));
+  ASSERT_NE(view, nullptr);
+  EXPECT_TRUE(view->Action().isSeparator());
+  EXPECT_EQ(view->Action().text(), "");
+}
+
 TEST_F(WindowsTest, MarksOfMenusAreKeysInBracketsAlone) {
   EXPECT_EQ(MenuText("File(&F)"), "File(&F)");
   EXPECT_EQ(MenuText(" 640 * 480(&6)"), " 640 * 480(&6)");
