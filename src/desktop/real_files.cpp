@@ -104,9 +104,9 @@ RealFiles::RealFiles(CodePages pages) : encoding_(std::make_shared<TextEncoding>
 
 PathRules RealFiles::Rules() const {
 #ifdef _WIN32
-  return {'\\', 2};
+  return {'\\', 2, false};
 #else
-  return {'/', 0};
+  return {'/', 0, true};
 #endif
 }
 

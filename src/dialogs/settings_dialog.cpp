@@ -5,6 +5,7 @@
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/decimal.h"
+#include "workspace/paths.h"
 #include "workspace/settings.h"
 
 #include <string>
@@ -90,8 +91,9 @@ void FillFields(Program& program) {
   form7.Text1[3].Text = std::to_string(workspace.MaxSpeed);
   form7.Text1[4].Text = std::to_string(workspace.MaxNe);
   form7.Label11[1].Caption = UpperCase(workspace.MachineName + ".rat");
-  form7.Label12[1].Caption = UpperCase(workspace.ListPath);
-  form7.Label13[1].Caption = UpperCase(workspace.DataPath);
+  const PathRules rules = program.machine.files.Rules();
+  form7.Label12[1].Caption = StoredFolder(rules, workspace.ListPath);
+  form7.Label13[1].Caption = StoredFolder(rules, workspace.DataPath);
 }
 
 /// The folder boxes write their folders over the labels, as the system spells them.
@@ -174,12 +176,13 @@ std::string AsInt16(const Workspace& workspace, const std::string& text) {
 void WriteSettings(Program& program) {
   const Workspace& workspace = program.workspace;
   const Form7& form7 = *program.form7;
+  const PathRules rules = program.machine.files.Rules();
   Store(program, "Tyre_L", AsSingle(workspace, form7.Text1[0].Text));
   Store(program, "Check_Ne", AsInt16(workspace, form7.Text1[1].Text));
   Store(program, "Shift_Ne", AsInt16(workspace, form7.Text1[2].Text));
   Store(program, "List_File", UpperCase(form7.Label11[1].Caption.get()));
-  Store(program, "List_Path", UpperCase(form7.Label12[1].Caption.get()));
-  Store(program, "Data_Path", UpperCase(form7.Label13[1].Caption.get()));
+  Store(program, "List_Path", StoredFolder(rules, form7.Label12[1].Caption));
+  Store(program, "Data_Path", StoredFolder(rules, form7.Label13[1].Caption));
   Store(program, "Max_Speed", AsInt16(workspace, form7.Text1[3].Text));
   Store(program, "Max_Ne", AsInt16(workspace, form7.Text1[4].Text));
   Store(program, "His_Num", AsInt16(workspace, form7.Combo1[kHistoryBox].Text));

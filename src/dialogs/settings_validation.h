@@ -12,7 +12,8 @@ inline constexpr char kInvalid[] = "NG";
 /// Checks language, characters and ranges of the loaded settings window, in this order, and sets
 /// `ValidationResult`. The first failure ends the checks: its box is emptied, or holds one blank after a
 /// character that is none of a number. Raises nothing.
-/// Kept: a number is looked for at the front of a whole number's box only, so "6000-1" passes.
+/// Kept: a number is looked for at the front of a whole number's box only, and ends at anything but a point.
+/// So "6000-1" passes, and where the decimal separator is a comma "24000,9", which is then written as 24001.
 void Validate(Program& program);
 
 }  // namespace veldrin

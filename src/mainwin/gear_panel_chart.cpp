@@ -35,10 +35,11 @@ void Picture9_DblClick(Program& program) {
 }  // namespace
 
 // "Request Mode" stands over the chart as long as requests are entered, also while the decision panel has put
-// another word in the place of the mode.
+// another word in the place of the mode. A list that was refused leaves no speeds behind, and nothing is
+// drawn.
 void RedrawChart(Program& program) {
   if (program.form2.Label38.Visible) {
-    ChartRequest(program);
+    if (program.workspace.SpeedRequest[1] != 0) ChartRequest(program);
   } else if (program.workspace.SpeedNow[1] != 0) {
     ChartPlan(program);
   }

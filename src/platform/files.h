@@ -14,6 +14,8 @@ struct PathRules {
   char separator = '\\';
   /// Characters of a root that stay when its separator is cut: 2 keeps "C:" of "C:\", 0 keeps nothing of "/".
   int rootLength = 2;
+  /// Whether two names that differ in case alone may be two files.
+  bool caseCounts = false;
 };
 
 /// A file being written. What was written stands under the file's name only after Close; a writer that is

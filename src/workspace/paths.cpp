@@ -32,4 +32,8 @@ std::string ParentFolder(const PathRules& rules, const std::string& folder) {
   return Length(parent) == rules.rootLength ? parent + rules.separator : parent;
 }
 
+std::string StoredFolder(const PathRules& rules, const std::string& folder) {
+  return rules.caseCounts ? folder : UpperCase(folder);
+}
+
 }  // namespace veldrin

@@ -28,4 +28,7 @@ bool IsRoot(const PathRules& rules, const std::string& folder);
 /// The folder around a folder that is no root; a root keeps its separator.
 std::string ParentFolder(const PathRules& rules, const std::string& folder);
 
+/// A folder as the settings keep it: in capitals, save where its capitals could name another one.
+std::string StoredFolder(const PathRules& rules, const std::string& folder);
+
 }  // namespace veldrin
