@@ -114,11 +114,16 @@ bool HasName(const Control& control) {
 }  // namespace
 
 QString AccessibleName(const Control& control) {
+  if (control.kind != ControlKind::Label && *control.look.spoken != '\0') return control.look.spoken;
   if (!HasName(control)) return {};
   QString name = OwnCaption(control).trimmed();
   if (name.isEmpty()) name = HeadOf(control);
   if (control.index != Control::kNoIndex) name += QStringLiteral(" %1").arg(control.index);
   return name.trimmed();
+}
+
+QString AccessibleDescription(const Control& control) {
+  return control.kind == ControlKind::Label ? control.look.spoken : QString();
 }
 
 }  // namespace veldrin

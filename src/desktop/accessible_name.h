@@ -10,7 +10,10 @@ namespace veldrin {
 /// The control's own caption, or else that of the label that heads it: beside it on the left, above, or close
 /// below. A row of a column of labels stands for the column's head. Elements of an array add their subscript,
 /// gears for the most part. A label's text and a window's title speak for themselves: no name, and so have
-/// panels.
+/// panels. What a window says of a control in place of a picture comes before all that.
 QString AccessibleName(const Control& control);
+
+/// What a label tells, where a picture heads it; empty for others.
+QString AccessibleDescription(const Control& control);
 
 }  // namespace veldrin

@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <cmath>
+
 namespace veldrin {
 
 ClientArea::ClientArea(Window& window, Stage& stage, QWidget* parent)
@@ -22,9 +24,10 @@ void ClientArea::TakeAll() {
 void ClientArea::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().color(QPalette::Window));
-  PaintWindowPicture(painter,
-                     {0, 0, stage_->zoom.Pixels(fullSize_.width()), stage_->zoom.Pixels(fullSize_.height())},
-                     window_);
+  // In whole pixels, as the window is.
+  const double width = std::round(stage_->zoom.Pixels(fullSize_.width()));
+  const double height = std::round(stage_->zoom.Pixels(fullSize_.height()));
+  PaintWindowPicture(painter, {0, 0, width, height}, window_);
 }
 
 }  // namespace veldrin

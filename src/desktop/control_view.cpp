@@ -39,6 +39,7 @@ void PlacedView::Prepare(QWidget& widget) {
   widget.setAttribute(Qt::WA_NoMousePropagation);
   widget.setObjectName(QString::fromStdString(control_->FullName()));
   widget.setAccessibleName(AccessibleName(*control_));
+  widget.setAccessibleDescription(AccessibleDescription(*control_));
 }
 
 void PlacedView::Take(std::string_view slot) {

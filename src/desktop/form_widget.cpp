@@ -16,6 +16,8 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <unordered_set>
+#include <utility>
 
 namespace veldrin {
 
@@ -107,14 +109,15 @@ void FormWidget::MakeMissingViews() {
     made.view->TakeAll();
   }
   known_ = window_->controls;
+  told_ = known_.size();
   ArrangeMenus();
 }
 
 /// A control that is gone may be inside one of its own events: its widget is deleted when that is over.
 void FormWidget::DropLostViews() {
+  const std::unordered_set<const Control*> there(window_->controls.begin(), window_->controls.end());
   for (auto entry = viewOf_.begin(); entry != viewOf_.end();) {
-    const auto& controls = window_->controls;
-    if (std::find(controls.begin(), controls.end(), entry->first) != controls.end()) {
+    if (there.count(entry->first) != 0) {
       ++entry;
       continue;
     }
@@ -179,7 +182,10 @@ void FormWidget::Take(Control& control, std::string_view slot) {
 
 void FormWidget::TakeContent(Control& control) {
   if (&control == window_) {
-    FollowControls();
+    // A control that is gone must not be looked at again. New ones come by the hundred, each told: they wait
+    // for the event's end.
+    const std::size_t count = window_->controls.size();
+    if (count < std::exchange(told_, count)) FollowControls();
     TakeFocus();
   } else if (ControlView* view = ViewOf(control)) {
     view->TakeContent();
@@ -188,6 +194,7 @@ void FormWidget::TakeContent(Control& control) {
 
 void FormWidget::Settle() {
   if (window_ == nullptr) return;
+  FollowControls();
   for (const Control* control : known_) {
     if (ControlView* view = ViewOf(*control)) view->Settle();
   }

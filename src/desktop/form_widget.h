@@ -13,6 +13,7 @@
 #include <QScrollArea>
 #include <QWidget>
 
+#include <cstddef>
 #include <memory>
 #include <unordered_map>
 
@@ -84,6 +85,7 @@ class FormWidget : public QWidget {
   std::unordered_map<const Control*, ControlView*> viewOf_;
   /// The controls that have been looked at, in the order of the screen.
   std::vector<Control*> known_;
+  std::size_t told_ = 0;  // how many controls there were when last told
   /// Views without a widget, also those of entries that are gone from a menu.
   std::vector<std::unique_ptr<ControlView>> owned_;
   QMenuBar* menuBar_ = nullptr;

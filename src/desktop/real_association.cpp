@@ -142,7 +142,8 @@ void TakeInEntries() {
 
 void AssociateOnDesktop(const QString& extension) {
   if (extension.isEmpty() || !HasDatabase()) return;
-  if (!WriteFile(PackageFile(extension), Package(extension)) || !WriteFile(DesktopFile(), Entry())) return;
+  // The package last: without the entry it would tie the files to nothing.
+  if (!WriteFile(DesktopFile(), Entry()) || !WriteFile(PackageFile(extension), Package(extension))) return;
   TakeInPackages();
   TakeInEntries();
   RunTool("xdg-mime", {"default", kDesktopEntry, kType});

@@ -73,8 +73,11 @@ ScreenFigures PrimaryScreen() {
   return {screen->size(), screen->devicePixelRatio()};
 }
 
+/// Logical pixels are rounded; screens have an even number of their own.
 int OwnPixels(int logical, double sharpness) {
-  return static_cast<int>(std::lround(logical * sharpness));
+  const double exact = logical * sharpness;
+  const bool whole = sharpness == std::floor(sharpness);
+  return static_cast<int>(whole ? std::lround(exact) : 2 * std::lround(exact / 2));
 }
 
 }  // namespace

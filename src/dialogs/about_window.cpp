@@ -2,6 +2,7 @@
 
 #include "dialogs/progress_meter.h"
 #include "runtime/conversion.h"
+#include "runtime/fault.h"
 #include "runtime/number_format.h"
 #include "view/bind.h"
 #include "workspace/paths.h"
@@ -166,13 +167,14 @@ void Picture_Roll_Click(Program& program) {
 
 // ---- The link ----
 
-/// The second browser is tried only where the first one's folder is missing. Where both fail there are
-/// neither of them, and the desktop is asked. Failures are silent.
+/// The second browser is tried only where the first one's folder is missing. Where neither is there the
+/// desktop is asked. Failures are silent.
 void Label3_Click(Program& program) {
   const std::string link = program.form10->Label3.Caption;
   Shell& shell = program.machine.shell;
-  if (Guarded([&] { shell.Run(kFirstBrowser + link); }) != kFaultPathNotFound) return;
-  if (Guarded([&] { shell.Run(kSecondBrowser + link); }) == 0) return;
+  int fault = Guarded([&] { shell.Run(kFirstBrowser + link); });
+  if (fault == kFaultPathNotFound) fault = Guarded([&] { shell.Run(kSecondBrowser + link); });
+  if (fault != kFaultPathNotFound && fault != kFaultFileNotFound) return;
   Guarded([&] { shell.OpenWithDesktop(link); });
 }
 

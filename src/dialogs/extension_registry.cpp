@@ -5,6 +5,7 @@
 #include "view/bind.h"
 #include "workspace/settings.h"
 
+#include <algorithm>
 #include <string>
 
 namespace veldrin {
@@ -88,11 +89,12 @@ void RemoveLastEntry(Program& program) {
 
 void BuildExtensionMenu(Program& program) {
   Workspace& workspace = program.workspace;
-  HideDesignedEntry(program);
   Guarded([&] {
     workspace.NumExtReg =
         Number(program, ReadSetting(program, RegistryRoot::CurrentUser, kSettingsKey, kCountValue));
   });
+  // There are no entries below the first, whatever a damaged store says.
+  workspace.NumExtReg = std::max<std::int16_t>(workspace.NumExtReg, 0);
   for (int slot = 1; slot <= workspace.NumExtReg; ++slot) {
     AddEntry(program, slot, RemovingCaption("." + ReadSlot(program, slot)));
     ++workspace.MenuRegCount;
@@ -214,10 +216,12 @@ void CloseGap(Program& program, int index) {
 }
 
 /// Kept: the extension is cut to three letters, so that of another length stays in the classes root and
-/// another key goes. `ExtSlot` and the slot numbers of extensions that move down stay as they were.
+/// another key goes. `ExtSlot` and the slot numbers of extensions that move down stay as they were. The
+/// desktop is told the whole extension.
 void RemoveExtension(Program& program, int index) {
   Workspace& workspace = program.workspace;
   const std::string extension = Left(program.form2.menu_reg[index].Caption.get(), 4);
+  const std::string onDesktop = ReadSlot(program, index);
   DeleteKey(program, RegistryRoot::CurrentUser, SlotKey(index));
   DeleteKey(program, RegistryRoot::ClassesRoot, extension);
   WriteCount(program, workspace.NumExtReg - 1);
@@ -227,7 +231,7 @@ void RemoveExtension(Program& program, int index) {
     CloseGap(program, index);
   }
   --workspace.NumExtReg;
-  program.machine.shell.DropExtension(Mid(extension, 2));
+  program.machine.shell.DropExtension(onDesktop);
   ShowInformation(program, extension + "はﾚｼﾞｽﾄﾘから削除されました");
 }
 

@@ -59,6 +59,7 @@ struct Look {
   bool transparent = false;  // a label that shows what is behind it
   bool visible = true;
   bool enabled = true;
+  const char* spoken = "";  // what a screen reader says of it, where a picture tells those who see
 };
 
 struct Control {

@@ -76,7 +76,7 @@ struct Form2 : Window {
   Picture    Picture13{"Picture13", *this,     { 120,    0, 4935,  975}, kPanel};
   Button     Command2 {"Command2",  Picture13, {  45,   60,  990,  375}, {.caption = "Mode"}};
   Button     Command3 {"Command3",  Picture13, {  45,  540,  990,  375}, {.caption = "Load"}};
-  Picture    Picture28{"Picture28", Picture13, {2160,  120,  720,  720}, {.border = true}};
+  Picture    Picture28{"Picture28", Picture13, {2160,  120,  720,  720}, {.border = true, .spoken = "Print"}};
   Label      Label5   {"Label5",    Picture13, {2895,  135,  735,  225}, Titled("Primary", kTitle)};
   Label      Label6   {"Label6",    Picture13, {3660,  105,  810,  300}, kRow};
   SpinButton Spin4    {"Spin4",     Picture13, {4515,   75,  300,  360}, kGreyArrows};
@@ -261,7 +261,7 @@ struct Form2 : Window {
   Menu menu_set       {"menu_set",        menu_opt,  "Set up(&S)"};
   Menu menu_dummy5    {"menu_dummy5",     menu_opt,  "-"};
   Menu menu_reg_title {"menu_reg_title",  menu_opt,  "Regist Extention"};
-  ControlArray<Menu> menu_reg{1, 1, Entries("menu_reg", menu_reg_title, {})};
+  ControlArray<Menu> menu_reg{1, 1, Entries("menu_reg", menu_reg_title, {}, kHidden)};
   // clang-format on
 };
 

@@ -37,6 +37,19 @@ TEST(AccessibleName, EveryControlOfTheMainWindowSaysWhatItIsFor) {
   }
 }
 
+TEST(AccessibleName, WhatPicturesTellIsSaid) {
+  SimulatedMachine simulated;
+  Program program(simulated.machine);
+  EXPECT_EQ(AccessibleName(program.form2.Picture28), "Print");
+  const Form10& form10 = program.form10.Load();
+  EXPECT_EQ(AccessibleName(form10.Picture_Close), "Close");
+  EXPECT_EQ(AccessibleName(form10.Picture_Roll), "Roll up or down");
+  EXPECT_EQ(AccessibleName(form10.Label_Ram), "") << "its text is its name";
+  EXPECT_EQ(AccessibleDescription(form10.Label_Ram), "Memory");
+  EXPECT_EQ(AccessibleDescription(form10.Label_HDD), "Free disk");
+  EXPECT_EQ(AccessibleDescription(form10.Picture_Close), "");
+}
+
 TEST(AccessibleName, BoxesOfTheSettingsAreNamedByTheirCaptions) {
   SimulatedMachine simulated;
   Desk desk(simulated.machine);

@@ -88,6 +88,7 @@ TEST_F(WindowsTest, MenusGrowAndShrinkInTheirOwnEvent) {
   entry.Caption = "C:\\A&B.nx4";
   entry.Visible = true;
   entry.Click.Bind([this](int) { form->menu_d.Unload(1); });
+  Settle();
   auto* view = dynamic_cast<MenuView*>(Widget().ViewOf(entry));
   ASSERT_NE(view, nullptr);
   EXPECT_EQ(view->Action().text(), "C:\\A&&B.nx4");

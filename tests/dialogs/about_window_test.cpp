@@ -114,8 +114,8 @@ TEST_F(AboutWindow, LinkGoesToTheSecondBrowserForAMissingFolderAlone) {
     std::size_t opened;
   };
   const Case cases[] = {
-      {0, 0, 1, 0},  {53, 0, 1, 0},  {5, 0, 1, 0},   {70, 0, 1, 0},
-      {76, 0, 2, 0}, {76, 53, 2, 1}, {76, 76, 2, 1}, {76, 5, 2, 1},
+      {0, 0, 1, 0},  {53, 0, 1, 1},  {5, 0, 1, 0},   {70, 0, 1, 0},
+      {76, 0, 2, 0}, {76, 53, 2, 1}, {76, 76, 2, 1}, {76, 5, 2, 0},
   };
   Form10& form10 = program.form10.Load();
   for (const Case& c : cases) {

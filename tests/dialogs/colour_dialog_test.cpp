@@ -1,7 +1,6 @@
 #include "dialogs/colour_dialog.h"
 
-#include "script/simulated_machine.h"
-#include "workspace/settings.h"
+#include "tests/dialogs/dialog_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -11,34 +10,14 @@
 namespace veldrin {
 namespace {
 
-struct RecordingRegistry : SimulatedRegistry {
-  std::vector<std::string> writes;
-
-  bool Write(RegistryRoot root, const std::string& key, const std::string& value,
-             const std::string& text) override {
-    EXPECT_EQ(root, RegistryRoot::CurrentUser);
-    EXPECT_EQ(key, kSettingsKey);
-    writes.push_back(value + "=" + text);
-    return SimulatedRegistry::Write(root, key, value, text);
-  }
-};
-
-struct ColourDialog : testing::Test {
-  SimulatedMachine simulated;
-  RecordingRegistry registry;
-  Machine machine{simulated.files,     registry,          simulated.profile,  simulated.environment,
-                  simulated.instances, simulated.screen,  simulated.windows,  simulated.boxes,
-                  simulated.metrics,   simulated.printer, simulated.pictures, simulated.shell,
-                  simulated.sound,     simulated.figures};
-  Program program{machine};
-
+/// The colour dialog before there is a plan, with a red of its own for each gear.
+struct ColourDialog : DialogFixture {
   ColourDialog() {
     AttachColourDialog(program);
     program.workspace.ModeWord = mode::kBasing;
     for (int gear = 1; gear <= kGears; ++gear) program.workspace.GearColour[gear] = Rgb(gear, 0, 0);
     program.form9.Load();
   }
-  ~ColourDialog() override { simulated.windows.Forget(); }
 };
 
 TEST_F(ColourDialog, OkStoresGearByGear) {
@@ -46,6 +25,50 @@ TEST_F(ColourDialog, OkStoresGearByGear) {
   EXPECT_EQ(registry.writes, (std::vector<std::string>{"Color_1=1", "Color_2=2", "Color_3=3", "Color_4=4",
                                                        "Color_5=5", "Color_6=6"}));
   EXPECT_FALSE(program.form9);
+}
+
+TEST_F(ColourDialog, EachGearIsShownAndStoredBeforeTheNext) {
+  Form2& form2 = program.form2;
+  const auto& colours = program.workspace.GearColour;
+  int gear = 0;
+  registry.onWrite = [&](const std::string& value) {
+    ++gear;
+    EXPECT_EQ(value, "Color_" + std::to_string(gear));
+    EXPECT_EQ(form2.Label1[gear].ForeColor, colours[gear]);
+    EXPECT_EQ(form2.Label44[gear].ForeColor, colours[gear]);
+    if (gear == kGears) return;
+    EXPECT_NE(form2.Label1[gear + 1].ForeColor.get(), colours[gear + 1]);
+  };
+  program.form9->Command2.Click();
+  EXPECT_EQ(gear, kGears);
+}
+
+TEST_F(ColourDialog, ChartIsDrawnOnceBeforeTheDialogGoes) {
+  Workspace& workspace = program.workspace;
+  workspace.ModeWord = mode::kChange;
+  workspace.ShiftNe = 12000;
+  workspace.ReferenceNe = 12000;
+  workspace.MaxNe = 15000;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    workspace.SpeedNow[gear] = 80.0F + 10.0F * static_cast<float>(gear);
+    workspace.SpeedBaseline[gear] = workspace.SpeedNow[gear];
+  }
+  const Picture& chart = program.form2.Picture21;
+  int wiped = 0;
+  windows.onContent = [&](const Control& control) {
+    if (&control == &chart && chart.surface.Drawing().empty()) ++wiped;
+  };
+  bool unloaded = false;
+  windows.onEvent["Form9.Unload"] = [&] {
+    unloaded = true;
+    // Six rays, six of the baseline, two upright lines and twelve lines of the saw-tooth.
+    ASSERT_EQ(chart.surface.Drawing().size(), 26U);
+    // 90 km/h at 12000 rev/min are 112.5 at 15000.
+    EXPECT_EQ(Describe(chart.surface.Drawing()[0]), "line 0 0 15000 112.5 1,0,0 style=0 width=1");
+  };
+  program.form9->Command2.Click();
+  EXPECT_TRUE(unloaded);
+  EXPECT_EQ(wiped, 1);
 }
 
 TEST_F(ColourDialog, StoreThatRefusesGoesUnnoticed) {

@@ -137,13 +137,13 @@ TEST_F(ExtensionRegistry, RemovalOfTheOnlyEntryDeletesItsSlotOnce) {
                                    "HKCU Software\\Tarn Ridge\\Veldrin NumExtReg=0"}));
 }
 
-// The extension that is dropped is the one that the classes root loses, cut or not.
-TEST_F(ExtensionRegistry, DropsTheExtensionAsItIsCut) {
+// The desktop was told the whole extension when it was tied, and is told it again.
+TEST_F(ExtensionRegistry, UntiesTheWholeExtensionWhereTheClassesRootLosesACutOne) {
   Start({"abcde"});
   LoadMachine("nx4");
   program.form2.menu_reg[1].Click();
   EXPECT_EQ(registry.deeds[1], "delete HKCR .abc");
-  EXPECT_EQ(shell.ties, Lines{"drop abc"});
+  EXPECT_EQ(shell.ties, Lines{"drop abcde"});
 }
 
 TEST_F(ExtensionRegistry, StoreThatRefusesGoesUnnoticed) {

@@ -1,8 +1,8 @@
 #include "dialogs/settings_dialog.h"
 
 #include "dialogs/settings_validation.h"
-#include "script/simulated_machine.h"
-#include "workspace/settings.h"
+#include "mainwin/main_window.h"
+#include "tests/dialogs/dialog_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -14,29 +14,8 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// A registry that keeps what was asked to be written.
-struct RecordingRegistry : SimulatedRegistry {
-  Lines writes;
-
-  bool Write(RegistryRoot root, const std::string& key, const std::string& value,
-             const std::string& text) override {
-    EXPECT_EQ(root, RegistryRoot::CurrentUser);
-    EXPECT_EQ(key, kSettingsKey);
-    writes.push_back(value + "=" + text);
-    return SimulatedRegistry::Write(root, key, value, text);
-  }
-};
-
 /// The settings window over a workspace with a value for everything it shows.
-struct SettingsDialog : testing::Test {
-  SimulatedMachine simulated;
-  RecordingRegistry registry;
-  Machine machine{simulated.files,     registry,          simulated.profile,  simulated.environment,
-                  simulated.instances, simulated.screen,  simulated.windows,  simulated.boxes,
-                  simulated.metrics,   simulated.printer, simulated.pictures, simulated.shell,
-                  simulated.sound,     simulated.figures};
-  Program program{machine};
-
+struct SettingsDialog : DialogFixture {
   SettingsDialog() {
     AttachSettingsDialog(program);
     Workspace& workspace = program.workspace;
@@ -55,7 +34,6 @@ struct SettingsDialog : testing::Test {
     workspace.DataPath = "C:\\VELDRIN\\DAT";
     program.form7.Load();
   }
-  ~SettingsDialog() override { simulated.windows.Forget(); }
 };
 
 TEST_F(SettingsDialog, WritesInItsOrder) {
@@ -71,7 +49,7 @@ TEST_F(SettingsDialog, WritesUpToTheTextThatIsNoNumber) {
   EXPECT_EQ(Guarded([&] { program.form7->SAVE.Click(); }), kFaultTypeMismatch);
   EXPECT_EQ(registry.writes, (Lines{"Tyre_L=1.9", "Check_Ne=10000", "Shift_Ne=13000", "List_File=NX4.RAT",
                                     "List_Path=C:\\VELDRIN\\LIST", "Data_Path=C:\\VELDRIN\\DAT"}));
-  EXPECT_TRUE(simulated.boxes.shown.empty());
+  EXPECT_TRUE(boxes.shown.empty());
   EXPECT_TRUE(program.form7);
 }
 
@@ -80,7 +58,7 @@ TEST_F(SettingsDialog, RefusedValueWritesNothing) {
   program.form7->SAVE.Click();
   EXPECT_TRUE(registry.writes.empty());
   EXPECT_EQ(simulated.log.beeps, 1);
-  EXPECT_TRUE(simulated.boxes.shown.empty());
+  EXPECT_TRUE(boxes.shown.empty());
   EXPECT_TRUE(program.form7);
 }
 
@@ -89,11 +67,82 @@ TEST_F(SettingsDialog, StoreThatRefusesGoesUnnoticed) {
   program.form7->SAVE.Click();
   EXPECT_EQ(registry.writes.size(), 12U);
   EXPECT_FALSE(registry.Read(RegistryRoot::CurrentUser, kSettingsKey, "Tyre_L"));
-  ASSERT_EQ(simulated.boxes.shown.size(), 1U);
-  EXPECT_EQ(simulated.boxes.shown[0].icon, "information");
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown[0].icon, "information");
   EXPECT_FALSE(program.form7);
   EXPECT_TRUE(program.form2.Visible);
   EXPECT_EQ(simulated.log.beeps, 0);
+}
+
+TEST_F(SettingsDialog, SavingShowsItsBoxBeforeTheWindowGoes) {
+  boxes.onMessage = [&] {
+    EXPECT_EQ(registry.writes.size(), 12U);
+    ASSERT_TRUE(program.form7);
+    EXPECT_TRUE(program.form7->SAVE.Enabled);
+    EXPECT_TRUE(program.form7->CANCEL.Enabled);
+    EXPECT_FALSE(program.form2.Visible);
+  };
+  bool unloaded = false;
+  windows.onEvent["Form7.Unload"] = [&] {
+    unloaded = true;
+    EXPECT_EQ(boxes.shown.size(), 1U);
+    EXPECT_FALSE(program.form7->SAVE.Enabled);
+    EXPECT_FALSE(program.form7->CANCEL.Enabled);
+    EXPECT_FALSE(program.form2.Visible);
+  };
+  program.form7->SAVE.Click();
+  EXPECT_EQ(boxes.shown.size(), 1U);
+  EXPECT_TRUE(unloaded);
+  EXPECT_TRUE(program.form2.Visible);
+}
+
+TEST_F(SettingsDialog, MainWindowHidesBeforeTheSettingsLoad) {
+  program.form7->CANCEL.Click();
+  EXPECT_TRUE(program.form2.Visible);
+  AttachMainWindow(program);
+  bool loaded = false;
+  windows.onEvent["Form7.Load"] = [&] {
+    loaded = true;
+    EXPECT_FALSE(program.form2.Visible);
+  };
+  program.form2.menu_set.Click();
+  EXPECT_TRUE(loaded);
+  ASSERT_TRUE(program.form7);
+  EXPECT_TRUE(program.form7->Visible);
+  EXPECT_FALSE(program.form2.Visible);
+}
+
+TEST_F(SettingsDialog, FilesAreListedBeforeTheirFolderShows) {
+  files.AddFolder("C:\\My Lists");
+  int changes = 0;
+  windows.onEvent["Form7.Label12(1).Change"] = [&] {
+    ++changes;
+    EXPECT_EQ(program.form7->File1.Path, "C:\\My Lists");
+  };
+  program.form7->Dir1.Path = "C:\\My Lists";
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(SettingsDialog, OnlyTheLanguageCanBeTyped) {
+  ControlArray<ComboBox>& combos = program.form7->Combo1;
+  EXPECT_TRUE(combos[0].editable);
+  for (const int index : {2, 3, 4}) EXPECT_FALSE(combos[index].editable) << index;
+}
+
+TEST_F(SettingsDialog, FoldersKeepTheirCaseWhereNamesDependOnIt) {
+  program.form7->CANCEL.Click();
+  files.caseCounts = true;
+  program.workspace.MachineName = "Rx250r";
+  program.workspace.ListPath = "C:\\Gone lists";
+  program.workspace.DataPath = "C:\\Gone data";
+  Form7& form7 = program.form7.Load();
+  EXPECT_EQ(form7.Label12[1].Caption, "C:\\Gone lists");
+  EXPECT_EQ(form7.Label13[1].Caption, "C:\\Gone data");
+  form7.SAVE.Click();
+  ASSERT_EQ(registry.writes.size(), 12U);
+  EXPECT_EQ(registry.writes[3], "List_File=RX250R.RAT");
+  EXPECT_EQ(registry.writes[4], "List_Path=C:\\Gone lists");
+  EXPECT_EQ(registry.writes[5], "Data_Path=C:\\Gone data");
 }
 
 TEST_F(SettingsDialog, FirstRunOfTheChecksForgetsTheWindowBefore) {
