@@ -11,6 +11,7 @@ namespace veldrin {
 namespace {
 
 constexpr double kSmallestShare = 0.72;
+constexpr double kLowestShare = 0.45;   // of a line that would be cut above or below
 constexpr double kWrapHeight = 2.2;     // of a room for two lines, in sizes of the font
 constexpr double kClosestLines = 1.15;  // from line to line, in sizes of the font
 
@@ -62,17 +63,28 @@ void DrawWrapped(QPainter& painter, const QRectF& room, QString text, QFont font
 
 /// A tight room is told by what the text itself has above and below the line, not by what its font could
 /// have.
-bool FitsOneLine(const QFont& font, const QSizeF& room, const QString& text) {
-  const QFontMetricsF metrics(font);
-  return metrics.horizontalAdvance(text) <= room.width() + 0.5 &&
-         metrics.tightBoundingRect(text).height() <= room.height() + 0.5;
+bool FitsHeight(const QFont& font, const QSizeF& room, const QString& text) {
+  return QFontMetricsF(font).tightBoundingRect(text).height() <= room.height() + 0.5;
 }
 
-void DrawOneLine(QPainter& painter, const QRectF& room, const QString& text, QFont font, int smallest,
-                 Qt::Alignment across) {
-  while (font.pixelSize() > smallest && !FitsOneLine(font, room.size(), text)) {
+bool FitsOneLine(const QFont& font, const QSizeF& room, const QString& text) {
+  return QFontMetricsF(font).horizontalAdvance(text) <= room.width() + 0.5 && FitsHeight(font, room, text);
+}
+
+/// The font made smaller as the room wants it: a width only so far, as a text can be cut short at its end, a
+/// height further, as a line that is cut along its length cannot be read.
+QFont FontForOneLine(QFont font, const QSizeF& room, const QString& text, int smallest) {
+  const int flattest = static_cast<int>(std::ceil(font.pixelSize() * kLowestShare));
+  while (font.pixelSize() > smallest && !FitsOneLine(font, room, text))
     font.setPixelSize(font.pixelSize() - 1);
-  }
+  while (font.pixelSize() > flattest && !FitsHeight(font, room, text))
+    font.setPixelSize(font.pixelSize() - 1);
+  return font;
+}
+
+void DrawOneLine(QPainter& painter, const QRectF& room, const QString& text, const QFont& asked, int smallest,
+                 Qt::Alignment across) {
+  const QFont font = FontForOneLine(asked, room.size(), text, smallest);
   painter.setFont(font);
   const QFontMetricsF metrics(font, painter.device());
   QString shown = text;

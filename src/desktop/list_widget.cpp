@@ -54,6 +54,34 @@ void ListView::Settle() {
   ShowPicked();
 }
 
+/// Only the left button picks.
+void ListView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) {
+    ControlWidget::mousePressEvent(event);
+  } else {
+    Pressed(*event);
+  }
+}
+
+/// A button that goes up beside the list has picked nothing, though the bar came along with the pointer.
+void ListView::mouseReleaseEvent(QMouseEvent* event) {
+  ControlWidget::mouseReleaseEvent(event);
+  StandByPicked();
+}
+
+/// Qt puts the bar on the first row of a list that comes into focus without one; nobody picked it.
+void ListView::focusInEvent(QFocusEvent* event) {
+  {
+    const Applying applying(*stage_);
+    ControlWidget::focusInEvent(event);
+  }
+  StandByPicked();
+}
+
+void ListView::StandByPicked() {
+  if (control_ != nullptr && !stale_) ShowPicked();
+}
+
 void ListView::PickAt(const QPoint& point) {
   if (const QListWidgetItem* item = itemAt(point)) {
     PickRow(row(item));
@@ -68,7 +96,7 @@ void FileListWidget::Take(std::string_view slot) {
   if (slot == "Path" || slot == "Pattern") {
     stale_ = true;
   } else if (slot == "ListIndex" || slot == "FileName") {
-    if (!stale_) ShowPicked();
+    StandByPicked();
   } else {
     ListView::Take(slot);
   }
@@ -96,12 +124,12 @@ void FileListWidget::PickRow(int row) {
   if (place >= Record().entries.size()) return;
   const std::string entry = Record().entries[place];
   Do([&, control = control_] { return user::SelectEntry(*control, entry); });
-  if (control_ != nullptr && !stale_) ShowPicked();
+  StandByPicked();
 }
 
 void FileListWidget::PickNothing() {
   Do([control = control_] { return ReleasePointer(*control, kLeftButton, true); });
-  if (control_ != nullptr && !stale_) ShowPicked();
+  StandByPicked();
 }
 
 bool FileListWidget::OpenAt(const QPoint& point) {
@@ -124,7 +152,7 @@ void FolderListWidget::Take(std::string_view slot) {
   if (slot == "Path") {
     stale_ = true;
   } else if (slot == "ListIndex") {
-    if (!stale_) ShowPicked();
+    StandByPicked();
   } else {
     ListView::Take(slot);
   }
@@ -171,7 +199,7 @@ void FolderListWidget::PickRow(int row) {
     const std::string path = paths_[static_cast<std::size_t>(row)];
     Do([&, control = control_] { return user::HighlightFolder(static_cast<FolderBox&>(*control), path); });
   }
-  if (control_ != nullptr && !stale_) ShowPicked();
+  StandByPicked();
 }
 
 bool FolderListWidget::OpenAt(const QPoint& point) {

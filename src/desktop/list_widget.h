@@ -18,12 +18,17 @@ class ListView : public ControlWidget<QListWidget> {
  protected:
   bool ClicksItself() const override { return false; }
   void PickAt(const QPoint& point) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
   virtual void Fill() = 0;
   virtual void ShowPicked() = 0;
   virtual void PickRow(int row) = 0;
   /// A click beside the rows.
   virtual void PickNothing() {}
+  /// The bar goes back to what is picked, wherever Qt moved it.
+  void StandByPicked();
 
   /// The rows are read anew behind the event: boxes are often pointed elsewhere in several steps.
   bool stale_ = true;

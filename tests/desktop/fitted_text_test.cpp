@@ -56,6 +56,12 @@ TEST(FittedText, WhatHangsBelowTheLineStaysInATightRoom) {
   EXPECT_TRUE(QRect(QPoint(0, 0), room).contains(ink)) << ink.top() << ".." << ink.bottom();
 }
 
+TEST(FittedText, ALowRoomMakesATextAsSmallAsItTakes) {
+  const QSize room(400, 20);
+  const QRect ink = InkOf("(x1000rpm)", room, Arial(37));
+  EXPECT_TRUE(QRect(QPoint(0, 0), room).contains(ink)) << ink.top() << ".." << ink.bottom();
+}
+
 TEST(FittedText, AWideTextIsDrawnSmallerBeforeItIsCut) {
   const QSize room(100, 24);
   const double whole = QFontMetricsF(Arial(20)).horizontalAdvance("Calcurate it");

@@ -1,0 +1,132 @@
+#include "desktop/list_widget.h"
+
+#include "desktop/desktop_windows.h"
+#include "script/simulated_machine.h"
+#include "workspace/program.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace veldrin {
+namespace {
+
+struct ListForm : Window {
+  explicit ListForm(Desk& theDesk)
+      : Window(theDesk, "Form91", {300, 450, 6120, 5190}, {.caption = "Lists"}, true) {}
+
+  FileBox File1{"File1", *this, {150, 150, 3000, 3000}, {.back = kWhite}};
+  Button Command1{"Command1", *this, {3600, 150, 1200, 375}, {.caption = "O K"}};
+};
+
+class ListWidgetTest : public ::testing::Test {
+ protected:
+  ListWidgetTest() {
+    for (const char* name : {"a.nx4", "b.nx4", "c.nx4"}) {
+      simulated.files.AddFile(std::string("C:\\VELDRIN\\DAT\\") + name, "");
+    }
+    stage.input.Serve(program.get());
+    form->LoadWindow();
+    form->File1.Path = "C:\\VELDRIN\\DAT";
+    form->File1.Click.Bind([this](int) { ++clicks; });
+    form->Show();
+    Widget().activateWindow();
+    windows.Settle();
+    QCoreApplication::processEvents();
+  }
+
+  ~ListWidgetTest() override {
+    stage.input.Serve(nullptr);
+    windows.Forget();
+    windows.Settle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  FormWidget& Widget() { return *windows.FormOf(*form); }
+  FileListWidget& List() { return dynamic_cast<FileListWidget&>(*Widget().ViewOf(form->File1)->Widget()); }
+
+  QPoint PointOf(int row) { return List().visualItemRect(List().item(row)).center(); }
+
+  void Mouse(QEvent::Type type, const QPoint& point, Qt::MouseButton button) {
+    QWidget& target = *List().viewport();
+    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
+    QMouseEvent event(type, point, target.mapToGlobal(point), button, held, Qt::NoModifier);
+    QApplication::sendEvent(&target, &event);
+  }
+
+  SimulatedMachine simulated;
+  Stage stage;
+  DesktopWindows windows{stage};
+  Machine machine{simulated.files,
+                  simulated.registry,
+                  simulated.profile,
+                  simulated.environment,
+                  simulated.instances,
+                  simulated.screen,
+                  windows,
+                  simulated.boxes,
+                  simulated.metrics,
+                  simulated.printer,
+                  simulated.pictures,
+                  simulated.shell,
+                  simulated.sound,
+                  simulated.figures};
+  std::unique_ptr<Program> program = std::make_unique<Program>(machine);
+  std::shared_ptr<ListForm> form = std::make_shared<ListForm>(program->desk);
+  int clicks = 0;
+};
+
+TEST_F(ListWidgetTest, AClickPicks) {
+  Mouse(QEvent::MouseButtonPress, PointOf(1), Qt::LeftButton);
+  Mouse(QEvent::MouseButtonRelease, PointOf(1), Qt::LeftButton);
+  EXPECT_EQ(form->File1.FileName.get(), "b.nx4");
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(List().currentRow(), 1);
+}
+
+TEST_F(ListWidgetTest, AListThatComesIntoFocusPicksNothingByItself) {
+  SetFocus(form->File1);
+  windows.Settle();
+  QFocusEvent event(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+  QApplication::sendEvent(&List(), &event);
+  EXPECT_EQ(form->File1.ListIndex.get(), -1);
+  EXPECT_EQ(List().currentRow(), -1);
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(ListWidgetTest, TheFirstKeyDownPicksTheFirstRow) {
+  SetFocus(form->File1);
+  windows.Settle();
+  QFocusEvent came(QEvent::FocusIn, Qt::TabFocusReason);
+  QApplication::sendEvent(&List(), &came);
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+  QApplication::sendEvent(&List(), &down);
+  EXPECT_EQ(form->File1.FileName.get(), "a.nx4");
+  EXPECT_EQ(List().currentRow(), 0);
+}
+
+TEST_F(ListWidgetTest, TheRightButtonLeavesTheBarOnWhatIsPicked) {
+  form->File1.ListIndex = 0;
+  windows.Settle();
+  Mouse(QEvent::MouseButtonPress, PointOf(2), Qt::RightButton);
+  Mouse(QEvent::MouseButtonRelease, PointOf(2), Qt::RightButton);
+  EXPECT_EQ(form->File1.FileName.get(), "a.nx4");
+  EXPECT_EQ(List().currentRow(), 0);
+}
+
+TEST_F(ListWidgetTest, AButtonThatGoesUpBesideTheListLeavesTheBarOnWhatIsPicked) {
+  form->File1.ListIndex = 0;
+  windows.Settle();
+  Mouse(QEvent::MouseButtonPress, PointOf(2), Qt::LeftButton);
+  Mouse(QEvent::MouseButtonRelease, QPoint(10, -400), Qt::LeftButton);
+  EXPECT_EQ(form->File1.FileName.get(), "a.nx4");
+  EXPECT_EQ(List().currentRow(), 0);
+  EXPECT_EQ(List().selectedItems().size(), 1);
+  EXPECT_EQ(List().row(List().selectedItems().front()), 0);
+}
+
+}  // namespace
+}  // namespace veldrin
