@@ -108,6 +108,7 @@ Shown PlacedView::WhatShows() const {
   shown.fore = ToColour(widget.palette().color(QPalette::Active, QPalette::WindowText));
   shown.back = ToColour(widget.palette().color(QPalette::Active, QPalette::Window));
   shown.place = widget.geometry();
+  shown.font = widget.font();
   return shown;
 }
 

@@ -8,6 +8,7 @@
 #include "desktop/stage.h"
 #include "view/user_input.h"
 
+#include <QFont>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QRect>
@@ -26,6 +27,7 @@ struct Shown {
   std::optional<std::string> text;
   std::optional<std::string> path;
   std::optional<std::vector<std::string>> entries;
+  std::optional<std::vector<std::string>> cells;  // row by row
   std::optional<bool> visible;
   std::optional<bool> enabled;
   std::optional<bool> chosen;
@@ -34,6 +36,7 @@ struct Shown {
   std::optional<Colour> fore;
   std::optional<Colour> back;
   std::optional<QRect> place;
+  std::optional<QFont> font;
 };
 
 class ControlView {

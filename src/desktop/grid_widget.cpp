@@ -71,6 +71,18 @@ void GridWidget::Settle() {
   TakeSizes();
 }
 
+Shown GridWidget::WhatShows() const {
+  Shown shown = ControlWidget::WhatShows();
+  shown.cells.emplace();
+  for (int row = 0; row < rowCount(); ++row) {
+    for (int column = 0; column < columnCount(); ++column) {
+      const QTableWidgetItem* cell = item(row, column);
+      shown.cells->push_back(cell == nullptr ? "" : ToSlotText(cell->text()));
+    }
+  }
+  return shown;
+}
+
 void GridWidget::TakeCells() {
   const Grid& grid = Record();
   setRowCount(std::max(0, grid.Rows.get()));

@@ -15,6 +15,7 @@ class GridWidget : public ControlWidget<QTableWidget> {
   void TakeContent() override { stale_ = true; }
   void Rescale() override;
   void Settle() override;
+  Shown WhatShows() const override;
 
  protected:
   bool ClicksItself() const override { return false; }

@@ -1,5 +1,7 @@
 #include "desktop/menu_view.h"
 
+#include "desktop/text_ends.h"
+
 namespace veldrin {
 
 namespace {
@@ -25,9 +27,8 @@ QMenu& MenuView::Submenu() {
 
 void MenuView::Take(std::string_view slot) {
   if (slot == "Caption") {
-    const bool separator = Record().Caption == kSeparatorCaption;
-    action_->setText(separator ? QString() : MenuText(Record().Caption));  // a text would stand in the line
-    action_->setSeparator(separator);
+    action_->setText(MenuText(Record().Caption));
+    action_->setSeparator(Record().Caption == kSeparatorCaption);
   } else if (slot == "Visible") {
     action_->setVisible(Record().Visible);
   } else if (slot == "Enabled") {
@@ -37,12 +38,14 @@ void MenuView::Take(std::string_view slot) {
 
 Shown MenuView::WhatShows() const {
   Shown shown;
+  shown.text = ToSlotText(action_->text());
   shown.visible = action_->isVisible();
   if (action_->isVisible()) shown.enabled = action_->isEnabled();  // Qt counts hidden ones as off
   return shown;
 }
 
 QString MenuText(const std::string& caption) {
+  if (caption == kSeparatorCaption) return {};  // a text would stand in the line
   const QString plain = QString::fromStdString(caption);
   QString text;
   for (int i = 0; i < plain.size(); ++i) {

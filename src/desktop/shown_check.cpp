@@ -1,5 +1,6 @@
 #include "desktop/shown_check.h"
 
+#include "desktop/fonts.h"
 #include "desktop/menu_view.h"
 #include "desktop/placement.h"
 #include "desktop/text_ends.h"
@@ -44,6 +45,21 @@ std::string Joined(const std::vector<std::string>& entries) {
   return text;
 }
 
+/// The cells of a grid, row by row.
+std::vector<std::string> CellsOf(const Control& control) {
+  const auto& grid = static_cast<const Grid&>(control);
+  std::vector<std::string> cells;
+  for (int row = 0; row < grid.Rows; ++row) {
+    for (int column = 0; column < grid.Cols; ++column) cells.push_back(grid.Cell(row, column));
+  }
+  return cells;
+}
+
+std::string FontText(const QFont& font) {
+  return font.family().toStdString() + " " + std::to_string(font.pixelSize()) + (font.bold() ? " bold" : "") +
+         (font.italic() ? " italic" : "");
+}
+
 class Checker {
  public:
   Checker(const Control& control, std::vector<Mismatch>& found) : control_(control), found_(found) {}
@@ -62,6 +78,10 @@ class Checker {
     if (*shown != wanted) Tell(name, wanted, *shown);
   }
 
+  void CompareShown(const char* name, const std::string& wanted, const std::string& shown) {
+    if (shown != wanted) Tell(name, wanted, shown);
+  }
+
   void Tell(const std::string& name, const std::string& slot, const std::string& shown) {
     found_.push_back({control_.FullName() + "." + name, slot, shown});
   }
@@ -75,7 +95,12 @@ void CheckControl(const Control& control, const ControlView& view, const Stage& 
                   std::vector<Mismatch>& found) {
   const Shown shown = view.WhatShows();
   Checker checker(control, found);
-  checker.CompareText("Caption", shown.text);
+  if (control.kind == ControlKind::Menu) {
+    checker.CompareShown("Caption", ToSlotText(MenuText(static_cast<const Menu&>(control).Caption)),
+                         *shown.text);
+  } else {
+    checker.CompareText("Caption", shown.text);
+  }
   checker.CompareText("Text", shown.text);
   checker.CompareText("Drive", shown.text);
   checker.CompareText("Path", shown.path);
@@ -86,6 +111,11 @@ void CheckControl(const Control& control, const ControlView& view, const Stage& 
   checker.Compare<int>("ListIndex", shown.listIndex);
   if (shown.entries && *shown.entries != *EntriesOf(control)) {
     checker.Tell("List", Joined(*EntriesOf(control)), Joined(*shown.entries));
+  }
+  if (shown.cells) checker.CompareShown("Cell", Joined(CellsOf(control)), Joined(*shown.cells));
+  if (shown.font) {
+    const QFont wanted = FontFor(static_cast<const PlacedControl&>(control), stage.zoom.Factor());
+    checker.CompareShown("Font", FontText(wanted), FontText(*shown.font));
   }
   if (control.kind == ControlKind::OptionButton) checker.Compare<bool>("Value", shown.chosen);
   if (control.kind == ControlKind::ScrollBar) checker.Compare<int>("Value", shown.value);
@@ -114,6 +144,10 @@ void CheckOrder(const FormWidget& form, const Control& parent, const QWidget& ar
                        "another place among the widgets"});
       return;
     }
+  }
+  if (place > 0) {
+    const Control& lost = *dynamic_cast<const ControlView*>(wanted[place - 1])->Shows();
+    found.push_back({lost.FullName() + ".ZOrder", std::to_string(lost.ZOrder()), "not among the widgets"});
   }
 }
 
