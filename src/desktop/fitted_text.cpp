@@ -43,12 +43,12 @@ bool FitsWrapped(const QTextLayout& layout, const QSizeF& room) {
   return Pitch(layout, room.height()) * layout.lineCount() <= room.height() + 0.5;
 }
 
-void DrawWrapped(QPainter& painter, const QRectF& room, QString text, QFont font, int smallest,
+bool DrawWrapped(QPainter& painter, const QRectF& room, QString text, QFont font, int smallest,
                  Qt::Alignment across) {
   text.replace('\n', QChar::LineSeparator);
   for (;; font.setPixelSize(font.pixelSize() - 1)) {
     QTextLayout layout(text, font, painter.device());
-    if (Break(layout, room.width(), across) == 0) return;
+    if (Break(layout, room.width(), across) == 0) return true;
     if (font.pixelSize() > smallest && !FitsWrapped(layout, room.size())) continue;
     const double pitch = Pitch(layout, room.height());
     const double top = std::max(0.0, (room.height() - pitch * layout.lineCount()) / 2);
@@ -57,7 +57,7 @@ void DrawWrapped(QPainter& painter, const QRectF& room, QString text, QFont font
       line.setPosition(QPointF(0, top + pitch * i + (pitch - line.height()) / 2));
     }
     layout.draw(&painter, room.topLeft());
-    return;
+    return FitsWrapped(layout, room.size());
   }
 }
 
@@ -82,14 +82,18 @@ QFont FontForOneLine(QFont font, const QSizeF& room, const QString& text, int sm
   return font;
 }
 
-void DrawOneLine(QPainter& painter, const QRectF& room, const QString& text, const QFont& asked, int smallest,
+bool IsPath(const QString& text) {
+  return text.contains('/') || text.contains('\\');
+}
+
+bool DrawOneLine(QPainter& painter, const QRectF& room, const QString& text, const QFont& asked, int smallest,
                  Qt::Alignment across) {
   const QFont font = FontForOneLine(asked, room.size(), text, smallest);
   painter.setFont(font);
   const QFontMetricsF metrics(font, painter.device());
   QString shown = text;
   if (metrics.horizontalAdvance(text) > room.width() + 1) {
-    shown = metrics.elidedText(text, Qt::ElideRight, room.width() + 1);
+    shown = metrics.elidedText(text, IsPath(text) ? Qt::ElideMiddle : Qt::ElideRight, room.width() + 1);
   }
   // The font's lines stand in the middle, so that texts beside each other share theirs; in a tight room the
   // text moves as far as keeps it whole.
@@ -100,20 +104,18 @@ void DrawOneLine(QPainter& painter, const QRectF& room, const QString& text, con
   const double above = std::max(highest, std::min(line, lowest)) - metrics.ascent();
   painter.drawText(QRectF(room.left(), above, room.width(), metrics.height()),
                    across | Qt::AlignTop | Qt::TextSingleLine | Qt::TextDontClip, shown);
+  return shown == text;
 }
 
 }  // namespace
 
-void DrawFitted(QPainter& painter, const QRectF& room, const QString& text, const QFont& font,
+bool DrawFitted(QPainter& painter, const QRectF& room, const QString& text, const QFont& font,
                 Qt::Alignment align) {
   const Qt::Alignment across = align & Qt::AlignHorizontal_Mask;
   const int smallest = static_cast<int>(std::ceil(font.pixelSize() * kSmallestShare));
   const bool wraps = room.height() >= font.pixelSize() * kWrapHeight;
-  if (wraps) {
-    DrawWrapped(painter, room, text, font, smallest, across);
-  } else {
-    DrawOneLine(painter, room, text, font, smallest, across);
-  }
+  return wraps ? DrawWrapped(painter, room, text, font, smallest, across)
+               : DrawOneLine(painter, room, text, font, smallest, across);
 }
 
 QString WithoutMarks(const QString& caption) {

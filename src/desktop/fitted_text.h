@@ -9,8 +9,9 @@
 namespace veldrin {
 
 /// Draws a text within `room`, in the middle of its height. A room as high as two lines wraps at words. What
-/// is too wide or too high is drawn smaller, and cut short with an ellipsis where that does not do.
-void DrawFitted(QPainter& painter, const QRectF& room, const QString& text, const QFont& font,
+/// is too wide or too high is drawn smaller, and cut short with an ellipsis where that does not do; a path is
+/// cut in its middle, as its end tells most. Whether the text stands there whole.
+bool DrawFitted(QPainter& painter, const QRectF& room, const QString& text, const QFont& font,
                 Qt::Alignment align);
 
 /// The text of a caption whose "&" marks a key, as it reads.

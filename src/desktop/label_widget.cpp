@@ -5,7 +5,9 @@
 #include "desktop/placement.h"
 #include "desktop/text_ends.h"
 
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <cmath>
 
@@ -68,7 +70,16 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   // A pixel between text and edge, where the label is not as wide as its text on purpose.
   const double margin = border + factor;
   painter.setPen(TextColour());
-  DrawFitted(painter, QRectF(rect()).adjusted(margin, border, -margin, -border), text(), font(), alignment());
+  const QRectF room = QRectF(rect()).adjusted(margin, border, -margin, -border);
+  isWhole_ = DrawFitted(painter, room, text(), font(), alignment());
+}
+
+/// A text that is cut short is told in full where the pointer rests on it.
+bool LabelWidget::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return ControlWidget::event(event);
+  const auto& help = static_cast<const QHelpEvent&>(*event);
+  QToolTip::showText(help.globalPos(), isWhole_ ? QString() : text(), this);
+  return true;
 }
 
 }  // namespace veldrin

@@ -16,12 +16,14 @@ class LabelWidget : public ControlWidget<QLabel> {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   const Label& Record() const { return static_cast<const Label&>(*control_); }
   QColor TextColour() const;
 
   const Look look_;
+  bool isWhole_ = true;  // whether the text was painted uncut
 };
 
 }  // namespace veldrin

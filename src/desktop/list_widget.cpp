@@ -3,8 +3,10 @@
 #include "desktop/pointer_gestures.h"
 #include "desktop/text_ends.h"
 
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QStyle>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -76,6 +78,16 @@ void ListView::focusInEvent(QFocusEvent* event) {
     ControlWidget::focusInEvent(event);
   }
   StandByPicked();
+}
+
+/// A name that is cut short is told in full where the pointer rests on it.
+bool ListView::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return ControlWidget::viewportEvent(event);
+  const auto& help = static_cast<const QHelpEvent&>(*event);
+  const QModelIndex row = indexAt(help.pos());
+  const bool cut = row.isValid() && sizeHintForIndex(row).width() > viewport()->width();
+  QToolTip::showText(help.globalPos(), cut ? row.data().toString().trimmed() : QString(), viewport());
+  return true;
 }
 
 void ListView::StandByPicked() {

@@ -21,6 +21,7 @@ class ListView : public ControlWidget<QListWidget> {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
 
   virtual void Fill() = 0;
   virtual void ShowPicked() = 0;

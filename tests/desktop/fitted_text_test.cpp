@@ -77,6 +77,26 @@ TEST(FittedText, ATextFarTooWideIsCutWithinItsRoom) {
   EXPECT_LE(ink.right(), room.width() + 1);
 }
 
+TEST(FittedText, WhatIsCutIsToldAndAPathKeepsItsEnd) {
+  QImage image(120, 24, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  const QRectF room(0, 0, 120, 24);
+  EXPECT_TRUE(DrawFitted(painter, room, "/home/anna", Arial(14), Qt::AlignLeft));
+  EXPECT_FALSE(
+      DrawFitted(painter, room, "Wet race, tyres of Friday, long straight", Arial(14), Qt::AlignLeft));
+  painter.end();
+  const auto picture = [&](const QString& text) {
+    QImage drawn(120, 24, QImage::Format_RGB32);
+    drawn.fill(Qt::white);
+    QPainter own(&drawn);
+    EXPECT_FALSE(DrawFitted(own, room, text, Arial(14), Qt::AlignLeft));
+    return drawn;
+  };
+  const QString begin = "/home/anna/veldrin/plans/2026/suzuka/";
+  EXPECT_NE(picture(begin + "RAIN"), picture(begin + "DRY1")) << "the end of a path is what is cut";
+}
+
 TEST(FittedText, TwoJapaneseLinesKeepTheirSizeInARoomForTwo) {
   // Thirteen letters' width, blanks among them, and then the second half: each half on a line of its own.
   const QFont font = Arial(18);
