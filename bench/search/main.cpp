@@ -3,9 +3,9 @@
 //
 // Prints the best of several rounds in microseconds, and how many times faster the search is. Exit status 1
 // when the two disagree.
-#include "../../tests/calc/plain_search.h"
-#include "../../tests/calc/search_tables.h"
 #include "calc/plan_search.h"
+#include "tests/calc/plain_search.h"
+#include "tests/calc/search_tables.h"
 
 #include <algorithm>
 #include <chrono>

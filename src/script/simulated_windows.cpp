@@ -3,6 +3,7 @@
 #include "script/printed_values.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <ostream>
 #include <string>
 #include <variant>
@@ -11,11 +12,23 @@ namespace veldrin {
 
 namespace {
 
+/// The value of an element of a grid, by a name such as "Cell(0,1)" or "ColWidth(1)".
+std::string TracedElement(const Grid& grid, const char* name) {
+  int row = 0;
+  int column = 0;
+  if (std::sscanf(name, "Cell(%d,%d)", &row, &column) == 2) return Printed(Quoted(grid.Cell(row, column)));
+  if (std::sscanf(name, "ColWidth(%d)", &column) == 1) return ValueText(grid.ColWidth(column));
+  return "";
+}
+
 /// The value that a trace tells of a slot; empty for what is no slot to be asked for.
 std::string TracedValue(const Control& control, const char* name) {
   if (const AnySlot* const slot = control.FindSlot(name)) {
     const std::string text = SlotText(control, *slot);
     return std::holds_alternative<Slot<std::string>*>(*slot) ? Printed(Quoted(text)) : text;
+  }
+  if (control.kind == ControlKind::Grid && std::string_view(name) != "ZOrder") {
+    return TracedElement(static_cast<const Grid&>(control), name);
   }
   const bool isPlaceAmongSiblings = std::string_view(name) == "ZOrder" && control.kind != ControlKind::Window;
   return isPlaceAmongSiblings ? ValueText(control.ZOrder()) : "";

@@ -100,7 +100,7 @@ template <class T>
 typename ControlArray<T>::Maker Elements(const char* name, Control& parent,
                                          std::function<Place(int index)> place, const Look& look = {},
                                          std::vector<const char*> captions = {}) {
-  return [=, &parent](int index) {
+  return [name, &parent, place = std::move(place), look, captions = std::move(captions)](int index) {
     Look own = look;
     if (index >= 0 && index < static_cast<int>(captions.size())) {
       own.caption = captions[static_cast<std::size_t>(index)];

@@ -310,9 +310,9 @@ const std::string& Grid::Cell(int cellRow, int cellColumn) const {
 }
 
 void Grid::SetCell(int cellRow, int cellColumn, const std::string& text) {
-  Cell(cellRow, cellColumn);
+  const bool changed = Cell(cellRow, cellColumn) != text;
   cells_[static_cast<std::size_t>(cellRow)][static_cast<std::size_t>(cellColumn)] = text;
-  window.desk.machine.windows.ContentChanged(*this);
+  TellElementWritten("Cell", std::to_string(cellRow) + "," + std::to_string(cellColumn), changed);
 }
 
 float Grid::ColWidth(int cellColumn) const {
@@ -321,8 +321,13 @@ float Grid::ColWidth(int cellColumn) const {
 }
 
 void Grid::SetColWidth(int cellColumn, float width) {
-  ColWidth(cellColumn);
+  const bool changed = ColWidth(cellColumn) != width;
   widths_[static_cast<std::size_t>(cellColumn)] = width;
+  TellElementWritten("ColWidth", std::to_string(cellColumn), changed);
+}
+
+void Grid::TellElementWritten(const char* slot, const std::string& element, bool changed) {
+  TellWritten(*this, (slot + ("(" + element + ")")).c_str(), changed);
   window.desk.machine.windows.ContentChanged(*this);
 }
 

@@ -184,6 +184,9 @@ struct Grid : PlacedControl {
   void Shape();
 
  private:
+  /// Tells the front end of a cell or a column's width.
+  void TellElementWritten(const char* slot, const std::string& element, bool changed);
+
   std::vector<std::vector<std::string>> cells_;
   std::vector<float> widths_;
 };

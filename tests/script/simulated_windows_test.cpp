@@ -19,6 +19,7 @@ struct SampleForm : Window {
   ControlArray<Label> Label9{1, 2, Elements<Label>("Label9", *this, GearColumn(0, 100, 100))};
   Picture Picture1{"Picture1", *this, {0, 0, 100, 100}};
   TextBox Text6{"Text6", *this, {0, 0, 100, 100}};
+  Grid Grid1{"Grid1", *this, {0, 0, 100, 100}};
 };
 
 struct SimulatedWindowsTest : testing::Test {
@@ -62,6 +63,15 @@ TEST_F(SimulatedWindowsTest, TraceTellsEveryWriteAndEvent) {
             "write Form2.Picture1.Visible False\nwrite Form2.Picture1.Image 2004\n");
   form.Label9[2].BringToFront();
   EXPECT_EQ(Traced(), "write Form2.Label9(2).ZOrder 0\n");
+}
+
+TEST_F(SimulatedWindowsTest, TraceTellsTheCellsOfAGrid) {
+  form.Grid1.Rows = 2;
+  form.Grid1.Cols = 2;
+  simulated.windows.trace = &trace;
+  form.Grid1.SetCell(1, 0, "19-63");
+  form.Grid1.SetColWidth(1, 435);
+  EXPECT_EQ(Traced(), "write Form2.Grid1.Cell(1,0) \"19-63\"\nwrite Form2.Grid1.ColWidth(1) 435\n");
 }
 
 TEST_F(SimulatedWindowsTest, TraceNamesAWindowByItself) {
