@@ -1,7 +1,9 @@
 #include "desktop/desktop_program.h"
 
 #include "desktop/dropped_file.h"
+#include "desktop/real_leftovers.h"
 #include "program/assemble.h"
+#include "program/event_boundary.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "workspace/settings.h"
@@ -22,6 +24,11 @@ constexpr int kPrepareAfter = 20;  // ms
 
 }  // namespace
 
+void ProgramWindows::EventFired(Control& control, const Event& event) {
+  DesktopWindows::EventFired(control, event);
+  if (eventComes) eventComes(event);
+}
+
 DesktopProgram::DesktopProgram() {
   TakeStoredZoom();
   stage.zoom.changed = [this, rescale = std::exchange(stage.zoom.changed, {})] {
@@ -31,6 +38,10 @@ DesktopProgram::DesktopProgram() {
   // What an event behind a box threw goes on where the box was asked for.
   machine.boxes.closed = [this] { stage.input.RethrowCaught(); };
   program = AssembleProgram(machine.machine);
+  windows.eventComes = [this](const Event& event) {
+    if (&event != &program->form2.Unload) return;
+    DeleteLeftovers(machine.files, machine.instances, machine.environment.Variable("TEMP"));
+  };
   stage.input.Serve(program.get());
   stage.input.ended = [] { QCoreApplication::exit(); };
   stage.fileDropped = [this](const std::string& path) {
@@ -40,8 +51,8 @@ DesktopProgram::DesktopProgram() {
       return true;
     });
   };
-  QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
-                   [this](QSessionManager& session) { EndSession(session); });
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &listener_,
+                   [this](QSessionManager& session) { CommitSession(session); });
 }
 
 DesktopProgram::~DesktopProgram() {
@@ -61,32 +72,71 @@ void DesktopProgram::TakeStoredZoom() {
     factor = FittingZoom(room.width(), room.height());
   }
   stage.zoom.Set(factor);
+  TakeZoom();
+}
+
+void DesktopProgram::TakeZoom() {
   machine.screen.zoom = stage.zoom.Factor();
+  machine.boxes.SetZoom(stage.zoom.Factor());
 }
 
 void DesktopProgram::ZoomChanged() {
-  machine.screen.zoom = stage.zoom.Factor();
+  TakeZoom();
   machine.registry.Write(RegistryRoot::CurrentUser, kSettingsKey, kZoomSetting,
                          ShortestText(stage.zoom.Factor() * kPercent));
 }
 
-/// The main window may refuse while there are unsaved changes; it asks, and the session waits for it.
-void DesktopProgram::EndSession(QSessionManager& session) {
-  if (program->ended || !program->form2.loaded) return;
+void DesktopProgram::CommitSession(QSessionManager& session) {
   const bool mayAsk = session.allowsInteraction();
-  stage.input.Do([&] { return user::Close(program->form2, CloseReason::SessionEnd); });
-  if (!program->ended && mayAsk) session.cancel();
+  const bool mayEnd = EndSession(mayAsk);
+  if (!mayEnd) session.cancel();
   if (mayAsk) session.release();
 }
 
+bool DesktopProgram::EndSession(bool mayAsk) {
+  if (program->ended || !program->form2.loaded) return true;
+  if (!mayAsk) {
+    EndAtOnce();
+  } else {
+    stage.input.Do([this] { return user::Close(program->form2, CloseReason::SessionEnd); });
+  }
+  return program->ended;
+}
+
+void DesktopProgram::EndAtOnce() {
+  stage.input.Do([this] {
+    CloseUnasked();
+    return true;
+  });
+  // Also from the box of a fault that has ended the program already.
+  QCoreApplication::exit();
+}
+
+void DesktopProgram::LeaveTidy() {
+  try {
+    RunEvent(*program, [this] { CloseUnasked(); });
+  } catch (const EndOfProgram&) {
+    // Nobody goes on with the event around this one.
+  }
+}
+
+void DesktopProgram::CloseUnasked() {
+  Workspace& workspace = program->workspace;
+  workspace.QuickQuit = kYesWord;
+  user::Close(program->form2, CloseReason::SessionEnd);
+  // Without its main window the program knows neither a history nor a place yet.
+  Guarded([&] { machine.files.Delete(workspace.WorkFile); });
+  throw EndOfProgram{};
+}
+
 int DesktopProgram::Run(const std::string& commandLine) {
-  QTimer::singleShot(0, qApp, [&] {
+  QTimer::singleShot(0, &listener_, [&] {
     StartProgram(*program, commandLine);
     windows.Settle();
     if (program->ended) QCoreApplication::exit();
   });
   // The splash window is on the screen by then and waits for nothing; the main window is the largest.
-  QTimer::singleShot(kPrepareAfter, qApp, [&] {
+  QTimer::singleShot(kPrepareAfter, &listener_, [this] {
     if (!program->ended) windows.Prepare(program->form2);
   });
   QApplication::exec();

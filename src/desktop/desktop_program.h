@@ -3,16 +3,29 @@
 
 #include "desktop/desktop_windows.h"
 #include "desktop/font_metrics.h"
+#include "desktop/real_end_signals.h"
 #include "desktop/real_machine.h"
 #include "desktop/stage.h"
 #include "workspace/program.h"
 
+#include <QObject>
 #include <QSessionManager>
 
+#include <functional>
 #include <memory>
 #include <string>
 
 namespace veldrin {
+
+/// The windows, and a word before the main window's last event, from whatever side it comes.
+class ProgramWindows : public DesktopWindows {
+ public:
+  using DesktopWindows::DesktopWindows;
+
+  void EventFired(Control& control, const Event& event) override;
+
+  std::function<void(const Event& event)> eventComes;
+};
 
 /// Needs a QApplication. The zoom is the one that the user left, at first the one that fits the screen.
 class DesktopProgram {
@@ -26,16 +39,31 @@ class DesktopProgram {
   /// 1 when a fault ended it.
   int Run(const std::string& commandLine);
 
+  /// Closes the main window at the session's end. It may refuse while there are unsaved changes, and asks;
+  /// where nobody can be asked it ends as EndAtOnce does. Returns whether the session may end.
+  bool EndSession(bool mayAsk);
+  /// Ends the program as the main window's end does, but without a question: unsaved changes are lost, the
+  /// history and the window's place are stored, the working file goes.
+  void EndAtOnce();
+  /// The same for a process that is about to end by itself and whose windows are gone already.
+  void LeaveTidy();
+
   Stage stage;
-  DesktopWindows windows{stage};
+  ProgramWindows windows{stage};
   FontMetrics metrics;
   RealMachine machine{windows, metrics};
   std::unique_ptr<Program> program;
 
  private:
   void TakeStoredZoom();
+  void TakeZoom();
   void ZoomChanged();
-  void EndSession(QSessionManager& session);
+  void CommitSession(QSessionManager& session);
+  /// The last event of the program; ends it.
+  void CloseUnasked();
+
+  QObject listener_;  // what would be told to the program is not told any more when it is gone
+  EndSignals signals_{[this] { EndAtOnce(); }};
 };
 
 }  // namespace veldrin

@@ -1,15 +1,19 @@
 // veldrin [FILE]: the program on the desktop. FILE is a machine list or a plan.
 #include "desktop/desktop_program.h"
 #include "desktop/look.h"
+#include "desktop/real_command_line.h"
+#include "desktop/real_display.h"
 #include "desktop/real_program_folder.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -23,18 +27,22 @@ constexpr char kHelp[] =
     "\n"
     "VELDRIN_HOME names the program's folder, with LIST and DAT in it.\n";
 
-/// Qt's own words for a display that cannot be opened are many; one line does, and no core is left.
+/// The program that is running; Qt's messages come without saying whose they are.
+veldrin::DesktopProgram* running = nullptr;
+
+/// Qt's own words for a display that cannot be opened are many; one line does, and no core is left. Where the
+/// display goes away Qt ends the process: it is the last that is heard of it.
 void TellWithoutCore(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
   if (type == QtFatalMsg) {
     std::fprintf(stderr, "veldrin: the display cannot be opened; DISPLAY or WAYLAND_DISPLAY must name one\n");
     std::_Exit(EXIT_FAILURE);
   }
+  if (running != nullptr && veldrin::TellsLostDisplay(message)) {
+    std::exchange(running, nullptr)->LeaveTidy();
+    std::fprintf(stderr, "veldrin: the display is gone; what was not saved is lost\n");
+    return;
+  }
   if (type == QtCriticalMsg) std::fprintf(stderr, "veldrin: %s\n", qPrintable(message));
-}
-
-/// The path as the program takes it, whole: the program goes into its own folder before it reads it.
-std::string WholePath(const QString& argument) {
-  return QDir::toNativeSeparators(QFileInfo(argument).absoluteFilePath()).toStdString();
 }
 
 }  // namespace
@@ -52,13 +60,17 @@ int main(int count, char** arguments) {
   qInstallMessageHandler(TellWithoutCore);
   QApplication application(count, arguments);
   veldrin::SetUpLook(application);
-  const QStringList rest = QApplication::arguments().mid(1);
-  if (rest.size() > 1) {
+  const std::vector<std::string> words = veldrin::CommandLineWords(count, arguments);
+  if (words.size() > 1) {
     std::fputs(kHelp, stderr);
     return EXIT_FAILURE;
   }
-  const std::string path = rest.empty() ? "" : WholePath(rest.first());
-  QDir::setCurrent(veldrin::ProgramFolder());
+  const std::string path = words.empty() ? "" : veldrin::WholePath(words.front());
+  std::error_code failure;
+  std::filesystem::current_path(veldrin::ProgramFolder(), failure);
   veldrin::DesktopProgram program;
-  return program.Run(path);
+  running = &program;
+  const int status = program.Run(path);
+  running = nullptr;
+  return status;
 }

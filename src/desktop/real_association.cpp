@@ -27,15 +27,15 @@ void DropOnDesktop(const QString& /*extension*/) {
 
 #else
 
+#include "desktop/real_desktop_tools.h"
 #include "desktop/real_path.h"
-#include "desktop/real_writer.h"
+#include "desktop/real_replacing_file.h"
 #include "runtime/fault.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -43,7 +43,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kToolPatience = 20000;  // ms
 constexpr char kDesktopEntry[] = "veldrin-plan.desktop";
 constexpr char kType[] = "application/x-veldrin-plan";
 
@@ -51,13 +50,21 @@ QString DataFolder() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
 }
 
+QString PackageFolder() {
+  return DataFolder() + "/mime";
+}
+
+QString EntryFolder() {
+  return DataFolder() + "/applications";
+}
+
 QString PackageFile(const QString& extension) {
   const QString name = QString::fromLatin1(QUrl::toPercentEncoding(extension.toLower()));
-  return DataFolder() + "/mime/packages/veldrin-" + name + ".xml";
+  return PackageFolder() + "/packages/veldrin-" + name + ".xml";
 }
 
 QString DesktopFile() {
-  return DataFolder() + "/applications/" + kDesktopEntry;
+  return EntryFolder() + "/" + kDesktopEntry;
 }
 
 /// A pattern that matches names with this extension, in small letters as the database wants it for any case.
@@ -114,28 +121,13 @@ bool WriteFile(const QString& path, const QString& text) {
          }) == 0;
 }
 
-/// Runs one of the desktop's tools to its end, without its words; one that is not installed is passed over.
-void RunTool(const QString& name, const QStringList& arguments) {
-  const QString tool = QStandardPaths::findExecutable(name);
-  if (tool.isEmpty()) return;
-  QProcess process;
-  process.setStandardInputFile(QProcess::nullDevice());
-  process.setStandardOutputFile(QProcess::nullDevice());
-  process.setStandardErrorFile(QProcess::nullDevice());
-  process.start(tool, arguments);
-  process.waitForFinished(kToolPatience);
-}
-
 bool HasDatabase() {
   return !QStandardPaths::findExecutable("update-mime-database").isEmpty();
 }
 
-void TakeInPackages() {
-  RunTool("update-mime-database", {DataFolder() + "/mime"});
-}
-
-void TakeInEntries() {
-  RunTool("update-desktop-database", {DataFolder() + "/applications"});
+/// The tools take in what stands in the folders when they run, and not only what one change put there.
+void TakeIn(const QList<QStringList>& more) {
+  RunBehind(PackageFolder(), QList<QStringList>{{"update-mime-database", PackageFolder()}} + more);
 }
 
 }  // namespace
@@ -144,17 +136,19 @@ void AssociateOnDesktop(const QString& extension) {
   if (extension.isEmpty() || !HasDatabase()) return;
   // The package last: without the entry it would tie the files to nothing.
   if (!WriteFile(DesktopFile(), Entry()) || !WriteFile(PackageFile(extension), Package(extension))) return;
-  TakeInPackages();
-  TakeInEntries();
-  RunTool("xdg-mime", {"default", kDesktopEntry, kType});
+  TakeIn({{"update-desktop-database", EntryFolder()}, {"xdg-mime", "default", kDesktopEntry, kType}});
 }
 
 void DropOnDesktop(const QString& extension) {
   if (extension.isEmpty() || !QFile::remove(PackageFile(extension))) return;
-  TakeInPackages();
-  if (!QDir(DataFolder() + "/mime/packages").entryList({"veldrin-*.xml"}, QDir::Files).isEmpty()) return;
-  QFile::remove(DesktopFile());
-  TakeInEntries();
+  const bool wasLast =
+      QDir(PackageFolder() + "/packages").entryList({"veldrin-*.xml"}, QDir::Files).isEmpty();
+  if (wasLast) {
+    QFile::remove(DesktopFile());
+    TakeIn({{"update-desktop-database", EntryFolder()}});
+  } else {
+    TakeIn({});
+  }
 }
 
 }  // namespace veldrin

@@ -5,8 +5,8 @@
 //   DATA/mime/packages/veldrin-EXTENSION.xml     the extension's pattern
 //   DATA/applications/veldrin-plan.desktop       the program, as long as one extension is tied
 //
-// The desktop's own tools take them in; where they are not installed, nothing happens at all. Windows has its
-// registry for this and is only told that it changed.
+// The desktop's own tools take them in, a moment after the functions have returned; where they are not
+// installed, nothing happens at all. Windows has its registry for this and is only told that it changed.
 #pragma once
 
 #include <QString>

@@ -10,6 +10,8 @@
 #include <QPrintDialog>
 #include <QPrinterInfo>
 
+#include <utility>
+
 namespace veldrin {
 
 namespace {
@@ -31,6 +33,16 @@ QMessageBox::Icon IconFor(BoxIcon icon) {
       break;
   }
   return QMessageBox::NoIcon;
+}
+
+/// A font has its size in points or in pixels.
+QFont Enlarged(QFont font, double zoom) {
+  if (font.pixelSize() > 0) {
+    font.setPixelSize(qRound(font.pixelSize() * zoom));
+  } else {
+    font.setPointSizeF(font.pointSizeF() * zoom);
+  }
+  return font;
 }
 
 /// Texts of the program end their lines with CR LF.
@@ -82,6 +94,10 @@ bool AskForPrinter(QPrinter& device) {
   dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+#ifdef _WIN32
+  // What Windows writes to such a file is the printer's language and no PDF.
+  dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
+#endif
   return dialog.exec() == QDialog::Accepted;
 }
 
@@ -126,6 +142,17 @@ std::string FaultText(int number) {
     default:
       return "Application-defined or object-defined error";
   }
+}
+
+RealBoxes::RealBoxes(RealPrinter& printer) : printer_(&printer), plain_(QApplication::font()) {}
+
+RealBoxes::~RealBoxes() {
+  if (qApp != nullptr) SetZoom(1);
+}
+
+void RealBoxes::SetZoom(double zoom) {
+  if (zoom == std::exchange(zoom_, zoom)) return;
+  QApplication::setFont(Enlarged(plain_, zoom));
 }
 
 BoxAnswer RealBoxes::Message(BoxIcon icon, const std::string& title, const std::string& text,

@@ -1,8 +1,12 @@
-// Message boxes and dialogs, in front of the window that is active.
+// Message boxes and dialogs, in front of the window that is active and as large as the windows are shown.
+// Their size is that of the application's font, which is theirs as long as the boxes live: dialogs open
+// others.
 #pragma once
 
 #include "desktop/real_printer.h"
 #include "platform/screen.h"
+
+#include <QFont>
 
 #include <functional>
 #include <string>
@@ -14,7 +18,15 @@ std::string FaultText(int number);
 
 class RealBoxes : public Boxes {
  public:
-  explicit RealBoxes(RealPrinter& printer) : printer_(&printer) {}
+  /// Needs a QApplication.
+  explicit RealBoxes(RealPrinter& printer);
+  /// Gives the application its font back.
+  ~RealBoxes() override;
+  RealBoxes(const RealBoxes&) = delete;
+  RealBoxes& operator=(const RealBoxes&) = delete;
+
+  /// From now on everything is this many times as large as the desktop would have it, also what is open.
+  void SetZoom(double zoom);
 
   /// Called when a box has closed, before its answer goes back. Events go on while a box is open; what one of
   /// them left to be thrown is thrown here.
@@ -31,6 +43,8 @@ class RealBoxes : public Boxes {
   void Closed() const;
 
   RealPrinter* printer_;
+  QFont plain_;
+  double zoom_ = 1;
 };
 
 }  // namespace veldrin

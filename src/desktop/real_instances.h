@@ -22,6 +22,8 @@ class RealInstances : public Instances {
   explicit RealInstances(QString locks = UsersLocks());
 
   int Others() const override;
+  /// Whether this copy has a lock, and so tells of the others truly.
+  bool Counts() const { return own_ != nullptr; }
 
  private:
   QString LockName(int number) const;

@@ -3,7 +3,9 @@
 #include "runtime/fault.h"
 #include "runtime/text.h"
 
+#include <QDir>
 #include <QFile>
+#include <QSysInfo>
 
 #include <system_error>
 
@@ -55,6 +57,34 @@ QString PathString(const fs::path& path) {
   return QFile::decodeName(path.c_str());
 #endif
 }
+
+#ifdef _WIN32
+
+std::string BytesOfLocalFile(const QUrl& url) {
+  return url.isLocalFile() ? QDir::toNativeSeparators(url.toLocalFile()).toStdString() : "";
+}
+
+QUrl LocalFileUrl(const std::string& path) {
+  return QUrl::fromLocalFile(QString::fromStdString(path));
+}
+
+#else
+
+std::string BytesOfLocalFile(const QUrl& url) {
+  // Some desktops name the machine.
+  const QString host = url.host();
+  const bool here = host.isEmpty() || host == "localhost" ||
+                    host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
+  if (!url.isLocalFile() || !here) return "";
+  // A text of Qt's holds characters only; the encoded form has the bytes still.
+  return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+}
+
+QUrl LocalFileUrl(const std::string& path) {
+  return QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"));
+}
+
+#endif
 
 fs::path PathOnDisk(const std::string& text) {
   std::error_code failure;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QUrl>
 
 #include <filesystem>
 #include <optional>
@@ -14,8 +15,14 @@ namespace veldrin {
 /// Raises fault 52 for the empty path and for one with a character that the system refuses in names.
 std::filesystem::path NativePath(const std::string& text);
 std::string PathText(const std::filesystem::path& path);
-/// For Qt's own files.
+/// For Qt's own files. Where names are bytes, those that are no UTF-8 are lost on the way.
 QString PathString(const std::filesystem::path& path);
+
+/// The path of a file on this machine that somebody hands over as a URL, with all its bytes; empty for other
+/// URLs.
+std::string BytesOfLocalFile(const QUrl& url);
+/// The URL of a whole path, again with all its bytes.
+QUrl LocalFileUrl(const std::string& path);
 
 /// The whole path, from the root on and without "." and "..", each part by its name on the disk. Parts that
 /// are not there stay as they are, drive letters become capitals. Raises fault 52 as NativePath does.

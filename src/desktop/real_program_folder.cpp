@@ -1,5 +1,8 @@
 #include "desktop/real_program_folder.h"
 
+#include "desktop/real_path.h"
+#include "runtime/fault.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
@@ -8,7 +11,11 @@
 #include <QStandardPaths>
 #include <QStringList>
 
+#include <system_error>
+
 namespace veldrin {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -36,6 +43,22 @@ void CopyFolder(const QString& from, const QString& to) {
       CopyFile(entry, target);
     }
   }
+}
+
+/// Whole path of the folder that the variable names; empty when it names none.
+fs::path NamedFolder() {
+#ifdef _WIN32
+  const std::string named = qEnvironmentVariable("VELDRIN_HOME").toStdString();
+#else
+  const std::string named = qgetenv("VELDRIN_HOME").toStdString();
+#endif
+  fs::path folder;
+  Guarded([&] {
+    std::error_code failure;
+    const fs::path path = fs::absolute(NativePath(named), failure).lexically_normal();
+    if (fs::is_directory(path, failure)) folder = path.has_filename() ? path : path.parent_path();
+  });
+  return folder;
 }
 
 bool HoldsLists(const QString& folder) {
@@ -76,13 +99,13 @@ bool FillProgramFolder(const QString& folder, const QString& installed) {
   return true;
 }
 
-QString ProgramFolder() {
-  const QString named = qEnvironmentVariable("VELDRIN_HOME");
-  if (!named.isEmpty() && QFileInfo(named).isDir()) return QDir(named).absolutePath();
+fs::path ProgramFolder() {
+  const fs::path named = NamedFolder();
+  if (!named.empty()) return named;
   const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/veldrin";
   const QString installed = InstalledFolder();
-  if (FillProgramFolder(own, installed)) return own;
-  return installed.isEmpty() ? QDir::homePath() : installed;
+  if (FillProgramFolder(own, installed)) return NativePath(own.toStdString());
+  return NativePath((installed.isEmpty() ? QDir::homePath() : installed).toStdString());
 }
 
 }  // namespace veldrin

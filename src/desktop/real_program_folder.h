@@ -12,11 +12,13 @@
 
 #include <QString>
 
+#include <filesystem>
+
 namespace veldrin {
 
-/// Whole path of the program's folder, which is there. Where the user's own cannot be made it is the
-/// installed one, or the user's home.
-QString ProgramFolder();
+/// Whole path of the program's folder, which is there; the variable's bytes go through as they are. Where the
+/// user's own cannot be made it is the installed one, or the user's home.
+std::filesystem::path ProgramFolder();
 
 /// The folder with what was installed: beside the program, in the share folder of its prefix or of the
 /// repository that it was built in, or in one of the system's data folders. Empty when there is none.

@@ -3,7 +3,7 @@
 #include "desktop/real_lock.h"
 #include "desktop/real_path.h"
 #include "desktop/real_processor.h"
-#include "desktop/real_writer.h"
+#include "desktop/real_replacing_file.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
 

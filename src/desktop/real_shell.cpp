@@ -1,6 +1,7 @@
 #include "desktop/real_shell.h"
 
 #include "desktop/real_association.h"
+#include "desktop/real_path.h"
 #include "runtime/fault.h"
 
 #include <QDesktopServices>
@@ -64,12 +65,11 @@ void RealShell::Run(const std::string& command) {
 
 bool RealShell::OpenWithDesktop(const std::string& target) {
   const bool link = target.find("://") != std::string::npos;
-  const QString text = QString::fromStdString(target);
-  if (link) return QDesktopServices::openUrl(QUrl(text));
+  if (link) return QDesktopServices::openUrl(QUrl(QString::fromStdString(target)));
   if (!files_->FolderExists(target)) return false;
-  QString folder;
-  Guarded([&] { folder = QString::fromStdString(files_->ResolveFolder(target)); });
-  return !folder.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+  std::string folder;
+  Guarded([&] { folder = files_->ResolveFolder(target); });
+  return !folder.empty() && QDesktopServices::openUrl(LocalFileUrl(folder));
 }
 
 void RealShell::AssociateExtension(const std::string& extension) {

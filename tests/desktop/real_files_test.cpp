@@ -107,8 +107,14 @@ TEST_F(RealFilesTest, NamesThatAreNoUtf8AreReadAndWritten) {
   std::ofstream(In(name)) << "a";
   EXPECT_EQ(files.FileNames(In(""), "*.nx4"), std::vector<std::string>{name});
   EXPECT_EQ(files.ReadText(In(name)), "a");
+  Save(name, "b");
+  EXPECT_EQ(files.ReadText(In(name)), "b");
   files.Delete(In(name));
   EXPECT_FALSE(files.FileExists(In(name)));
+  const std::string fresh = "\x8a\x44.nx4";
+  Save(fresh, "c");
+  EXPECT_EQ(files.FileNames(In(""), "*"), std::vector<std::string>{fresh});
+  files.Delete(In(fresh));
 }
 
 TEST_F(RealFilesTest, ListsComeInOrderWithoutHiddenNamesAndFolders) {

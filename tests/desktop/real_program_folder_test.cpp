@@ -1,10 +1,15 @@
 #include "desktop/real_program_folder.h"
 
+#include "desktop/real_path.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
 
 namespace veldrin {
 namespace {
@@ -76,19 +81,29 @@ TEST_F(RealProgramFolderTest, AFolderThatCannotBeMadeIsToldAsSuch) {
 
 TEST_F(RealProgramFolderTest, TheVariableGoesFirst) {
   qputenv("VELDRIN_HOME", In("installed").toUtf8());
-  EXPECT_EQ(ProgramFolder(), In("installed"));
+  EXPECT_EQ(PathString(ProgramFolder()), In("installed"));
+  qputenv("VELDRIN_HOME", In("none/../installed/").toUtf8());
+  EXPECT_EQ(PathString(ProgramFolder()), In("installed"));
+}
+
+TEST_F(RealProgramFolderTest, TheVariablesBytesGoThrough) {
+  const std::filesystem::path odd = std::filesystem::path(folder.path().toStdString()) / "\x8a\x43";
+  std::filesystem::create_directory(odd);
+  qputenv("VELDRIN_HOME", odd.c_str());
+  EXPECT_EQ(ProgramFolder(), odd);
+  std::filesystem::remove(odd);
 }
 
 TEST_F(RealProgramFolderTest, AVariableThatNamesNoFolderIsPassedOver) {
   qputenv("VELDRIN_HOME", In("none").toUtf8());
   qputenv("XDG_DATA_HOME", In("data").toUtf8());
-  EXPECT_EQ(ProgramFolder(), In("data/veldrin"));
+  EXPECT_EQ(PathString(ProgramFolder()), In("data/veldrin"));
   EXPECT_TRUE(QFileInfo(In("data/veldrin/DAT")).isDir());
 }
 
 TEST_F(RealProgramFolderTest, WhereTheUsersOwnCannotBeMadeAnotherFolderServes) {
   qputenv("XDG_DATA_HOME", In("installed/rollup.wav").toUtf8());
-  EXPECT_TRUE(QFileInfo(ProgramFolder()).isDir());
+  EXPECT_TRUE(std::filesystem::is_directory(ProgramFolder()));
 }
 
 }  // namespace

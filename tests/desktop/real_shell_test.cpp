@@ -1,16 +1,15 @@
 #include "desktop/real_shell.h"
 
-#include "desktop/real_association.h"
 #include "desktop/real_code_pages.h"
 #include "desktop/real_files.h"
-#include "desktop/real_sound.h"
 #include "runtime/fault.h"
 
+#include <QDesktopServices>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QThread>
 #include <gtest/gtest.h>
 
@@ -23,6 +22,27 @@ QByteArray BytesOf(const QString& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
 }
+
+/// What the desktop opens links and folders with, as long as it lives: it keeps what it is asked to open.
+class Opener : public QTextBrowser {
+ public:
+  Opener() {
+    for (const char* scheme : kSchemes) QDesktopServices::setUrlHandler(scheme, this, "setSource");
+  }
+  ~Opener() override {
+    for (const char* scheme : kSchemes) QDesktopServices::unsetUrlHandler(scheme);
+  }
+
+  QStringList opened;
+
+ protected:
+  void doSetSource(const QUrl& url, QTextDocument::ResourceType /*type*/) override {
+    opened.append(url.toString());
+  }
+
+ private:
+  static constexpr const char* kSchemes[] = {"https", "file"};
+};
 
 class RealShellTest : public ::testing::Test {
  protected:
@@ -72,67 +92,20 @@ TEST_F(RealShellTest, TellsAMissingProgramFromAMissingFolder) {
   EXPECT_EQ(Fault(""), kFaultFileNotFound);
 }
 
+TEST_F(RealShellTest, LinksAndFoldersGoToTheDesktop) {
+  Opener opener;
+  QDir(folder.path()).mkdir("Some Plans");
+  EXPECT_TRUE(shell.OpenWithDesktop("https://veldrin.example/"));
+  EXPECT_TRUE(shell.OpenWithDesktop(folder.path().toStdString() + "/some plans"));
+  EXPECT_EQ(opener.opened,
+            (QStringList{"https://veldrin.example/", "file://" + folder.path() + "/Some Plans"}));
+}
+
 TEST_F(RealShellTest, WhatIsNotThereIsNotOpened) {
+  Opener opener;
   EXPECT_FALSE(shell.OpenWithDesktop(folder.path().toStdString() + "/none"));
   EXPECT_FALSE(shell.OpenWithDesktop(""));
-}
-
-TEST_F(RealShellTest, AMissingSoundFileStaysSilent) {
-  RealSound sound(files);
-  sound.Play(folder.path().toStdString() + "/none.wav");
-  sound.Play("");
-  sound.Beep();
-}
-
-/// The desktop's data of a user of its own.
-class RealAssociationTest : public ::testing::Test {
- protected:
-  void SetUp() override {
-    if (QStandardPaths::findExecutable("update-mime-database").isEmpty())
-      GTEST_SKIP() << "no shared-mime-info";
-    qputenv("XDG_DATA_HOME", folder.path().toUtf8());
-    qputenv("XDG_CONFIG_HOME", (folder.path() + "/config").toUtf8());
-  }
-  void TearDown() override {
-    qunsetenv("XDG_DATA_HOME");
-    qunsetenv("XDG_CONFIG_HOME");
-  }
-
-  QByteArray Patterns() const { return BytesOf(folder.path() + "/mime/globs2"); }
-
-  QTemporaryDir folder;
-};
-
-TEST_F(RealAssociationTest, ExtensionsAreTiedAndUntiedOneByOne) {
-  AssociateOnDesktop("NX4");
-  EXPECT_TRUE(Patterns().contains("60:application/x-veldrin-plan:*.nx4\n")) << Patterns().constData();
-  AssociateOnDesktop("vt2");
-  EXPECT_TRUE(Patterns().contains("*.nx4\n"));
-  EXPECT_TRUE(Patterns().contains("*.vt2\n"));
-  const QString entry = folder.path() + "/applications/veldrin-plan.desktop";
-  EXPECT_TRUE(BytesOf(entry).contains("MimeType=application/x-veldrin-plan;\n"));
-  EXPECT_TRUE(BytesOf(entry).contains("Exec=\"/")) << BytesOf(entry).constData();
-  DropOnDesktop("nx4");
-  EXPECT_FALSE(Patterns().contains("*.nx4\n"));
-  EXPECT_TRUE(Patterns().contains("*.vt2\n"));
-  EXPECT_TRUE(QFile::exists(entry));
-  DropOnDesktop("vt2");
-  EXPECT_FALSE(Patterns().contains("x-veldrin-plan"));
-  EXPECT_FALSE(QFile::exists(entry));
-  DropOnDesktop("vt2");
-}
-
-TEST_F(RealAssociationTest, NoNameGetsOutOfItsFileOrPattern) {
-  for (const char* name : {"a", "v1.2", "a&b<c>", "../../x", "a*b", "鈴鹿", ""}) AssociateOnDesktop(name);
-  const QByteArray patterns = Patterns();
-  for (const char* pattern :
-       {":*.a\n", ":*.v1.2\n", ":*.a&b<c>\n", ":*.../../x\n", ":*.a[*]b\n", ":*.鈴鹿\n"}) {
-    EXPECT_TRUE(patterns.contains(pattern)) << pattern << patterns.constData();
-  }
-  EXPECT_EQ(QDir(folder.path() + "/mime/packages").entryList(QDir::Files).size(), 6);
-  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 0);
-  for (const char* name : {"a", "v1.2", "a&b<c>", "../../x", "a*b", "鈴鹿"}) DropOnDesktop(name);
-  EXPECT_EQ(QDir(folder.path() + "/mime/packages").entryList(QDir::Files).size(), 0);
+  EXPECT_EQ(opener.opened, QStringList{});
 }
 
 }  // namespace

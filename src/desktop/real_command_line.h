@@ -1,0 +1,16 @@
+// What stands on the command line, in the system's own bytes: names of files need not be UTF-8.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace veldrin {
+
+/// The words behind the program's name, from what QApplication has left of main()'s.
+std::vector<std::string> CommandLineWords(int count, const char* const* arguments);
+
+/// The path that a word names, whole and without "." and "..": the program goes into its own folder before it
+/// reads it. The empty word stays empty.
+std::string WholePath(const std::string& word);
+
+}  // namespace veldrin

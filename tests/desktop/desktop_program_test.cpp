@@ -1,0 +1,288 @@
+#include "desktop/desktop_program.h"
+
+#include "program/event_boundary.h"
+#include "tests/desktop/program_folders.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QMessageBox>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace veldrin {
+namespace {
+
+constexpr char kHistory[] = "Software\\Tarn Ridge\\Veldrin\\Ext\\Sub";
+
+/// The program as it runs on the desktop, in folders of its own. A test that hangs ends after a while.
+class DesktopProgramTest : public ::testing::Test, protected ProgramFolders {
+ protected:
+  void SetUp() override { program_ = std::make_unique<DesktopProgram>(); }
+  void TearDown() override { program_.reset(); }
+
+  DesktopProgram& Desktop() { return *program_; }
+  Program& Main() { return *program_->program; }
+
+  /// Calls `then` as soon as `ready` holds.
+  static void When(const std::function<bool()>& ready, const std::function<void()>& then) {
+    QTimer::singleShot(5, qApp, [=] { ready() ? then() : When(ready, then); });
+  }
+
+  /// Runs the program and calls `work` when the main window has come up.
+  int Run(const std::string& commandLine, const std::function<void()>& work) {
+    When([this] { return Main().ended || (Main().eventDepth == 0 && Main().form2.Visible); }, work);
+    return Finish(commandLine);
+  }
+
+  int Finish(const std::string& commandLine) {
+    QTimer guard;
+    QObject::connect(&guard, &QTimer::timeout, [] {
+      ADD_FAILURE() << "the program does not end";
+      QCoreApplication::exit();
+    });
+    guard.start(60000);
+    return Desktop().Run(commandLine);
+  }
+
+  void SetChanged(const char* word) {
+    RunEvent(Main(), [&] { Main().workspace.DataChanged = word; });
+  }
+
+  void MoveTo(float left, float top) {
+    RunEvent(Main(), [&] {
+      Main().form2.Left = left;
+      Main().form2.Top = top;
+    });
+  }
+
+  std::optional<std::string> Setting(const char* key, const char* value) {
+    return Desktop().machine.registry.Read(RegistryRoot::CurrentUser, key, value);
+  }
+
+  /// What the unload leaves behind when the plan was the only one.
+  void ExpectStoredAndTidy() {
+    EXPECT_TRUE(Main().ended);
+    EXPECT_EQ(TempFiles(), QStringList());
+    EXPECT_EQ(Setting(kHistory, "0"), "1");
+    EXPECT_EQ(Setting(kHistory, "1"), PlanFile());
+    EXPECT_EQ(Setting(kSettings, "Last Left"), "1500");
+    EXPECT_EQ(Setting(kSettings, "Last Top"), "900");
+  }
+
+  static QMessageBox* OpenBox() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
+
+ private:
+  std::unique_ptr<DesktopProgram> program_;
+};
+
+TEST_F(DesktopProgramTest, RunsFromTheSplashToTheEndOfTheMainWindow) {
+  const int status = Run("", [&] {
+    EXPECT_EQ(Main().workspace.MachineName, "NX4");
+    EXPECT_EQ(TempFiles(), QStringList("VELD000.TMP"));
+    FormWidget* const widget = Desktop().windows.FormOf(Main().form2);
+    ASSERT_NE(widget, nullptr);
+    EXPECT_TRUE(widget->isVisible());
+    widget->close();
+  });
+  EXPECT_EQ(status, 0);
+  EXPECT_TRUE(Main().ended);
+  EXPECT_EQ(TempFiles(), QStringList());
+}
+
+TEST_F(DesktopProgramTest, AFaultEndsItWithAStatusOfItsOwn) {
+  When([] { return OpenBox() != nullptr; },
+       [] {
+         EXPECT_TRUE(OpenBox()->text().startsWith("Run-time error '11'"));
+         OpenBox()->accept();
+       });
+  const int status = Run("", [&] { Desktop().stage.input.Do([]() -> bool { throw RuntimeFault{11}; }); });
+  EXPECT_EQ(status, 1);
+  EXPECT_EQ(Main().endFault, 11);
+}
+
+TEST_F(DesktopProgramTest, ASignalEndsItAsTheEndOfTheSessionDoes) {
+  for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+    const int status = Run(PlanFile(), [&] {
+      SetChanged(dirty::kNo);
+      MoveTo(1500, 900);
+      raise(signal);
+    });
+    EXPECT_EQ(status, 0) << signal;
+    ExpectStoredAndTidy();
+    TearDown();
+    SetUp();
+  }
+}
+
+TEST_F(DesktopProgramTest, ASignalLosesWhatNobodyCanBeAskedAboutAndNoMore) {
+  const int status = Run(PlanFile(), [&] {
+    SetChanged(dirty::kYes);
+    MoveTo(1500, 900);
+    raise(SIGTERM);
+    raise(SIGHUP);
+  });
+  EXPECT_EQ(status, 0);
+  ExpectStoredAndTidy();
+}
+
+TEST_F(DesktopProgramTest, ASignalEndsItBehindAnOpenBoxToo) {
+  bool wentOn = false;
+  When([] { return OpenBox() != nullptr; }, [] { raise(SIGTERM); });
+  const int status = Run(PlanFile(), [&] {
+    SetChanged(dirty::kYes);
+    MoveTo(1500, 900);
+    Desktop().stage.input.Do([&] {
+      Desktop().machine.boxes.Message(BoxIcon::Question, "", "text", BoxButtons::OkCancel);
+      wentOn = true;
+      return true;
+    });
+  });
+  EXPECT_EQ(status, 0);
+  EXPECT_FALSE(wentOn);
+  ExpectStoredAndTidy();
+}
+
+TEST_F(DesktopProgramTest, ASignalClosesTheBoxOfAFault) {
+  When([] { return OpenBox() != nullptr; }, [] { raise(SIGTERM); });
+  const int status = Run("", [&] { Desktop().stage.input.Do([]() -> bool { throw RuntimeFault{11}; }); });
+  EXPECT_EQ(status, 1);
+}
+
+TEST_F(DesktopProgramTest, ASignalDuringTheSplashLeavesTheStoredHistoryAlone) {
+  Desktop().machine.registry.Write(RegistryRoot::CurrentUser, kHistory, "0", "7");
+  When([this] { return !TempFiles().isEmpty() && !Main().form2.loaded; }, [] { raise(SIGTERM); });
+  EXPECT_EQ(Finish(""), 0);
+  EXPECT_TRUE(Main().ended);
+  EXPECT_EQ(TempFiles(), QStringList());
+  EXPECT_EQ(Setting(kHistory, "0"), "7");
+}
+
+TEST_F(DesktopProgramTest, WhatItHadStillToDoGoesWithIt) {
+  When([] { return true; }, [] { QCoreApplication::exit(); });
+  Finish("");
+  TearDown();
+  SetUp();
+  // Its timers would be due in the next one's time.
+  QTimer::singleShot(200, qApp, [] { QCoreApplication::exit(); });
+  QApplication::exec();
+  EXPECT_FALSE(Main().ended);
+}
+
+TEST_F(DesktopProgramTest, WhatWasIgnoredStaysIgnored) {
+  TearDown();
+  signal(SIGHUP, SIG_IGN);
+  SetUp();
+  bool wentOn = false;
+  Run("", [&] {
+    raise(SIGHUP);
+    When([] { return true; },
+         [&] {
+           wentOn = !Main().ended;
+           raise(SIGTERM);
+         });
+  });
+  EXPECT_TRUE(wentOn);
+  signal(SIGHUP, SIG_DFL);
+}
+
+TEST_F(DesktopProgramTest, AProcessWhoseDisplayIsGoneLeavesNothingBehind) {
+  Run(PlanFile(), [&] {
+    SetChanged(dirty::kYes);
+    MoveTo(1500, 900);
+    Desktop().LeaveTidy();
+    ExpectStoredAndTidy();
+    Desktop().LeaveTidy();
+    QCoreApplication::exit();
+  });
+}
+
+TEST_F(DesktopProgramTest, TheSessionMayEndWhereNothingIsLost) {
+  bool mayEnd = false;
+  const int status = Run(PlanFile(), [&] {
+    SetChanged(dirty::kNo);
+    MoveTo(1500, 900);
+    mayEnd = Desktop().EndSession(true);
+    EXPECT_TRUE(Desktop().EndSession(true));
+  });
+  EXPECT_TRUE(mayEnd);
+  EXPECT_EQ(status, 0);
+  ExpectStoredAndTidy();
+}
+
+TEST_F(DesktopProgramTest, TheSessionWaitsForTheAnswerWhereChangesWouldBeLost) {
+  Run(PlanFile(), [&] {
+    SetChanged(dirty::kYes);
+    When([] { return OpenBox() != nullptr; },
+         [] {
+           EXPECT_TRUE(OpenBox()->text().startsWith("Now Stopped Windows Shutdown"));
+           OpenBox()->accept();
+         });
+    EXPECT_FALSE(Desktop().EndSession(true));
+    EXPECT_FALSE(Main().ended);
+    EXPECT_TRUE(Main().form2.Picture20.Visible);
+    Desktop().stage.input.Do([this] { return user::Click(Main().form2.Command9); });
+  });
+  EXPECT_TRUE(Main().ended);
+  EXPECT_EQ(TempFiles(), QStringList());
+}
+
+TEST_F(DesktopProgramTest, ASessionThatAsksNobodyEndsAtOnce) {
+  Run(PlanFile(), [&] {
+    SetChanged(dirty::kYes);
+    MoveTo(1500, 900);
+    EXPECT_TRUE(Desktop().EndSession(false));
+  });
+  ExpectStoredAndTidy();
+}
+
+TEST_F(DesktopProgramTest, ALeftoverOfACrashKeepsNothingFromBeingStored) {
+  Run(PlanFile(), [&] {
+    SetChanged(dirty::kNo);
+    MoveTo(1500, 900);
+    Put("temp/VELD007.TMP", "left");
+    Desktop().windows.FormOf(Main().form2)->close();
+  });
+  ExpectStoredAndTidy();
+}
+
+TEST_F(DesktopProgramTest, TheWorkingFileOfAnotherCopyStaysAndKeepsTheHistoryBack) {
+  Run(PlanFile(), [&] {
+    SetChanged(dirty::kNo);
+    Put("temp/VELD007.TMP", "another's");
+    const RealInstances other;
+    Desktop().windows.FormOf(Main().form2)->close();
+  });
+  EXPECT_TRUE(Main().ended);
+  EXPECT_EQ(TempFiles(), QStringList("VELD007.TMP"));
+  EXPECT_EQ(Setting(kHistory, "1"), std::nullopt);
+}
+
+TEST_F(DesktopProgramTest, BoxesAndDialogsFollowTheZoom) {
+  const double zoom = Desktop().stage.zoom.Factor();
+  const double size = QFontInfo(QApplication::font()).pixelSize();
+  const auto widthOfBox = [this] {
+    int width = 0;
+    When([] { return OpenBox() != nullptr; },
+         [&] {
+           width = OpenBox()->width();
+           OpenBox()->accept();
+         });
+    Desktop().machine.boxes.Message(BoxIcon::None, "", std::string(40, 'x'), BoxButtons::Ok);
+    return width;
+  };
+  const int width = widthOfBox();
+  Desktop().stage.zoom.Set(2 * zoom);
+  EXPECT_NEAR(QFontInfo(QApplication::font()).pixelSize(), 2 * size, 1);
+  EXPECT_GT(widthOfBox(), 1.7 * width);
+  Desktop().stage.zoom.Set(zoom);
+  EXPECT_NEAR(QFontInfo(QApplication::font()).pixelSize(), size, 1);
+}
+
+}  // namespace
+}  // namespace veldrin
