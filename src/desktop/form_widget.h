@@ -3,13 +3,18 @@
 //
 // The program counts a window's outer size with a frame of its own time, 120 twips wider and 690 (405 without
 // a menu) higher than the area inside. The real frame and menu bar are as large as the desktop makes them;
-// the area inside is what is kept to. Where that is larger than the screen it scrolls.
+// the area inside is what is kept to. Where that is larger than the screen it scrolls, and so does what a
+// maximised window has no room for: the inside is never smaller there than before.
+//
+// form_widget.cpp has the controls inside, form_widget_frame.cpp what the desktop and the user do with the
+// window as a whole: its zoom, size, place and state, its closing, and files dropped on it.
 #pragma once
 
 #include "desktop/client_area.h"
 
 #include <QMenuBar>
 #include <QPixmap>
+#include <QPointer>
 #include <QScrollArea>
 #include <QWidget>
 
@@ -37,7 +42,7 @@ class FormWidget : public QWidget {
   void TakeContent(Control& control);
   /// An event has ended.
   void Settle();
-  /// The zoom changed.
+  /// The zoom changed. The frame stays where it is, so its place in twips is another one.
   void Rescale();
   /// Cuts the window to an ellipse, in pixels of the program.
   void CutToEllipse(const QRect& box);
@@ -46,7 +51,7 @@ class FormWidget : public QWidget {
   /// The window as it looks without its frame, whole even where the screen has no room for it.
   QPixmap Picture();
   /// Whether the user can draw the window larger and smaller.
-  bool CanBeDrawnAt() const { return CanResize() && !clipped_ && ellipse_.isNull(); }
+  bool CanBeDrawnAt() const { return CanResize() && !Scrolls() && ellipse_.isNull(); }
   /// The title as the program wrote it.
   std::string Title() const;
   /// The area that the controls lie on.
@@ -58,6 +63,7 @@ class FormWidget : public QWidget {
   void moveEvent(QMoveEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   /// Qt must not move the focus by itself: the program does, by Tab and when a control is put out of reach.
@@ -69,16 +75,35 @@ class FormWidget : public QWidget {
   void DropLostViews();
   void ArrangeMenus();
   void Stack(const Control& parent);
+  void Reveal(QWidget* widget);
   void TakeWindowSlot(std::string_view slot);
+  void TakeZoom();
   void TakeSize();
   void TakePosition();
   void TakeState();
   void TakeVisible();
   void TakeFocus();
+  void FitFrame();
   void PlaceInside();
+  void KeepOnScreen();
   void AddZoomKeys();
+  void FrameStateChanged(Qt::WindowStates before);
+  void EndRestoring();
+  QSize InsideOfFrame() const;
+  QSize BarsFor(const QSize& whole, const QSize& room) const;
+  void ShowBars();
+  void TellSoon();
+  void Tell();
+  void TellSize();
+  void TellPlace();
+  bool TakesFiles() const;
   int MenuHeight() const;
+  int Rounding() const;
   bool CanResize() const { return window_->Resize.Claims() > 0; }
+  /// Whether the inside may be larger than the frame.
+  bool Scrolls() const { return clipped_ || isMaximized(); }
+  bool FillsScreen() const;
+  QSize InsidePixels(const QSizeF& outer) const;
 
   Window* window_;
   Stage* stage_;
@@ -91,8 +116,18 @@ class FormWidget : public QWidget {
   QMenuBar* menuBar_ = nullptr;
   QScrollArea* scroll_;
   ClientArea* client_;
-  bool clipped_ = false;  // the area inside is larger than the screen has room for
-  QRect ellipse_;         // in pixels of the program; null for none
+  bool clipped_ = false;      // the area inside is larger than the screen has room for
+  QRect ellipse_;             // in pixels of the program; null for none
+  QPointer<QWidget> raised_;  // a panel that came to the front in this event
+
+  double factor_;        // the zoom that the window's place in twips belongs to
+  double factorNormal_;  // the zoom when the frame was last neither maximised nor minimised
+  /// Outer size in twips of the frame when it is not maximised, and before the desktop last changed it.
+  QSizeF normal_;
+  QSizeF normalBefore_;
+  bool telling_ = false;    // the program hears of a place or size that the frame has already
+  bool untold_ = false;     // it could not be told: something modal stands in front
+  bool restoring_ = false;  // the frame is on its way back to a size that belongs to another zoom
 };
 
 }  // namespace veldrin

@@ -29,6 +29,14 @@ Units UnitsInside(const Control& parent, const Zoom& zoom) {
   return {(place.width() - 2 * border) / scale.width, (place.height() - 2 * border) / scale.height, border};
 }
 
+constexpr int kGrip = 80;  // pixels of a title bar that are enough to take it
+
+int DistanceBetween(const QRect& screen, const QPoint& point) {
+  const QPoint nearest(std::clamp(point.x(), screen.left(), screen.right()),
+                       std::clamp(point.y(), screen.top(), screen.bottom()));
+  return (nearest - point).manhattanLength();
+}
+
 }  // namespace
 
 double BorderPixels(const Control& control, const Zoom& zoom) {
@@ -75,6 +83,21 @@ int LineWidth(const Zoom& zoom) {
 QSize ClientPixels(const Window& window, const Zoom& zoom) {
   return {std::max(1, qRound(zoom.Pixels(window.InnerWidth()))),
           std::max(1, qRound(zoom.Pixels(window.InnerHeight())))};
+}
+
+QPoint CornerInReach(const QRect& frame, int titleHeight, const QList<QRect>& screens) {
+  const QRect title(frame.topLeft(), QSize(frame.width(), titleHeight));
+  const auto serves = [&](const QRect& screen) {
+    const QRect seen = screen & title;
+    return seen.height() == titleHeight && seen.width() >= std::min(kGrip, frame.width());
+  };
+  if (screens.empty() || std::any_of(screens.begin(), screens.end(), serves)) return frame.topLeft();
+  const QRect screen = *std::min_element(screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) {
+    return DistanceBetween(a, title.center()) < DistanceBetween(b, title.center());
+  });
+  const QPoint farthest(screen.right() + 1 - frame.width(), screen.bottom() + 1 - frame.height());
+  return {std::max(screen.left(), std::min(frame.left(), farthest.x())),
+          std::max(screen.top(), std::min(frame.top(), farthest.y()))};
 }
 
 }  // namespace veldrin

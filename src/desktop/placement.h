@@ -9,6 +9,8 @@
 #include "desktop/zoom.h"
 #include "view/controls.h"
 
+#include <QList>
+#include <QPoint>
 #include <QRect>
 #include <QRectF>
 
@@ -29,5 +31,10 @@ int LineWidth(const Zoom& zoom);
 
 /// The size of the area that a window's controls lie on.
 QSize ClientPixels(const Window& window, const Zoom& zoom);
+
+/// The left top corner for a window of this place and size, frame included, at which a good piece of its
+/// title bar lies on one of the screens. A window that can be taken stays where it is; another goes, whole if
+/// it can, onto the nearest screen.
+QPoint CornerInReach(const QRect& frame, int titleHeight, const QList<QRect>& screens);
 
 }  // namespace veldrin

@@ -74,6 +74,105 @@ TEST_F(DroppedFileTest, UnsavedChangesAreAskedAbout) {
   EXPECT_EQ(program->workspace.MachineKey, "vt2");
 }
 
+/// What stands in the program beside the plan.
+std::string StateOf(const Program& program) {
+  const Workspace& workspace = program.workspace;
+  return workspace.MachineName + "|" + workspace.MachineKey + "|" + workspace.ModeWord + "|" +
+         workspace.DataChanged + "|" + workspace.PrimaryTable[1].Text + "|" + workspace.GearTable(6, 1) +
+         "|" + workspace.OpenFile + "|" + workspace.CallerWord + "|" + program.form2.Caption.get() + "|" +
+         program.form2.Text6.Text.get();
+}
+
+TEST_F(DroppedFileTest, PlanWhoseListCannotBeHadLeavesEverythingAsItWas) {
+  Drop("C:\\VELDRIN\\DAT\\A.nx4");
+  program->workspace.DataChanged = dirty::kYes;
+  const std::string before = StateOf(*program);
+  std::string plan = kPlan;
+  plan.replace(plan.find("NX4"), 3, "ZZZ");
+  simulated.files.AddFile("C:\\VELDRIN\\DAT\\C.zzz", plan);
+  Drop("C:\\VELDRIN\\DAT\\C.zzz");
+  EXPECT_EQ(StateOf(*program), before);
+  ASSERT_EQ(simulated.boxes.shown.size(), 1U);
+  EXPECT_EQ(simulated.boxes.shown[0].text, "C:\\VELDRIN\\LIST\\ZZZ.RAT\r\n\r\nSelected File is not exist !!");
+
+  // One that breaks off, and one of another machine.
+  std::string half = kList;
+  half.replace(half.find("NX4"), 3, "ZZZ");
+  half.resize(half.find("M34-ARRAY"));
+  for (const std::string& list : {half, std::string(kList), std::string("no list"), std::string()}) {
+    simulated.files.AddFile("C:\\VELDRIN\\LIST\\ZZZ.RAT", list);
+    simulated.boxes.shown.clear();
+    Drop("C:\\VELDRIN\\DAT\\C.zzz");
+    EXPECT_EQ(StateOf(*program), before);
+    ASSERT_EQ(simulated.boxes.shown.size(), 1U);
+    EXPECT_EQ(simulated.boxes.shown[0].text,
+              "C:\\VELDRIN\\LIST\\ZZZ.RAT\r\n\r\nYou selected unknown file type.");
+  }
+}
+
+TEST_F(DroppedFileTest, ListThatBreaksOffLeavesEverythingAsItWas) {
+  Drop("C:\\VELDRIN\\DAT\\A.nx4");
+  const std::string before = StateOf(*program);
+  std::string half = kList;
+  half.replace(half.find("NX4"), 3, "ZZZ");
+  half.resize(half.find("M34-ARRAY"));
+  simulated.files.AddFile("C:\\VELDRIN\\LIST\\ZZZ.RAT", half);
+  Drop("C:\\VELDRIN\\LIST\\ZZZ.RAT");
+  EXPECT_EQ(StateOf(*program), before);
+  ASSERT_EQ(simulated.boxes.shown.size(), 1U);
+  EXPECT_EQ(simulated.boxes.shown[0].text, "You selected unknown file type.");
+}
+
+TEST_F(DroppedFileTest, FileThatIsNotThereIsTold) {
+  const std::string before = StateOf(*program);
+  Drop("C:\\VELDRIN\\DAT\\gone.nx4");
+  EXPECT_EQ(StateOf(*program), before);
+  ASSERT_EQ(simulated.boxes.shown.size(), 1U);
+  EXPECT_EQ(simulated.boxes.shown[0].text, "Selected File is not exist !!");
+}
+
+TEST_F(DroppedFileTest, NothingIsTakenWhileTheProgramAsksOrTheMenuOfFilesIsOff) {
+  Drop("C:\\VELDRIN\\DAT\\A.nx4");
+  ASSERT_TRUE(TakesDroppedFiles(*program));
+  const std::string before = StateOf(*program);
+  program->form2.Picture20.Visible = true;
+  EXPECT_FALSE(TakesDroppedFiles(*program));
+  Drop("C:\\VELDRIN\\LIST\\VT2.RAT");
+  program->form2.Picture20.Visible = false;
+  program->form2.menu_file.Enabled = false;
+  EXPECT_FALSE(TakesDroppedFiles(*program));
+  Drop("C:\\VELDRIN\\LIST\\VT2.RAT");
+  EXPECT_EQ(StateOf(*program), before);
+  EXPECT_TRUE(simulated.boxes.shown.empty());
+  program->form2.menu_file.Enabled = true;
+  EXPECT_TRUE(TakesDroppedFiles(*program));
+}
+
+TEST_F(DroppedFileTest, PathsOfDragsKeepTheirBytes) {
+  const auto path = [](const char* list) {
+    QMimeData data;
+    data.setData("text/uri-list", list);
+    return DroppedPath(data);
+  };
+  EXPECT_EQ(path("file:///tmp/a%20b%25.nx4\r\n"), "/tmp/a b%.nx4");
+  EXPECT_EQ(path("file:///tmp/%8aC.nx4\r\n"),
+            "/tmp/\x8a"
+            "C.nx4");
+  EXPECT_EQ(path("file:///tmp/%E8%A8%88.nx4\r\n"), "/tmp/計.nx4");
+  EXPECT_EQ(path("file:///tmp/a.nx4\r\nfile:///tmp/b.nx4\r\n"), "");
+  EXPECT_EQ(path("https://example.org/a.nx4\r\n"), "");
+  EXPECT_EQ(path(""), "");
+}
+
+TEST_F(DroppedFileTest, LinksToElsewhereAreNoFiles) {
+  QMimeData data;
+  EXPECT_FALSE(CarriesFiles(data));
+  data.setData("text/uri-list", "https://example.org/a.nx4\r\n");
+  EXPECT_FALSE(CarriesFiles(data));
+  data.setData("text/uri-list", "https://example.org/a.nx4\r\nfile:///tmp/a.nx4\r\n");
+  EXPECT_TRUE(CarriesFiles(data));
+}
+
 TEST_F(DroppedFileTest, FileOfNoKnownKindIsTold) {
   Drop("C:\\VELDRIN\\DAT\\note.txt");
   ASSERT_EQ(simulated.boxes.shown.size(), 1U);
