@@ -5,18 +5,50 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace veldrin {
 namespace {
 
-/// Windows that count how often one is to be dragged.
+using Lines = std::vector<std::string>;
+
+/// Windows that count how often one is to be dragged, and tell what is written to a control or to them.
 struct CountingWindows : SimulatedWindows {
   using SimulatedWindows::SimulatedWindows;
   std::vector<Window*> dragged;
+  std::function<void(const std::string& name)> onWrite;
 
   void StartDrag(Window& window) override { dragged.push_back(&window); }
+  void SlotWritten(Control& control, const char* slot, bool changed) override {
+    SimulatedWindows::SlotWritten(control, slot, changed);
+    if (onWrite) onWrite(control.FullName() + "." + slot);
+  }
+};
+
+/// Figures of the machine that tell when they are asked for, and for which drive.
+struct TellingFigures : SimulatedFigures {
+  std::function<void(const std::string& question)> onQuestion;
+
+  MemoryFigures Memory() const override {
+    if (onQuestion) onQuestion("memory");
+    return SimulatedFigures::Memory();
+  }
+  DiskFigures Disk(const std::string& root) const override {
+    if (onQuestion) onQuestion("disk " + root);
+    return SimulatedFigures::Disk(root);
+  }
+};
+
+/// A sound that tells what it is to play.
+struct TellingSound : SimulatedSound {
+  using SimulatedSound::SimulatedSound;
+  std::function<void(const std::string& path)> onPlay;
+
+  void Play(const std::string& path) override {
+    if (onPlay) onPlay(path);
+  }
 };
 
 /// A shell on which every command fails with the fault of its turn, 0 for none, and that is asked for links.
@@ -43,6 +75,8 @@ struct AboutWindow : testing::Test {
   SimulatedMachine simulated;
   CountingWindows windows{simulated.clock, simulated.log};
   FailingShell shell;
+  TellingSound sound{simulated.files, simulated.log};
+  TellingFigures figures;
   Machine machine{simulated.files,
                   simulated.registry,
                   simulated.profile,
@@ -55,8 +89,8 @@ struct AboutWindow : testing::Test {
                   simulated.printer,
                   simulated.pictures,
                   shell,
-                  simulated.sound,
-                  simulated.figures};
+                  sound,
+                  figures};
   Program program{machine};
 
   AboutWindow() { AttachAboutWindow(program); }
@@ -70,7 +104,56 @@ struct AboutWindow : testing::Test {
     form10.UnloadWindow();
     return text;
   }
+  /// What is written, asked and played from now on.
+  Lines deeds;
+  void TakeDown() {
+    deeds.clear();
+    windows.onWrite = [this](const std::string& name) { deeds.push_back(name); };
+    figures.onQuestion = [this](const std::string& question) { deeds.push_back(question); };
+    sound.onPlay = [this](const std::string& path) { deeds.push_back("sound " + path); };
+  }
 };
+
+TEST_F(AboutWindow, StandsInItsPlaceWithItsPicturesBeforeItTakesItsFigures) {
+  program.workspace.AppPath = "D:\\VELDRIN";
+  TakeDown();
+  program.form10.Load();
+  ASSERT_GE(deeds.size(), 2U);
+  std::sort(deeds.begin(), deeds.begin() + 2);  // Either of the two may come first.
+  EXPECT_EQ(
+      deeds,
+      (Lines{"Form10.Left", "Form10.Top", "Form10.Picture_Close.Image", "Form10.Picture_Roll.Image", "memory",
+             "Form10.Label_CPU.Caption", "Form10.Label_Ram.Caption", "Form10.Label_VirRam.Caption",
+             "Form10.Label_Res.Caption", "Form10.Label_Free.Caption", "disk C:\\", "Form10.Label_HDD.Caption",
+             "Form10.Label41.Visible", "Form10.Label_Version.Caption"}));
+}
+
+TEST_F(AboutWindow, TakesTheDiskOfDriveCWhereverTheProgramAndTheFolderAre) {
+  simulated.files.AddFolder("D:\\VELDRIN");
+  simulated.files.SetCurrentFolder("D:\\VELDRIN");
+  simulated.environment.Set("windir", "D:\\WINDOWS");
+  for (const char* folder : {"D:\\VELDRIN", "C:\\VELDRIN", "\\\\SERVER\\SHARE", ""}) {
+    program.workspace.AppPath = folder;
+    TakeDown();
+    program.form10.Load().UnloadWindow();
+    EXPECT_EQ(std::count(deeds.begin(), deeds.end(), "disk C:\\"), 1) << folder;
+  }
+}
+
+TEST_F(AboutWindow, RollsWithTheSoundFirstAndInOneStep) {
+  program.workspace.AppPath = "D:\\VELDRIN";
+  Form10& form10 = program.form10.Load();
+  TakeDown();
+  form10.Picture_Roll.Click();
+  EXPECT_EQ(deeds, (Lines{"sound D:\\VELDRIN\\rollup.wav", "Form10.Height", "Form10.Line1.Visible",
+                          "Form10.Line2.Visible"}));
+  EXPECT_EQ(form10.Height, 330);
+  TakeDown();
+  form10.Picture_Roll.Click();
+  EXPECT_EQ(deeds, (Lines{"sound D:\\VELDRIN\\unroll.wav", "Form10.Height", "Form10.Line1.Visible",
+                          "Form10.Line2.Visible"}));
+  EXPECT_EQ(form10.Height, 4830);
+}
 
 TEST_F(AboutWindow, LeftButtonOnTheBackgroundDragsTheWindow) {
   Form10& form10 = program.form10.Load();

@@ -6,6 +6,7 @@
 
 #include <limits>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace veldrin {
@@ -75,6 +76,34 @@ TEST_F(Meter, FillsFromTheBottomWithPartsThatDoNotMeet) {
   EXPECT_EQ(Drawn()[3], "fill 0 0 100 80 255,255,255 mode=notxor");
 }
 
+TEST_F(Meter, FromTheBottomNothingHasTheWholeHeightAndEverythingNone) {
+  struct Case {
+    std::int32_t value;
+    std::int32_t held;
+    const char* full;
+    const char* empty;
+  };
+  const Case cases[] = {{0, 0, "fill 0 100 100 100 ", "fill 0 0 100 0 "},
+                        {-1, 0, "fill 0 100 100 100 ", "fill 0 0 100 0 "},
+                        {1, 1, "fill 0 100 100 99 ", "fill 0 0 100 1 "},
+                        {50, 50, "fill 0 100 100 50 ", "fill 0 0 100 50 "},
+                        {99, 99, "fill 0 100 100 1 ", "fill 0 0 100 99 "},
+                        {100, 100, "fill 0 100 100 0 ", "fill 0 0 100 100 "},
+                        {101, 100, "fill 0 100 100 0 ", "fill 0 0 100 100 "}};
+  meter.SetDirection(1);
+  meter.SetText("");
+  meter.SetShowNumber(false);
+  for (const Case& c : cases) {
+    Drawn();
+    meter.SetValue(c.value);
+    EXPECT_EQ(meter.Value(), c.held) << c.value;
+    EXPECT_EQ(Drawn(),
+              (Lines{"fill 0 0 100 100 255,255,255 mode=copy", std::string(c.full) + "0,0,128 mode=notxor",
+                     std::string(c.empty) + "255,255,255 mode=notxor"}))
+        << c.value;
+  }
+}
+
 TEST_F(Meter, AnyOtherDirectionDrawsNoBar) {
   for (const int direction : {2, -1, std::numeric_limits<int>::max()}) {
     meter.SetDirection(direction);
@@ -104,6 +133,20 @@ TEST_F(Meter, HoldsTheValueWithinItsEnds) {
     meter.SetValue(c.value);
     EXPECT_EQ(meter.Value(), c.held) << c.value;
     EXPECT_EQ(Drawn()[2], "fill 0 0 " + std::to_string(c.held) + " 1000 0,0,128 mode=notxor") << c.value;
+  }
+}
+
+TEST_F(Meter, AMaxBelowNothingIsTheValueItself) {
+  clsProgressBar withoutSurface;
+  withoutSurface.SetMax(-5);
+  EXPECT_EQ(withoutSurface.Value(), -5);
+  meter.SetMax(-5);
+  EXPECT_EQ(meter.Value(), -5);
+  for (const std::int32_t value : {-7, -5, -3, -1, 0, 10}) {
+    withoutSurface.SetValue(value);
+    meter.SetValue(value);
+    EXPECT_EQ(withoutSurface.Value(), -5) << value;
+    EXPECT_EQ(meter.Value(), -5) << value;
   }
 }
 
@@ -196,6 +239,35 @@ TEST_F(Meter, RefreshDrawsTheSameAgain) {
   EXPECT_EQ(first[2], "fill 0 0 30 1000 0,0,128 mode=notxor");
 }
 
+TEST_F(Meter, TheSurfaceIsRefreshedInTheEnd) {
+  Drawn();
+  std::vector<std::size_t> drawn;
+  surface.changed = [&] { drawn.push_back(surface.Drawing().size()); };
+  meter.SetValue(30);
+  // The surface tells each of the four, and the meter that it is done.
+  EXPECT_EQ(drawn, (std::vector<std::size_t>{1, 2, 3, 4, 4}));
+  surface.changed = nullptr;
+}
+
+TEST_F(Meter, TheTextIsDrawnInTheInvertedModeAndTheBarsColour) {
+  meter.SetBarColor(kRed);
+  Drawn();
+  surface.drawMode = DrawMode::Copy;
+  surface.foreColour = kBlack;
+  bool told = false;
+  surface.changed = [&] {
+    const std::vector<Primitive>& drawing = surface.Drawing();
+    if (told || drawing.empty() || !std::holds_alternative<TextPrimitive>(drawing.back().shape)) return;
+    told = true;
+    EXPECT_EQ(surface.drawMode, DrawMode::NotXorPen);
+    EXPECT_EQ(surface.foreColour, kRed);
+    EXPECT_EQ(drawing.size(), 2U);
+  };
+  meter.SetValue(30);
+  EXPECT_TRUE(told);
+  surface.changed = nullptr;
+}
+
 TEST_F(Meter, ScaleIsTakenInWholeNumbers) {
   surface.SetScale({0, 0, 100.5, 40.5});
   Drawn();
@@ -206,6 +278,27 @@ TEST_F(Meter, ScaleIsTakenInWholeNumbers) {
   // Rounded half to even, but for the lower edge of the empty part.
   EXPECT_EQ(Drawn(), (Lines{"fill 0 0 100 40 255,255,255 mode=copy", "fill 0 0 30 40 0,0,128 mode=notxor",
                             "fill 30 0 100 40.5 255,255,255 mode=notxor"}));
+}
+
+TEST_F(Meter, TextStandsInTheMiddleOfTheWholeNumbers) {
+  surface.SetScale({0, 0, 101.5, 41.5});
+  Drawn();
+  meter.SetValue(30);
+  // The middle is that of 102 by 42; the text is as large as the scale itself makes it: 3 * 90 * 101.5 / 2000
+  // by 216 * 41.5 / 1000.
+  EXPECT_EQ(Drawn(),
+            (Lines{"fill 0 0 102 42 255,255,255 mode=copy", Text("44.14875 16.518", "30%"),
+                   "fill 0 0 30 42 0,0,128 mode=notxor", "fill 30 0 102 41.5 255,255,255 mode=notxor"}));
+}
+
+TEST_F(Meter, FromTheBottomTheScaleIsTakenInWholeNumbersAsWell) {
+  meter.SetDirection(1);
+  surface.SetScale({0, 0, 101.5, 41.5});
+  Drawn();
+  meter.SetValue(30);
+  EXPECT_EQ(Drawn(),
+            (Lines{"fill 0 0 102 42 255,255,255 mode=copy", Text("44.14875 16.518", "30%"),
+                   "fill 0 42 102 12 0,0,128 mode=notxor", "fill 0 0 102 30 255,255,255 mode=notxor"}));
 }
 
 TEST_F(Meter, DefaultsAreThoseOfAPercentage) {
