@@ -1,6 +1,7 @@
 #include "desktop/accessible_name.h"
 
 #include "desktop/fitted_text.h"
+#include "desktop/shown_control.h"
 #include "view/window.h"
 
 #include <QPointF>
@@ -120,6 +121,22 @@ QString AccessibleName(const Control& control) {
   if (name.isEmpty()) name = HeadOf(control);
   if (control.index != Control::kNoIndex) name += QStringLiteral(" %1").arg(control.index);
   return name.trimmed();
+}
+
+QString AccessibleValue(const Control& control) {
+  const QRectF place = PlaceInWindow(control);
+  double nearest = kNoHead;
+  QString text;
+  for (const Control* other : control.window.controls) {
+    if (other->kind != ControlKind::Label || !IsShown(*other)) continue;
+    const QRectF label = PlaceInWindow(*other);
+    const bool sameRow = label.top() <= place.center().y() && place.center().y() <= label.bottom();
+    const double distance = std::max(place.left() - label.right(), label.left() - place.right());
+    if (!sameRow || distance < -kClose || distance >= nearest) continue;
+    nearest = distance;
+    text = CaptionOf(*other);
+  }
+  return text;
 }
 
 QString AccessibleDescription(const Control& control) {

@@ -16,4 +16,8 @@ QString AccessibleName(const Control& control);
 /// What a label tells, where a picture heads it; empty for others.
 QString AccessibleDescription(const Control& control);
 
+/// What a spin button turns: the text of the label that is seen nearest in its row, on either side; empty
+/// where there is none.
+QString AccessibleValue(const Control& control);
+
 }  // namespace veldrin

@@ -1,5 +1,6 @@
 #include "desktop/button_widget.h"
 
+#include "desktop/accessible_name.h"
 #include "desktop/fitted_text.h"
 #include "desktop/text_ends.h"
 
@@ -16,6 +17,7 @@ namespace {
 const QColor kOffText(110, 110, 110);
 const QColor kRing(70, 70, 70);
 const QColor kOffRing(140, 140, 140);
+constexpr double kFocusInset = 3;  // between a button's edge and the ring of the focus
 
 bool IsPressingKey(const QKeyEvent& event) {
   return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -42,17 +44,28 @@ OptionButton* Neighbour(const OptionButton& option, int step) {
   return inside ? options[static_cast<std::size_t>(place)] : nullptr;
 }
 
+/// The ring of what has the focus, as wide as the zoom asks.
+void PaintFocus(QPainter& painter, const QRect& ring, const QColor& colour, double factor) {
+  const int width = std::max(1, qRound(factor));
+  painter.setClipRegion(QRegion(ring) - ring.adjusted(width, width, -width, -width));
+  painter.fillRect(ring, colour);
+  painter.setClipping(false);
+}
+
 }  // namespace
 
 ButtonWidget::ButtonWidget(Button& button, Stage& stage, QWidget* parent)
     : ControlWidget(button, stage, parent) {
   setAutoDefault(false);
+  connect(this, &QPushButton::clicked, this, [this] {
+    if (!byMouse_) ClickedOtherwise();
+  });
 }
 
 void ButtonWidget::Take(std::string_view slot) {
   if (slot == "Caption") {
     setText(ToWidgetText(static_cast<const Button&>(*control_).Caption));
-    setAccessibleName(WithoutMarks(text()));
+    setAccessibleName(AccessibleName(*control_));
   } else {
     ControlWidget::Take(slot);
   }
@@ -75,6 +88,18 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
   if (isDown()) room.translate(1, 1);
   painter.setPen(isEnabled() ? palette().color(QPalette::ButtonText) : kOffText);
   DrawFitted(painter, room, WithoutMarks(text()), font(), Qt::AlignHCenter);
+  if (!hasFocus()) return;
+  const int inset = qRound(kFocusInset * stage_->zoom.Factor());
+  PaintFocus(painter, rect().adjusted(inset, inset, -inset, -inset), palette().color(QPalette::ButtonText),
+             stage_->zoom.Factor());
+}
+
+/// The way up of the mouse is a gesture of its own, told behind Qt's click.
+void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
+  byMouse_ = true;
+  QPushButton::mouseReleaseEvent(event);
+  byMouse_ = false;
+  Released(*event);
 }
 
 /// The keyboard does what the mouse does, events of the mouse included: some buttons act on those alone.
@@ -87,12 +112,23 @@ bool ButtonWidget::OwnKey(QKeyEvent& event) {
 OptionWidget::OptionWidget(OptionButton& option, Stage& stage, QWidget* parent)
     : ControlWidget(option, stage, parent) {
   setAutoExclusive(false);
+  connect(this, &QRadioButton::clicked, this, [this] {
+    if (!byMouse_) ClickedOtherwise();
+  });
+  connect(this, &QRadioButton::toggled, this, [this] {
+    if (control_ == nullptr || stage_->applying > 0) return;
+    ClickedOtherwise();
+    if (control_ == nullptr) return;
+    const Applying applying(*stage_);
+    Take("Value");
+  });
 }
 
 void OptionWidget::Take(std::string_view slot) {
   const auto& option = static_cast<const OptionButton&>(*control_);
   if (slot == "Caption") {
     setText(ToWidgetText(option.Caption));
+    setAccessibleName(AccessibleName(option));
   } else if (slot == "Value") {
     setChecked(option.Value);
   } else {
@@ -124,15 +160,18 @@ void OptionWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.drawEllipse(ring.adjusted(inset, inset, -inset, -inset));
   }
   painter.setRenderHint(QPainter::Antialiasing, false);
-  if (hasFocus()) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette().color(QPalette::WindowText), 1, Qt::DotLine));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
-  }
+  if (hasFocus()) PaintFocus(painter, rect(), palette().color(QPalette::WindowText), factor);
   if (text().isEmpty()) return;
   painter.setPen(palette().color(QPalette::WindowText));
   DrawFitted(painter, QRectF(rect()).adjusted(size + 4 * factor, 0, -1, 0), WithoutMarks(text()), font(),
              Qt::AlignLeft);
+}
+
+void OptionWidget::mouseReleaseEvent(QMouseEvent* event) {
+  byMouse_ = true;
+  QRadioButton::mouseReleaseEvent(event);
+  byMouse_ = false;
+  Released(*event);
 }
 
 bool OptionWidget::OwnKey(QKeyEvent& event) {

@@ -17,7 +17,11 @@ class ButtonWidget : public ControlWidget<QPushButton> {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   bool OwnKey(QKeyEvent& event) override;
+
+ private:
+  bool byMouse_ = false;
 };
 
 class OptionWidget : public ControlWidget<QRadioButton> {
@@ -29,10 +33,14 @@ class OptionWidget : public ControlWidget<QRadioButton> {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   bool OwnKey(QKeyEvent& event) override;
   bool hitButton(const QPoint& point) const override { return rect().contains(point); }
   /// The program chooses.
   void nextCheckState() override {}
+
+ private:
+  bool byMouse_ = false;
 };
 
 }  // namespace veldrin

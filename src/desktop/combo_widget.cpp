@@ -25,10 +25,12 @@ ComboWidget::ComboWidget(Control& control, Stage& stage, QWidget* parent)
   if (IsEditable(control)) {
     setEditable(true);
     setCompleter(nullptr);
-    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-      if (control_ == nullptr || stage_->applying > 0) return;
-      Do([&, record = control_] { return user::EnterText(*record, ToSlotText(text)); });
-      if (control_ != nullptr) TakeText();
+    connect(lineEdit(), &QLineEdit::textEdited, this, &ComboWidget::EnterText);
+    // Screen readers write without what Qt calls editing. An entry that is picked comes by `activated`.
+    // The program may have written another text by now than the one that is told.
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this] {
+      const QString text = lineEdit()->text();
+      if (text != shownText_ && text != itemText(currentIndex())) EnterText(text);
     });
   }
   connect(this, &QComboBox::activated, this, [this](int place) {
@@ -40,6 +42,12 @@ ComboWidget::ComboWidget(Control& control, Stage& stage, QWidget* parent)
     }
     if (control_ != nullptr) TakeText();
   });
+}
+
+void ComboWidget::EnterText(const QString& text) {
+  if (control_ == nullptr || stage_->applying > 0) return;
+  Do([&, record = control_] { return user::EnterText(*record, ToSlotText(text)); });
+  if (control_ != nullptr) TakeText();
 }
 
 const std::string& ComboWidget::RecordText() const {

@@ -29,6 +29,7 @@ class ComboWidget : public ControlWidget<QComboBox> {
   const std::vector<std::string>& RecordEntries() const;
   int RecordIndex() const;
   void TakeText();
+  void EnterText(const QString& text);
 
   QString shownText_;
   bool stale_ = true;

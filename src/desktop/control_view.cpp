@@ -6,7 +6,9 @@
 #include "desktop/keys.h"
 #include "desktop/placement.h"
 #include "desktop/pointer_gestures.h"
+#include "desktop/reach.h"
 
+#include <QCoreApplication>
 #include <QPalette>
 
 namespace veldrin {
@@ -117,6 +119,10 @@ void PlacedView::FocusCame() {
   Do([control = control_] { return user::Focus(*control); });
 }
 
+void PlacedView::ClickedOtherwise() {
+  if (control_ != nullptr) Do([control = control_] { return user::Click(*control); });
+}
+
 void PlacedView::Pressed(const QMouseEvent& event) {
   const int button = ButtonNumber(event);
   if (control_ == nullptr || button == 0) return;
@@ -155,6 +161,7 @@ void PlacedView::Released(const QMouseEvent& event) {
 bool PlacedView::KeyPressed(QKeyEvent& event) {
   if (control_ == nullptr) return true;
   Control& control = *control_;
+  if (!stage_->keysAlone && ServeReached(*stage_, control.window, *Widget(), event)) return true;
   if (ServeTab(*stage_, control.window, event)) return true;
   const int number = KeyNumber(event);
   if (number != 0 && control.FindEvent("KeyDown") != nullptr) {
@@ -163,7 +170,13 @@ bool PlacedView::KeyPressed(QKeyEvent& event) {
     if (control.window.focus != &control || !user::Reachable(control)) return true;
   }
   if (stage_->keysAlone) return true;
-  return OwnKey(event) || ServeEscape(*stage_, control.window, event);
+  return OwnKey(event) || ServeEscape(*stage_, control.window, event) ||
+         ServeReach(*stage_, control.window, *Widget(), event);
+}
+
+bool PlacedView::HandOnWheel(QEvent& event) {
+  QCoreApplication::sendEvent(Widget()->window(), &event);
+  return event.isAccepted();
 }
 
 }  // namespace veldrin

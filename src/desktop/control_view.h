@@ -83,6 +83,8 @@ class PlacedView : public ControlView {
 
   /// The focus came to the widget by a way of Qt's own.
   void FocusCame();
+  /// A click that neither mouse nor keys did: a screen reader's.
+  void ClickedOtherwise();
 
  protected:
   /// Whether the pointer is down on the widget.
@@ -104,6 +106,8 @@ class PlacedView : public ControlView {
   void Released(const QMouseEvent& event);
   /// Whether the key was served, so that the widget must not see it.
   bool KeyPressed(QKeyEvent& event);
+  /// A turn of the wheel that the widget has no use for may scroll its window. Whether it did.
+  bool HandOnWheel(QEvent& event);
 
   /// Whether a click inside fires the control's own Click. Lists pick what was clicked.
   virtual bool ClicksItself() const { return true; }

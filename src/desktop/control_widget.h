@@ -27,7 +27,14 @@ class ControlWidget : public Base, public PlacedView {
     }
     const bool served = Base::event(event);
     if (event->type() == QEvent::FocusIn) FocusCame();
+    if (event->type() == QEvent::Wheel && !(served && event->isAccepted())) return HandOnWheel(*event);
     return served;
+  }
+
+  /// Areas with a viewport get the wheel from there.
+  void wheelEvent(QWheelEvent* event) override {
+    Base::wheelEvent(event);
+    if (!event->isAccepted()) HandOnWheel(*event);
   }
 
   void mousePressEvent(QMouseEvent* event) override {

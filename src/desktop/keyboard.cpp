@@ -1,5 +1,7 @@
 #include "desktop/keyboard.h"
 
+#include "desktop/reach.h"
+#include "desktop/shown_control.h"
 #include "runtime/text.h"
 #include "view/user_input.h"
 
@@ -27,6 +29,14 @@ bool ReadsCancel(const Control& control) {
   if (control.kind != ControlKind::Button) return false;
   const std::string& caption = static_cast<const Button&>(control).Caption;
   return EqualsIgnoringCase(caption, "Cancel") || caption == "キャンセル";
+}
+
+/// Windows beside the main one, unless they say Cancel, if only in grey. The splash has nothing to close it
+/// by.
+bool MayCloseByEscape(const Window& window) {
+  if (window.hasMenu || !(window.hasFrame || window.isModal)) return false;
+  return std::none_of(window.controls.begin(), window.controls.end(),
+                      [](const Control* control) { return ReadsCancel(*control) && IsShown(*control); });
 }
 
 }  // namespace
@@ -57,14 +67,23 @@ bool ServeTab(Stage& stage, const Window& window, const QKeyEvent& event) {
   return true;
 }
 
-bool ServeEscape(Stage& stage, const Window& window, const QKeyEvent& event) {
+bool ServeEscape(Stage& stage, Window& window, const QKeyEvent& event) {
   if (event.key() != Qt::Key_Escape || event.modifiers() != Qt::NoModifier) return false;
   Control* target = CancelButton(window);
   const bool inList = window.focus != nullptr && window.focus->kind == ControlKind::Grid;
   if (inList) target = NextByTab(window, true);
-  if (target == nullptr) return false;
+  if (target == nullptr) {
+    if (inList || !MayCloseByEscape(window)) return false;
+    stage.input.Do([&] { return user::Close(window, CloseReason::User); });
+    return true;
+  }
   stage.input.Do([&] { return inList ? user::Focus(*target) : user::Click(*target); });
   return true;
+}
+
+bool ServeWindowKey(Stage& stage, Window& window, const QWidget& widget, const QKeyEvent& event) {
+  return ServeReached(stage, window, widget, event) || ServeTab(stage, window, event) ||
+         ServeEscape(stage, window, event) || ServeReach(stage, window, widget, event);
 }
 
 }  // namespace veldrin

@@ -19,7 +19,12 @@ Control* CancelButton(const Window& window);
 /// Tab and Shift+Tab. False for other keys.
 bool ServeTab(Stage& stage, const Window& window, const QKeyEvent& event);
 
-/// Escape: presses Cancel, and leaves a list that popped up. False for other keys and where neither is there.
-bool ServeEscape(Stage& stage, const Window& window, const QKeyEvent& event);
+/// Escape: presses Cancel, and leaves a list that popped up; it closes a window that the user can close and
+/// that has neither. False for other keys and where there is nothing to leave.
+bool ServeEscape(Stage& stage, Window& window, const QKeyEvent& event);
+
+/// A key that the window gets itself, as none of its controls has the focus or used the key. False for keys
+/// that mean nothing here.
+bool ServeWindowKey(Stage& stage, Window& window, const QWidget& widget, const QKeyEvent& event);
 
 }  // namespace veldrin

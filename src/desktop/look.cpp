@@ -1,5 +1,6 @@
 #include "desktop/look.h"
 
+#include "desktop/accessible_control.h"
 #include "desktop/artwork.h"
 
 #include <QPalette>
@@ -21,6 +22,7 @@ void SetUpLook(QApplication& application) {
   palette.setColor(QPalette::Highlight, kSelected);
   palette.setColor(QPalette::HighlightedText, Qt::white);
   QApplication::setPalette(palette);
+  InstallAccessibleControls();
   QApplication::setWindowIcon(ProgramIcon());
   application.setApplicationName("veldrin");
   application.setApplicationVersion(VELDRIN_VERSION);

@@ -2,11 +2,24 @@
 
 #include "desktop/wheel.h"
 
-#include <QSignalBlocker>
+#include <QPalette>
 
 #include <algorithm>
 
 namespace veldrin {
+
+namespace {
+
+constexpr double kOffArrows = 0.2;
+constexpr double kOffThumb = 0.35;
+
+/// The colour that is this part of the way from one to another.
+QColor Between(const QColor& one, const QColor& other, double part) {
+  const auto mix = [part](double a, double b) { return qRound(a + (b - a) * part); };
+  return {mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue())};
+}
+
+}  // namespace
 
 ScrollBarWidget::ScrollBarWidget(ScrollBar& bar, Stage& stage, QWidget* parent)
     : ControlWidget(bar, stage, parent) {
@@ -30,6 +43,17 @@ void ScrollBarWidget::Take(std::string_view slot) {
   } else {
     ControlWidget::Take(slot);
   }
+}
+
+/// A bar that is off is paler, its arrows most of all.
+void ScrollBarWidget::TakeColours() {
+  ControlWidget::TakeColours();
+  QPalette colours = palette();
+  const QColor back = colours.color(QPalette::Active, QPalette::Window);
+  const QColor fore = colours.color(QPalette::Active, QPalette::WindowText);
+  colours.setColor(QPalette::Disabled, QPalette::WindowText, Between(back, fore, kOffArrows));
+  colours.setColor(QPalette::Disabled, QPalette::Button, Between(back, Qt::white, kOffThumb));
+  setPalette(colours);
 }
 
 Shown ScrollBarWidget::WhatShows() const {

@@ -16,6 +16,7 @@ class ScrollBarWidget : public ControlWidget<QScrollBar> {
 
  protected:
   bool ClicksItself() const override { return false; }
+  void TakeColours() override;
   void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 

@@ -1,7 +1,9 @@
 #include "desktop/spin_widget.h"
 
+#include "desktop/accessible_name.h"
 #include "desktop/wheel.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QPolygonF>
 #include <QStyleOptionButton>
@@ -14,6 +16,7 @@ namespace {
 
 constexpr int kFirstRepeat = 400;  // ms
 constexpr int kNextRepeat = 70;
+const QColor kOffArrow(150, 150, 150);
 
 }  // namespace
 
@@ -44,6 +47,19 @@ void SpinWidget::Step() {
       !Do([control, up] { return user::Spin(static_cast<SpinButton&>(*control), up); })) {
     Stop();
   }
+  TellTurned();
+}
+
+/// Tells screen readers what is turned to.
+void SpinWidget::TellTurned() {
+  if (control_ == nullptr || !QAccessible::isActive()) return;
+  QAccessibleValueChangeEvent event(this, AccessibleValue(*control_));
+  QAccessible::updateAccessibility(&event);
+}
+
+void SpinWidget::Turn(bool up) {
+  up_ = up;
+  Step();
 }
 
 void SpinWidget::Stop() {
@@ -91,6 +107,12 @@ void SpinWidget::changeEvent(QEvent* event) {
   ControlWidget::changeEvent(event);
 }
 
+/// The control's own colour, but never a dark one on a button that is off.
+QColor SpinWidget::ArrowColour() const {
+  const QColor own = palette().color(QPalette::Active, QPalette::ButtonText);
+  return isEnabled() || qGray(own.rgb()) > qGray(kOffArrow.rgb()) ? own : kOffArrow;
+}
+
 void SpinWidget::PaintArrow(QPainter& painter, bool up) const {
   const QRect half = ArrowRect(up);
   QStyleOptionButton face;
@@ -114,7 +136,7 @@ void SpinWidget::PaintArrow(QPainter& painter, bool up) const {
   }
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(palette().color(QPalette::Active, QPalette::ButtonText));
+  painter.setBrush(ArrowColour());
   painter.drawPolygon(arrow.translated(middle));
   painter.setRenderHint(QPainter::Antialiasing, false);
 }

@@ -14,6 +14,8 @@ class SpinWidget : public ControlWidget<QWidget> {
 
   /// The half of the button that holds an arrow.
   QRect ArrowRect(bool up) const;
+  /// One turn that the mouse did not ask for.
+  void Turn(bool up);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -27,8 +29,10 @@ class SpinWidget : public ControlWidget<QWidget> {
 
  private:
   void Step();
+  void TellTurned();
   void Stop();
   void PaintArrow(QPainter& painter, bool up) const;
+  QColor ArrowColour() const;
 
   QTimer repeat_;
   bool held_ = false;

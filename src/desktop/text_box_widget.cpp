@@ -1,7 +1,9 @@
 #include "desktop/text_box_widget.h"
 
+#include "desktop/dropped_file.h"
 #include "desktop/text_ends.h"
 
+#include <QDragEnterEvent>
 #include <QFocusEvent>
 
 namespace veldrin {
@@ -29,8 +31,9 @@ Qt::Alignment AlignmentOf(Align align) {
 LineBoxWidget::LineBoxWidget(TextBox& box, Stage& stage, QWidget* parent)
     : ControlWidget(box, stage, parent) {
   setAlignment(AlignmentOf(box.look.align));
-  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-    if (control_ == nullptr || stage_->applying > 0) return;
+  // Screen readers write without what Qt calls editing.
+  connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (control_ == nullptr || stage_->applying > 0 || text == ToWidgetText(Record().Text)) return;
     Do([&, control = control_] { return user::EnterText(*control, ToSlotText(text)); });
     if (control_ != nullptr) TakeText();
   });
@@ -61,6 +64,11 @@ Shown LineBoxWidget::WhatShows() const {
 bool LineBoxWidget::event(QEvent* event) {
   if (BelongsToMenu(event, hasSelectedText() && !selectedByItself_, isUndoAvailable())) return true;
   return ControlWidget::event(event);
+}
+
+void LineBoxWidget::dragEnterEvent(QDragEnterEvent* event) {
+  event->ignore();
+  if (!CarriesFiles(*event->mimeData())) ControlWidget::dragEnterEvent(event);
 }
 
 void LineBoxWidget::focusInEvent(QFocusEvent* event) {
@@ -107,6 +115,11 @@ Shown TextAreaWidget::WhatShows() const {
 bool TextAreaWidget::event(QEvent* event) {
   if (BelongsToMenu(event, textCursor().hasSelection(), document()->isUndoAvailable())) return true;
   return ControlWidget::event(event);
+}
+
+void TextAreaWidget::dragEnterEvent(QDragEnterEvent* event) {
+  event->ignore();
+  if (!CarriesFiles(*event->mimeData())) ControlWidget::dragEnterEvent(event);
 }
 
 }  // namespace veldrin

@@ -4,6 +4,8 @@
 // has selected something and calculates otherwise; Ctrl+X always cuts, so that nobody quits while he edits;
 // Ctrl+Z takes back what was typed and, when nothing is left to take back, shows the combination. What a box
 // selects by itself, when the keyboard comes to it, is to be typed over and is nothing to copy.
+//
+// Text can be dropped on a box. Files are the window's.
 #pragma once
 
 #include "desktop/control_widget.h"
@@ -22,6 +24,7 @@ class LineBoxWidget : public ControlWidget<QLineEdit> {
 
  protected:
   bool event(QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
 
  private:
@@ -40,6 +43,7 @@ class TextAreaWidget : public ControlWidget<QPlainTextEdit> {
 
  protected:
   bool event(QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
 
  private:
   const TextBox& Record() const { return static_cast<const TextBox&>(*control_); }

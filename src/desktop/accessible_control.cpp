@@ -1,0 +1,110 @@
+#include "desktop/accessible_control.h"
+
+#include "desktop/accessible_name.h"
+#include "desktop/reach.h"
+#include "desktop/spin_widget.h"
+
+#include <QAccessibleWidget>
+#include <QRegularExpression>
+
+#include <limits>
+
+namespace veldrin {
+
+namespace {
+
+/// The number that a text begins with; 0 for none.
+double LeadingNumber(const QString& text) {
+  static const QRegularExpression kNumber(QStringLiteral("^[+-]?\\d+(\\.\\d+)?"));
+  return kNumber.match(text).captured().toDouble();
+}
+
+/// A spin button. What it turns is a text beside it, which also describes it; not all of them are numbers, so
+/// each way to a higher or lower one is one turn.
+class AccessibleSpin : public QAccessibleWidget, public QAccessibleValueInterface {
+ public:
+  AccessibleSpin(QWidget& widget, PlacedView& view)
+      : QAccessibleWidget(&widget, QAccessible::SpinBox), view_(&view) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+  }
+
+  QString text(QAccessible::Text what) const override {
+    if (what == QAccessible::Value || what == QAccessible::Description) return Turned();
+    return QAccessibleWidget::text(what);
+  }
+
+  QStringList actionNames() const override {
+    if (!widget()->isEnabled()) return {};
+    return {increaseAction(), decreaseAction()};
+  }
+
+  void doAction(const QString& name) override {
+    if (name == increaseAction()) Turn(true);
+    if (name == decreaseAction()) Turn(false);
+  }
+
+  QVariant currentValue() const override { return LeadingNumber(Turned()); }
+  void setCurrentValue(const QVariant& value) override {
+    const double now = LeadingNumber(Turned());
+    if (value.toDouble() != now) Turn(value.toDouble() > now);
+  }
+  QVariant maximumValue() const override { return std::numeric_limits<double>::max(); }
+  QVariant minimumValue() const override { return std::numeric_limits<double>::lowest(); }
+  QVariant minimumStepSize() const override { return 1.0; }
+
+ private:
+  QString Turned() const { return view_->Shows() == nullptr ? QString() : AccessibleValue(*view_->Shows()); }
+  void Turn(bool up) const {
+    if (widget()->isEnabled()) dynamic_cast<SpinWidget&>(*view_).Turn(up);
+  }
+
+  PlacedView* view_;
+};
+
+/// A label or picture that is pressed like a button.
+class AccessiblePress : public QAccessibleWidget {
+ public:
+  AccessiblePress(QWidget& widget, PlacedView& view)
+      : QAccessibleWidget(&widget, QAccessible::Button), view_(&view) {}
+
+  /// A label is called by its text, if by nothing else.
+  QString text(QAccessible::Text what) const override {
+    const QString text = QAccessibleWidget::text(what);
+    if (what != QAccessible::Name || !text.isEmpty() || view_->Shows() == nullptr) return text;
+    return QString::fromStdString(view_->WhatShows().text.value_or(""));
+  }
+
+  QStringList actionNames() const override {
+    if (!widget()->isEnabled()) return {};
+    return {pressAction()};
+  }
+
+  void doAction(const QString& name) override {
+    if (name == pressAction() && widget()->isEnabled()) view_->ClickedOtherwise();
+  }
+
+ private:
+  PlacedView* view_;
+};
+
+/// Qt asks while the widget is being made: its kind is known by its control, but not yet by its class.
+QAccessibleInterface* MakeAccess(const QString& /*className*/, QObject* object) {
+  auto* view = dynamic_cast<PlacedView*>(object);
+  if (view == nullptr || view->Shows() == nullptr) return nullptr;
+  auto& widget = *static_cast<QWidget*>(object);
+  if (view->Shows()->kind == ControlKind::SpinButton) return new AccessibleSpin(widget, *view);
+  if (AnswersClicks(*view->Shows())) return new AccessiblePress(widget, *view);
+  return nullptr;
+}
+
+}  // namespace
+
+void InstallAccessibleControls() {
+  QAccessible::removeFactory(MakeAccess);
+  QAccessible::installFactory(MakeAccess);
+}
+
+}  // namespace veldrin
