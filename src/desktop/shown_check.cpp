@@ -23,22 +23,6 @@ const T* ValueOf(const Control& control, std::string_view name) {
   return &std::get<Slot<T>*>(*any)->get();
 }
 
-/// The entries of a list; null for kinds without.
-const std::vector<std::string>* EntriesOf(const Control& control) {
-  switch (control.kind) {
-    case ControlKind::ComboBox:
-      return &static_cast<const ComboBox&>(control).entries;
-    case ControlKind::DriveBox:
-      return &static_cast<const DriveBox&>(control).entries;
-    case ControlKind::FolderBox:
-      return &static_cast<const FolderBox&>(control).entries;
-    case ControlKind::FileBox:
-      return &static_cast<const FileBox&>(control).entries;
-    default:
-      return nullptr;
-  }
-}
-
 std::string Joined(const std::vector<std::string>& entries) {
   std::string text;
   for (const std::string& entry : entries) text += (text.empty() ? "" : ",") + entry;

@@ -36,22 +36,6 @@ Window& AsWindow(Control& control) {
   return static_cast<Window&>(control);
 }
 
-/// The entries of a list; null for kinds without.
-const std::vector<std::string>* EntriesOf(const Control& control) {
-  switch (control.kind) {
-    case ControlKind::ComboBox:
-      return &static_cast<const ComboBox&>(control).entries;
-    case ControlKind::DriveBox:
-      return &static_cast<const DriveBox&>(control).entries;
-    case ControlKind::FolderBox:
-      return &static_cast<const FolderBox&>(control).entries;
-    case ControlKind::FileBox:
-      return &static_cast<const FileBox&>(control).entries;
-    default:
-      return nullptr;
-  }
-}
-
 bool HasEntries(const Control& control) {
   return EntriesOf(control) != nullptr;
 }

@@ -20,16 +20,18 @@ void On(Context& context, Event& event, void (*handler)(Context&, int argument))
   event.Bind([&context, handler](int argument) { handler(context, argument); });
 }
 
-/// The event of every element, those that the array grows by included.
-template <class Context, class T>
-void OnEach(Context& context, ControlArray<T>& array, Event T::*event, void (*handler)(Context&, int index)) {
+/// The event of every element, those that the array grows by included. `Owner` is the kind of the elements,
+/// or what kinds have in common.
+template <class Context, class T, class Owner>
+void OnEach(Context& context, ControlArray<T>& array, Event Owner::*event,
+            void (*handler)(Context&, int index)) {
   array.ForEach([&context, event, handler](T& element) {
     (element.*event).Bind([&context, handler, index = element.index](int) { handler(context, index); });
   });
 }
 
-template <class Context, class T>
-void OnEach(Context& context, ControlArray<T>& array, Event T::*event,
+template <class Context, class T, class Owner>
+void OnEach(Context& context, ControlArray<T>& array, Event Owner::*event,
             void (*handler)(Context&, int index, int argument)) {
   array.ForEach([&context, event, handler](T& element) {
     (element.*event).Bind([&context, handler, index = element.index](int argument) {

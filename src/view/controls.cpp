@@ -152,14 +152,7 @@ PlacedControl::PlacedControl(ControlKind kind, const char* name, Control& parent
       Left(*this, "Left", place.left),
       Top(*this, "Top", place.top),
       Width(*this, "Width", place.width, SizeChanged),
-      Height(*this, "Height", place.height, SizeChanged),
-      BackColor(*this, "BackColor", look.back),
-      ForeColor(*this, "ForeColor", look.fore),
-      FontName(*this, "FontName", "Arial"),
-      FontSize(*this, "FontSize", look.fontSize),
-      FontBold(*this, "FontBold", look.fontBold),
-      FontItalic(*this, "FontItalic", false),
-      MousePointer(*this, "MousePointer", kPointerDefault) {
+      Height(*this, "Height", place.height, SizeChanged) {
   HavePlaced();
 }
 
@@ -168,14 +161,7 @@ PlacedControl::PlacedControl(const char* name, const Place& place, const Look& l
       Left(*this, "Left", place.left),
       Top(*this, "Top", place.top),
       Width(*this, "Width", place.width, SizeChanged),
-      Height(*this, "Height", place.height, SizeChanged),
-      BackColor(*this, "BackColor", look.back),
-      ForeColor(*this, "ForeColor", look.fore),
-      FontName(*this, "FontName", "Arial"),
-      FontSize(*this, "FontSize", look.fontSize),
-      FontBold(*this, "FontBold", look.fontBold),
-      FontItalic(*this, "FontItalic", false),
-      MousePointer(*this, "MousePointer", kPointerDefault) {
+      Height(*this, "Height", place.height, SizeChanged) {
   HavePlaced();
 }
 
@@ -186,59 +172,31 @@ void PlacedControl::HavePlaced() {
 
 Label::Label(const char* name, Control& parent, const Place& place, const Look& look)
     : PlacedControl(ControlKind::Label, name, parent, place, look),
-      Caption(*this, "Caption", look.caption, FireChange<Label>),
-      Change(*this, "Change"),
-      Click(*this, "Click"),
-      DblClick(*this, "DblClick"),
-      MouseDown(*this, "MouseDown"),
-      MouseUp(*this, "MouseUp") {
+      Caption(*this, "Caption", look.caption, FireChange<Label>) {
   Have(Caption);
 }
 
 TextBox::TextBox(const char* name, Control& parent, const Place& place, const Look& look, bool severalLines)
-    : PlacedControl(ControlKind::TextBox, name, parent, place, look),
+    : FocusControl(ControlKind::TextBox, name, parent, place, look),
       multiLine(severalLines),
-      Text(*this, "Text", look.caption, FireChange<TextBox>),
-      Change(*this, "Change"),
-      Click(*this, "Click"),
-      DblClick(*this, "DblClick"),
-      MouseDown(*this, "MouseDown"),
-      MouseUp(*this, "MouseUp"),
-      KeyDown(*this, "KeyDown"),
-      GotFocus(*this, "GotFocus"),
-      LostFocus(*this, "LostFocus") {
+      Text(*this, "Text", look.caption, FireChange<TextBox>) {
   Have(Text);
 }
 
 Button::Button(const char* name, Control& parent, const Place& place, const Look& look)
-    : PlacedControl(ControlKind::Button, name, parent, place, look),
-      Caption(*this, "Caption", look.caption),
-      Click(*this, "Click"),
-      MouseDown(*this, "MouseDown"),
-      MouseUp(*this, "MouseUp"),
-      KeyDown(*this, "KeyDown"),
-      GotFocus(*this, "GotFocus"),
-      LostFocus(*this, "LostFocus") {
+    : FocusControl(ControlKind::Button, name, parent, place, look), Caption(*this, "Caption", look.caption) {
   Have(Caption);
 }
 
 OptionButton::OptionButton(const char* name, Control& parent, const Place& place, const Look& look)
-    : PlacedControl(ControlKind::OptionButton, name, parent, place, look),
+    : FocusControl(ControlKind::OptionButton, name, parent, place, look),
       Caption(*this, "Caption", look.caption),
-      Value(*this, "Value", false, OptionChanged),
-      Click(*this, "Click"),
-      MouseDown(*this, "MouseDown"),
-      MouseUp(*this, "MouseUp"),
-      KeyDown(*this, "KeyDown"),
-      GotFocus(*this, "GotFocus"),
-      LostFocus(*this, "LostFocus") {
+      Value(*this, "Value", false, OptionChanged) {
   Have(Caption, Value);
 }
 
 SpinButton::SpinButton(const char* name, Control& parent, const Place& place, const Look& look)
-    : PlacedControl(ControlKind::SpinButton, name, parent, place, look),
-      SpinDown(*this, "SpinDown"),
-      SpinUp(*this, "SpinUp") {}
+    : PlacedControl(ControlKind::SpinButton, name, parent, place, look) {}
 
 ScrollBar::ScrollBar(const char* name, Control& parent, const Place& place, const Range& range,
                      const Look& look)
@@ -247,34 +205,25 @@ ScrollBar::ScrollBar(const char* name, Control& parent, const Place& place, cons
       largeChange(range.largeChange),
       Min(*this, "Min", range.min, EndChanged),
       Max(*this, "Max", range.max, EndChanged),
-      Value(*this, "Value", range.value, FireChange<ScrollBar>, HeldWithinEnds),
-      Change(*this, "Change") {
+      Value(*this, "Value", range.value, FireChange<ScrollBar>, HeldWithinEnds) {
   Have(Min, Max, Value);
 }
 
 TimerControl::TimerControl(const char* name, Control& parent, int interval, bool enabled)
     : Control(ControlKind::Timer, name, parent, Look{.enabled = enabled}),
-      Interval(*this, "Interval", interval),
-      Timer(*this, "Timer") {
+      Interval(*this, "Interval", interval) {
   Have(Interval);
 }
 
 Menu::Menu(const char* name, Control& parent, const char* caption, const char* keys, const Look& look)
-    : Control(ControlKind::Menu, name, parent, look),
-      shortcut(keys),
-      Caption(*this, "Caption", caption),
-      Click(*this, "Click") {
+    : Control(ControlKind::Menu, name, parent, look), shortcut(keys), Caption(*this, "Caption", caption) {
   Have(Caption);
 }
 
 Picture::Picture(const char* name, Control& parent, const Place& place, const Look& look)
     : PlacedControl(ControlKind::Picture, name, parent, place, look),
       Image(*this, "Image", 0),
-      surface(parent.window.desk.machine.metrics),
-      Click(*this, "Click"),
-      DblClick(*this, "DblClick"),
-      MouseDown(*this, "MouseDown"),
-      MouseUp(*this, "MouseUp") {
+      surface(parent.window.desk.machine.metrics) {
   Have(Image);
   surface.SetSize(place.width, place.height);
   surface.font = {FontName, FontSize, FontBold, FontItalic};
@@ -292,14 +241,9 @@ Line::Line(const char* name, Control& parent, float x1, float y1, float x2, floa
 }
 
 Grid::Grid(const char* name, Control& parent, const Place& place, const Look& look)
-    : PlacedControl(ControlKind::Grid, name, parent, place, look),
+    : FocusControl(ControlKind::Grid, name, parent, place, look),
       Cols(*this, "Cols", 1, GridShapeChanged),
-      Rows(*this, "Rows", 1, GridShapeChanged),
-      Click(*this, "Click"),
-      KeyDown(*this, "KeyDown"),
-      GotFocus(*this, "GotFocus"),
-      LostFocus(*this, "LostFocus"),
-      Pick(*this, "Pick") {
+      Rows(*this, "Rows", 1, GridShapeChanged) {
   Have(Cols, Rows);
   Shape();
 }
@@ -340,16 +284,11 @@ void Grid::Shape() {
 
 ComboBox::ComboBox(const char* name, Control& parent, const Place& place, const Look& look,
                    std::vector<std::string> list, bool canEdit)
-    : PlacedControl(ControlKind::ComboBox, name, parent, place, look),
+    : FocusControl(ControlKind::ComboBox, name, parent, place, look),
       editable(canEdit),
       entries(std::move(list)),
       Text(*this, "Text", look.caption, ComboTextChanged),
-      ListIndex(*this, "ListIndex", -1, ComboPicked, HeldWithinList<ComboBox>),
-      Change(*this, "Change"),
-      Click(*this, "Click"),
-      KeyDown(*this, "KeyDown"),
-      GotFocus(*this, "GotFocus"),
-      LostFocus(*this, "LostFocus") {
+      ListIndex(*this, "ListIndex", -1, ComboPicked, HeldWithinList<ComboBox>) {
   Have(Text, ListIndex);
 }
 
@@ -365,31 +304,21 @@ void ComboBox::Clear() {
 }
 
 DriveBox::DriveBox(const char* name, Control& parent, const Place& place, const Look& look)
-    : PlacedControl(ControlKind::DriveBox, name, parent, place, look),
+    : FocusControl(ControlKind::DriveBox, name, parent, place, look),
       entries(parent.window.desk.machine.files.Drives()),
       Drive(*this, "Drive",
             parent.window.desk.machine.files.DriveOf(parent.window.desk.machine.files.CurrentFolder()),
             DriveChanged, HeldDrive),
-      ListIndex(*this, "ListIndex", -1, DrivePicked, HeldWithinList<DriveBox>),
-      Change(*this, "Change"),
-      Click(*this, "Click"),
-      KeyDown(*this, "KeyDown"),
-      GotFocus(*this, "GotFocus"),
-      LostFocus(*this, "LostFocus") {
+      ListIndex(*this, "ListIndex", -1, DrivePicked, HeldWithinList<DriveBox>) {
   Have(Drive, ListIndex);
   const auto place2 = std::find(entries.begin(), entries.end(), Drive.get());
   if (place2 != entries.end()) ListIndex.Design(static_cast<int>(place2 - entries.begin()));
 }
 
 FolderBox::FolderBox(const char* name, Control& parent, const Place& place, const Look& look)
-    : PlacedControl(ControlKind::FolderBox, name, parent, place, look),
+    : FocusControl(ControlKind::FolderBox, name, parent, place, look),
       Path(*this, "Path", parent.window.desk.machine.files.CurrentFolder(), FolderChanged, HeldFolder),
-      ListIndex(*this, "ListIndex", -1, FolderHighlighted, HeldWithinList<FolderBox>),
-      Change(*this, "Change"),
-      Click(*this, "Click"),
-      KeyDown(*this, "KeyDown"),
-      GotFocus(*this, "GotFocus"),
-      LostFocus(*this, "LostFocus") {
+      ListIndex(*this, "ListIndex", -1, FolderHighlighted, HeldWithinList<FolderBox>) {
   Have(Path, ListIndex);
   Refresh();
 }
@@ -406,16 +335,11 @@ void FolderBox::Refresh() {
 }
 
 FileBox::FileBox(const char* name, Control& parent, const Place& place, const Look& look, const char* pattern)
-    : PlacedControl(ControlKind::FileBox, name, parent, place, look),
+    : FocusControl(ControlKind::FileBox, name, parent, place, look),
       Path(*this, "Path", parent.window.desk.machine.files.CurrentFolder(), FilesChanged, HeldFolder),
       Pattern(*this, "Pattern", pattern, FilesChanged),
       FileName(*this, "FileName", "", FileNamed, HeldFileName),
-      ListIndex(*this, "ListIndex", -1, FilePicked, HeldWithinList<FileBox>),
-      Click(*this, "Click"),
-      DblClick(*this, "DblClick"),
-      KeyDown(*this, "KeyDown"),
-      GotFocus(*this, "GotFocus"),
-      LostFocus(*this, "LostFocus") {
+      ListIndex(*this, "ListIndex", -1, FilePicked, HeldWithinList<FileBox>) {
   Have(Path, Pattern, FileName, ListIndex);
   Refresh();
 }
@@ -426,6 +350,21 @@ void FileBox::Refresh() {
   ListIndex.Put(-1);
   FileName.Put("");
   window.desk.machine.windows.ContentChanged(*this);
+}
+
+const std::vector<std::string>* EntriesOf(const Control& control) {
+  switch (control.kind) {
+    case ControlKind::ComboBox:
+      return &static_cast<const ComboBox&>(control).entries;
+    case ControlKind::DriveBox:
+      return &static_cast<const DriveBox&>(control).entries;
+    case ControlKind::FolderBox:
+      return &static_cast<const FolderBox&>(control).entries;
+    case ControlKind::FileBox:
+      return &static_cast<const FileBox&>(control).entries;
+    default:
+      return nullptr;
+  }
 }
 
 Dialog::Dialog(const char* name, Control& parent) : Control(ControlKind::Dialog, name, parent, {}) {}

@@ -21,13 +21,13 @@ struct PlacedControl : Control {
   Slot<float> Top;
   Slot<float> Width;
   Slot<float> Height;
-  Slot<Colour> BackColor;
-  Slot<Colour> ForeColor;
-  Slot<std::string> FontName;
-  Slot<float> FontSize;
-  Slot<bool> FontBold;
-  Slot<bool> FontItalic;
-  Slot<int> MousePointer;
+  Slot<Colour> BackColor{*this, "BackColor", look.back};
+  Slot<Colour> ForeColor{*this, "ForeColor", look.fore};
+  Slot<std::string> FontName{*this, "FontName", "Arial"};
+  Slot<float> FontSize{*this, "FontSize", look.fontSize};
+  Slot<bool> FontBold{*this, "FontBold", look.fontBold};
+  Slot<bool> FontItalic{*this, "FontItalic", false};
+  Slot<int> MousePointer{*this, "MousePointer", kPointerDefault};
 
  protected:
   PlacedControl(const char* name, const Place& place, const Look& look);
@@ -36,65 +36,65 @@ struct PlacedControl : Control {
   void HavePlaced();
 };
 
+/// A control that can have the focus.
+struct FocusControl : PlacedControl {
+  using PlacedControl::PlacedControl;
+
+  Event KeyDown{*this, "KeyDown"};
+  Event GotFocus{*this, "GotFocus"};
+  Event LostFocus{*this, "LostFocus"};
+};
+
 struct Label : PlacedControl {
   Label(const char* name, Control& parent, const Place& place, const Look& look = {});
 
   Slot<std::string> Caption;
-  Event Change;
-  Event Click;
-  Event DblClick;
-  Event MouseDown;
-  Event MouseUp;
+  Event Change{*this, "Change"};
+  Event Click{*this, "Click"};
+  Event DblClick{*this, "DblClick"};
+  Event MouseDown{*this, "MouseDown"};
+  Event MouseUp{*this, "MouseUp"};
 };
 
-struct TextBox : PlacedControl {
+struct TextBox : FocusControl {
   TextBox(const char* name, Control& parent, const Place& place, const Look& look = {},
           bool multiLine = false);
 
   const bool multiLine;
   Slot<std::string> Text;
-  Event Change;
-  Event Click;
-  Event DblClick;
-  Event MouseDown;
-  Event MouseUp;
-  Event KeyDown;
-  Event GotFocus;
-  Event LostFocus;
+  Event Change{*this, "Change"};
+  Event Click{*this, "Click"};
+  Event DblClick{*this, "DblClick"};
+  Event MouseDown{*this, "MouseDown"};
+  Event MouseUp{*this, "MouseUp"};
 };
 
-struct Button : PlacedControl {
+struct Button : FocusControl {
   Button(const char* name, Control& parent, const Place& place, const Look& look = {});
 
   Slot<std::string> Caption;
-  Event Click;
-  Event MouseDown;
-  Event MouseUp;
-  Event KeyDown;
-  Event GotFocus;
-  Event LostFocus;
+  Event Click{*this, "Click"};
+  Event MouseDown{*this, "MouseDown"};
+  Event MouseUp{*this, "MouseUp"};
 };
 
-struct OptionButton : PlacedControl {
+struct OptionButton : FocusControl {
   OptionButton(const char* name, Control& parent, const Place& place, const Look& look = {});
 
   Slot<std::string> Caption;
   /// Setting it clears the other options of the same panel, which stay silent.
   Slot<bool> Value;
-  Event Click;
-  Event MouseDown;
-  Event MouseUp;
-  Event KeyDown;
-  Event GotFocus;
-  Event LostFocus;
+  Event Click{*this, "Click"};
+  Event MouseDown{*this, "MouseDown"};
+  Event MouseUp{*this, "MouseUp"};
 };
 
 /// Two arrows. ForeColor is the arrows' colour.
 struct SpinButton : PlacedControl {
   SpinButton(const char* name, Control& parent, const Place& place, const Look& look = {});
 
-  Event SpinDown;
-  Event SpinUp;
+  Event SpinDown{*this, "SpinDown"};
+  Event SpinUp{*this, "SpinUp"};
 };
 
 struct Range {
@@ -114,7 +114,7 @@ struct ScrollBar : PlacedControl {
   Slot<int> Min;
   Slot<int> Max;
   Slot<int> Value;
-  Event Change;
+  Event Change{*this, "Change"};
 };
 
 /// Fires Timer every Interval milliseconds while it is enabled and its window is loaded.
@@ -122,7 +122,7 @@ struct TimerControl : Control {
   TimerControl(const char* name, Control& parent, int interval, bool enabled = false);
 
   Slot<int> Interval;
-  Event Timer;
+  Event Timer{*this, "Timer"};
 };
 
 /// An entry of a menu; the caption "-" is a separator, "(&X)" names its key.
@@ -132,7 +132,7 @@ struct Menu : Control {
 
   const std::string shortcut;  // such as "Ctrl+S", empty for none
   Slot<std::string> Caption;
-  Event Click;
+  Event Click{*this, "Click"};
 };
 
 /// A panel, and a drawing surface. Controls inside it are placed in the units of its scale.
@@ -142,10 +142,10 @@ struct Picture : PlacedControl {
   /// Number of the picture resource shown, 0 for none.
   Slot<int> Image;
   Surface surface;
-  Event Click;
-  Event DblClick;
-  Event MouseDown;
-  Event MouseUp;
+  Event Click{*this, "Click"};
+  Event DblClick{*this, "DblClick"};
+  Event MouseDown{*this, "MouseDown"};
+  Event MouseUp{*this, "MouseUp"};
 };
 
 struct Line : Control {
@@ -159,17 +159,14 @@ struct Line : Control {
 };
 
 /// Cells of text in rows and columns, counted from 0.
-struct Grid : PlacedControl {
+struct Grid : FocusControl {
   Grid(const char* name, Control& parent, const Place& place, const Look& look = {});
 
   Slot<int> Cols;
   Slot<int> Rows;
-  Event Click;
-  Event KeyDown;
-  Event GotFocus;
-  Event LostFocus;
+  Event Click{*this, "Click"};
   /// A cell was picked; row and column hold its place.
-  Event Pick;
+  Event Pick{*this, "Pick"};
   int row = 0;
   int column = 0;
 
@@ -192,7 +189,7 @@ struct Grid : PlacedControl {
 };
 
 /// A text with a list to pick from.
-struct ComboBox : PlacedControl {
+struct ComboBox : FocusControl {
   ComboBox(const char* name, Control& parent, const Place& place, const Look& look = {},
            std::vector<std::string> entries = {}, bool editable = true);
 
@@ -201,51 +198,42 @@ struct ComboBox : PlacedControl {
   Slot<std::string> Text;
   /// Picking an entry takes its text, which fires no Change.
   Slot<int> ListIndex;
-  Event Change;
-  Event Click;
-  Event KeyDown;
-  Event GotFocus;
-  Event LostFocus;
+  Event Change{*this, "Change"};
+  Event Click{*this, "Click"};
 
   void AddItem(const std::string& entry);
   void Clear();
 };
 
-struct DriveBox : PlacedControl {
+struct DriveBox : FocusControl {
   DriveBox(const char* name, Control& parent, const Place& place, const Look& look = {});
 
   std::vector<std::string> entries;
   /// Raises fault 68 for a drive that the machine does not have. Takes any path on the drive.
   Slot<std::string> Drive;
   Slot<int> ListIndex;
-  Event Change;
-  Event Click;
-  Event KeyDown;
-  Event GotFocus;
-  Event LostFocus;
+  Event Change{*this, "Change"};
+  Event Click{*this, "Click"};
 };
 
 /// The folders of a folder. Entry i is the full path of the i-th folder in it; ListIndex -1 is the folder
 /// itself.
-struct FolderBox : PlacedControl {
+struct FolderBox : FocusControl {
   FolderBox(const char* name, Control& parent, const Place& place, const Look& look = {});
 
   std::vector<std::string> entries;
   /// Raises the faults of a folder that cannot be had.
   Slot<std::string> Path;
   Slot<int> ListIndex;
-  Event Change;
-  Event Click;
-  Event KeyDown;
-  Event GotFocus;
-  Event LostFocus;
+  Event Change{*this, "Change"};
+  Event Click{*this, "Click"};
 
   /// Reads the folder again. Faults leave the list empty.
   void Refresh();
 };
 
 /// The files of a folder that match a pattern.
-struct FileBox : PlacedControl {
+struct FileBox : FocusControl {
   FileBox(const char* name, Control& parent, const Place& place, const Look& look = {},
           const char* pattern = "*.*");
 
@@ -255,15 +243,15 @@ struct FileBox : PlacedControl {
   /// The selected name. Raises fault 53 for a name that is not in the folder; the empty text selects nothing.
   Slot<std::string> FileName;
   Slot<int> ListIndex;
-  Event Click;
-  Event DblClick;
-  Event KeyDown;
-  Event GotFocus;
-  Event LostFocus;
+  Event Click{*this, "Click"};
+  Event DblClick{*this, "DblClick"};
 
   /// Reads the folder again; nothing is selected then. Faults leave the list empty.
   void Refresh();
 };
+
+/// The entries of a list; null for kinds without.
+const std::vector<std::string>* EntriesOf(const Control& control);
 
 /// A dialog of the platform that a window owns: nothing to see of it in the window.
 struct Dialog : Control {

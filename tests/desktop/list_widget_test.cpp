@@ -2,6 +2,7 @@
 
 #include "desktop/desktop_windows.h"
 #include "script/simulated_machine.h"
+#include "tests/machine_with.h"
 #include "workspace/program.h"
 
 #include <QApplication>
@@ -60,20 +61,7 @@ class ListWidgetTest : public ::testing::Test {
   SimulatedMachine simulated;
   Stage stage;
   DesktopWindows windows{stage};
-  Machine machine{simulated.files,
-                  simulated.registry,
-                  simulated.profile,
-                  simulated.environment,
-                  simulated.instances,
-                  simulated.screen,
-                  windows,
-                  simulated.boxes,
-                  simulated.metrics,
-                  simulated.printer,
-                  simulated.pictures,
-                  simulated.shell,
-                  simulated.sound,
-                  simulated.figures};
+  Machine machine = MachineWith(simulated, windows);
   std::unique_ptr<Program> program = std::make_unique<Program>(machine);
   std::shared_ptr<ListForm> form = std::make_shared<ListForm>(program->desk);
   int clicks = 0;

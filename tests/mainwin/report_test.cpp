@@ -2,6 +2,7 @@
 
 #include "mainwin/report_page.h"
 #include "script/simulated_machine.h"
+#include "tests/machine_with.h"
 
 #include <gtest/gtest.h>
 
@@ -74,20 +75,7 @@ struct Report : testing::Test {
   EvenMetrics metrics;
   KeptPictures pictures{metrics};
   FailingPrinter printer{metrics};
-  Machine machine{simulated.files,
-                  simulated.registry,
-                  simulated.profile,
-                  simulated.environment,
-                  simulated.instances,
-                  simulated.screen,
-                  simulated.windows,
-                  simulated.boxes,
-                  metrics,
-                  printer,
-                  pictures,
-                  simulated.shell,
-                  simulated.sound,
-                  simulated.figures};
+  Machine machine = MachineWith(simulated, metrics, printer, pictures);
   Program program{machine};
   Workspace& workspace = program.workspace;
 

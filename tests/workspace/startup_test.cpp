@@ -3,6 +3,7 @@
 #include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
 #include "script/simulated_machine.h"
+#include "tests/machine_with.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
@@ -100,20 +101,7 @@ TEST(StartupWithSlashes, LongPathsTakeTheNamesOnDisk) {
   SimulatedMachine simulated;
   SlashFiles files;
   files.AddFile("/home/Rider/Plans/Wet Race.nx4", "");
-  Machine machine{files,
-                  simulated.registry,
-                  simulated.profile,
-                  simulated.environment,
-                  simulated.instances,
-                  simulated.screen,
-                  simulated.windows,
-                  simulated.boxes,
-                  simulated.metrics,
-                  simulated.printer,
-                  simulated.pictures,
-                  simulated.shell,
-                  simulated.sound,
-                  simulated.figures};
+  Machine machine = MachineWith(simulated, files);
   Program program{machine};
   struct Case {
     const char* text;
