@@ -26,14 +26,14 @@ void DrawPrinter(Surface& surface) {
 }  // namespace
 
 ControlArray<Label>::Maker Form2::Column(const char* name, Control& parent, float left, float width,
-                                         const Look& row, std::vector<const char*> captions) {
+                                         const Look& row, const std::vector<const char*>& captions) {
   const auto head = Elements<Label>(name, parent, GearColumn(left, width, 255), kHead, captions);
   const auto rows = Elements<Label>(name, parent, GearColumn(left, width, 255), row, captions);
   return [head, rows](int index) { return index == 0 ? head(index) : rows(index); };
 }
 
-ControlArray<Menu>::Maker Form2::Entries(const char* name, Menu& parent, std::vector<const char*> captions,
-                                         const Look& look) {
+ControlArray<Menu>::Maker Form2::Entries(const char* name, Menu& parent,
+                                         const std::vector<const char*>& captions, const Look& look) {
   return [=, &parent](int index) {
     const auto place = static_cast<std::size_t>(index);
     return std::make_unique<Menu>(name, parent, place < captions.size() ? captions[place] : "", "", look);

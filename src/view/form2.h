@@ -64,10 +64,10 @@ struct Form2 : Window {
 
   /// Makes the labels of a column of gears: subscript 0 is its head, the others look like `row`.
   static ControlArray<Label>::Maker Column(const char* name, Control& parent, float left, float width,
-                                           const Look& row, std::vector<const char*> captions);
+                                           const Look& row, const std::vector<const char*>& captions);
   /// Makes the entries of a menu array. Those that it grows by have no caption.
-  static ControlArray<Menu>::Maker Entries(const char* name, Menu& parent, std::vector<const char*> captions,
-                                           const Look& look = {});
+  static ControlArray<Menu>::Maker Entries(const char* name, Menu& parent,
+                                           const std::vector<const char*>& captions, const Look& look = {});
   /// Makes an entry for each size of a picture; those too small for the report are hidden.
   static ControlArray<Menu>::Maker PictureSizes(const char* name, Menu& parent);
 

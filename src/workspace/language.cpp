@@ -42,9 +42,9 @@ void SetTitleTexts(Program& program, int instanceNumber) {
 void LoadLanguage(Program& program) {
   Workspace& workspace = program.workspace;
   if (workspace.Language == kJapanese) {
-    StoreTable(workspace, kJapaneseMessages);
+    StoreTable(workspace, JapaneseMessages);
   } else if (workspace.Language == kEnglish) {
-    StoreTable(workspace, kEnglishMessages);
+    StoreTable(workspace, EnglishMessages);
   } else {
     const std::string path =
         JoinPath(program.machine.files.Rules(), workspace.AppPath, workspace.Language + ".CAP");

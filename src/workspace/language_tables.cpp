@@ -3,7 +3,7 @@
 namespace veldrin {
 
 // clang-format off
-const MessageTexts kJapaneseMessages = {
+const MessageTexts JapaneseMessages = {
     "機種ファイル選択",
     "データファイル選択",
     "セーブファイル選択",
@@ -34,7 +34,7 @@ const MessageTexts kJapaneseMessages = {
     "参照するファイルを選んでください",
 };
 
-const MessageTexts kEnglishMessages = {
+const MessageTexts EnglishMessages = {
     "Load List File Select",
     "Load Data File Select",
     "Save File Select",

@@ -10,7 +10,7 @@ namespace veldrin {
 
 using MessageTexts = std::array<const char*, 28>;
 
-extern const MessageTexts kJapaneseMessages;
-extern const MessageTexts kEnglishMessages;
+extern const MessageTexts JapaneseMessages;
+extern const MessageTexts EnglishMessages;
 
 }  // namespace veldrin

@@ -14,13 +14,13 @@ namespace {
 
 TEST(MessageTables, EveryMessageHasAText) {
   for (int k = 0; k < kMessages; ++k) {
-    EXPECT_STRNE(kJapaneseMessages[k], "") << k + 1;
-    EXPECT_STRNE(kEnglishMessages[k], "") << k + 1;
+    EXPECT_STRNE(JapaneseMessages[k], "") << k + 1;
+    EXPECT_STRNE(EnglishMessages[k], "") << k + 1;
   }
 }
 
 TEST(MessageTables, TextsThatSteerTheFlowDiffer) {
-  for (const MessageTexts* texts : {&kJapaneseMessages, &kEnglishMessages}) {
+  for (const MessageTexts* texts : {&JapaneseMessages, &EnglishMessages}) {
     std::set<std::string> captions;
     for (const int number : {1, 2, 3, 4, 5, 27}) captions.insert((*texts)[number - 1]);
     EXPECT_EQ(captions.size(), 6U);
@@ -31,17 +31,17 @@ TEST(MessageTables, TextsThatSteerTheFlowDiffer) {
 }
 
 TEST(MessageTables, EnglishSixteenAndSeventeenDifferByOneTrailingBlank) {
-  EXPECT_STREQ(kEnglishMessages[15], "Processing file's data is changed !");
-  EXPECT_STREQ(kEnglishMessages[16], "Processing file's data is changed ! ");
+  EXPECT_STREQ(EnglishMessages[15], "Processing file's data is changed !");
+  EXPECT_STREQ(EnglishMessages[16], "Processing file's data is changed ! ");
 }
 
 TEST(MessageTables, BlanksInsideTextsAreKept) {
   const std::string blank = "\xE3\x80\x80";
-  EXPECT_EQ(kJapaneseMessages[7], "同名のファイルが存在します" + blank + "上書き？");
+  EXPECT_EQ(JapaneseMessages[7], "同名のファイルが存在します" + blank + "上書き？");
   std::string eight;
   for (int k = 0; k < 8; ++k) eight += blank;
-  EXPECT_EQ(kJapaneseMessages[10], "計算中です" + eight + "お待ち下さい");
-  EXPECT_EQ(kEnglishMessages[10], "Calcurating..." + std::string(15, ' ') + "Please wait.");
+  EXPECT_EQ(JapaneseMessages[10], "計算中です" + eight + "お待ち下さい");
+  EXPECT_EQ(EnglishMessages[10], "Calcurating..." + std::string(15, ' ') + "Please wait.");
 }
 
 TEST(Message, IsTheElementOfItsNumber) {
@@ -139,10 +139,10 @@ TEST_F(CaptionFile, WithoutItTheLanguageBecomesTheSystems) {
 TEST_F(CaptionFile, NamesOfBuiltInLanguagesNeedNone) {
   workspace.Language = "JP";
   LoadLanguage(program);
-  for (int k = 0; k < kMessages; ++k) EXPECT_EQ(Message(workspace, k + 1), kJapaneseMessages[k]);
+  for (int k = 0; k < kMessages; ++k) EXPECT_EQ(Message(workspace, k + 1), JapaneseMessages[k]);
   workspace.Language = "ENGLISH";
   LoadLanguage(program);
-  for (int k = 0; k < kMessages; ++k) EXPECT_EQ(Message(workspace, k + 1), kEnglishMessages[k]);
+  for (int k = 0; k < kMessages; ++k) EXPECT_EQ(Message(workspace, k + 1), EnglishMessages[k]);
 }
 
 TEST_F(CaptionFile, TitleTextsFollowTheCountry) {
