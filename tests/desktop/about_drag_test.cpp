@@ -56,20 +56,7 @@ class AboutDragTest : public ::testing::Test {
   SimulatedMachine simulated;
   Stage stage;
   DraggedWindows windows{stage};
-  Machine machine{simulated.files,
-                  simulated.registry,
-                  simulated.profile,
-                  simulated.environment,
-                  simulated.instances,
-                  simulated.screen,
-                  windows,
-                  simulated.boxes,
-                  simulated.metrics,
-                  simulated.printer,
-                  simulated.pictures,
-                  simulated.shell,
-                  simulated.sound,
-                  simulated.figures};
+  Machine machine = MachineWith(simulated, windows);
   std::unique_ptr<Program> program = std::make_unique<Program>(machine);
 };
 

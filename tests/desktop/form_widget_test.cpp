@@ -453,10 +453,7 @@ class DropTest : public ::testing::Test {
   Stage stage;
   DesktopWindows windows{stage};
   ScriptWindows scriptWindows{simulated.windows, windows};
-  Machine machine{simulated.files,     simulated.registry, simulated.profile,  simulated.environment,
-                  simulated.instances, simulated.screen,   scriptWindows,      simulated.boxes,
-                  simulated.metrics,   simulated.printer,  simulated.pictures, simulated.shell,
-                  simulated.sound,     simulated.figures};
+  Machine machine = MachineWith(simulated, scriptWindows);
   std::unique_ptr<Program> program = AssembleProgram(machine);
   std::unique_ptr<QMimeData> file{Files({QUrl::fromLocalFile("/tmp/a.nx4")})};
   std::unique_ptr<QMimeData> files{

@@ -4,6 +4,7 @@
 #include "desktop/desktop_windows.h"
 #include "desktop/script_windows.h"
 #include "script/simulated_machine.h"
+#include "tests/machine_with.h"
 #include "view/bind.h"
 #include "view/control_array.h"
 #include "workspace/program.h"
@@ -161,20 +162,7 @@ class WidgetsTest : public ::testing::Test {
   SimulatedMachine simulated;
   Stage stage;
   DesktopWindows windows{stage};
-  Machine machine{simulated.files,
-                  simulated.registry,
-                  simulated.profile,
-                  simulated.environment,
-                  simulated.instances,
-                  simulated.screen,
-                  windows,
-                  simulated.boxes,
-                  simulated.metrics,
-                  simulated.printer,
-                  simulated.pictures,
-                  simulated.shell,
-                  simulated.sound,
-                  simulated.figures};
+  Machine machine = MachineWith(simulated, windows);
   std::unique_ptr<Program> program = std::make_unique<Program>(machine);
   std::shared_ptr<TestForm> form = std::make_shared<TestForm>(program->desk);
   Events events;

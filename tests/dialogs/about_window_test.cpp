@@ -1,6 +1,7 @@
 #include "dialogs/about_window.h"
 
 #include "script/simulated_machine.h"
+#include "tests/machine_with.h"
 
 #include <gtest/gtest.h>
 
@@ -77,20 +78,7 @@ struct AboutWindow : testing::Test {
   FailingShell shell;
   TellingSound sound{simulated.files, simulated.log};
   TellingFigures figures;
-  Machine machine{simulated.files,
-                  simulated.registry,
-                  simulated.profile,
-                  simulated.environment,
-                  simulated.instances,
-                  simulated.screen,
-                  windows,
-                  simulated.boxes,
-                  simulated.metrics,
-                  simulated.printer,
-                  simulated.pictures,
-                  shell,
-                  sound,
-                  figures};
+  Machine machine = MachineWith(simulated, windows, shell, sound, figures);
   Program program{machine};
 
   AboutWindow() { AttachAboutWindow(program); }

@@ -1,6 +1,7 @@
 #include "dialogs/extension_registry.h"
 
 #include "script/simulated_machine.h"
+#include "tests/machine_with.h"
 #include "workspace/settings.h"
 
 #include <gtest/gtest.h>
@@ -77,20 +78,7 @@ struct ExtensionRegistry : testing::Test {
   TellingWindows windows{simulated.clock, simulated.log};
   TellingBoxes boxes{simulated.log};
   TellingShell shell{simulated.files, simulated.log};
-  Machine machine{simulated.files,
-                  registry,
-                  simulated.profile,
-                  simulated.environment,
-                  simulated.instances,
-                  simulated.screen,
-                  windows,
-                  boxes,
-                  simulated.metrics,
-                  simulated.printer,
-                  simulated.pictures,
-                  shell,
-                  simulated.sound,
-                  simulated.figures};
+  Machine machine = MachineWith(simulated, registry, windows, boxes, shell);
   Program program{machine};
   /// Everything that was done, in its order, and between it the numbers that had changed by then.
   Lines deeds;
