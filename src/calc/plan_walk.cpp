@@ -14,9 +14,9 @@ namespace veldrin {
 PlanWalk::PlanWalk(const Workspace& workspace, const Table<Reach, 1, kGears>& reach, FirstPass firstPass)
     : workspace_(workspace), reach_(reach), firstPass_(std::move(firstPass)) {
   for (int gear = 1; gear <= kGears; ++gear) pairs_[static_cast<std::size_t>(gear - 1)] = PairsOf(gear);
-  const auto count = static_cast<std::size_t>(workspace_.PrimaryCount * FinalRowCount(workspace_));
-  combinations_.resize(count);
-  needed_.assign(count, 1);
+  const int count = workspace_.PrimaryCount * FinalRowCount(workspace_);
+  combinations_.resize(static_cast<std::size_t>(count));
+  needed_.assign(static_cast<std::size_t>(count), 1);
 }
 
 PlanWalk::GearPairs PlanWalk::PairsOf(int gear) const {

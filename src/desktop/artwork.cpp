@@ -20,12 +20,12 @@ constexpr int kRollImage = 2006;
 constexpr int kRollPressedImage = 2007;
 constexpr double kButtonSize = 13;
 
-const QColor kInk(24, 32, 72);
-const QColor kStrip(206, 214, 230);
-const QColor kPanel(232, 236, 244);
-const QColor kNight(10, 14, 60);
-const QColor kSteel(190, 198, 214);
-const QColor kGlow(255, 205, 60);
+constexpr QColor kInk(24, 32, 72);
+constexpr QColor kStrip(206, 214, 230);
+constexpr QColor kPanel(232, 236, 244);
+constexpr QColor kNight(10, 14, 60);
+constexpr QColor kSteel(190, 198, 214);
+constexpr QColor kGlow(255, 205, 60);
 
 /// A sprocket around the origin: `teeth` of them between two radii.
 QPainterPath Sprocket(int teeth, double outer, double inner, double hole) {
@@ -80,6 +80,14 @@ void PaintSawTooth(QPainter& painter, const QRectF& room, const QColor& colour, 
   painter.drawPath(path);
 }
 
+bool IsClose(int number) {
+  return number == kCloseImage || number == kClosePressedImage;
+}
+
+bool IsRoll(int number) {
+  return number == kRollImage || number == kRollPressedImage;
+}
+
 void PaintStripButton(QPainter& painter, int number) {
   const bool pressed = number == kClosePressedImage || number == kRollPressedImage;
   const double shift = pressed ? 0.5 : 0;
@@ -88,7 +96,7 @@ void PaintStripButton(QPainter& painter, int number) {
   painter.drawRect(QRectF(0.5, 0.5, kButtonSize - 1, kButtonSize - 1));
   painter.setPen(QPen(kInk, 1.6, Qt::SolidLine, Qt::RoundCap));
   painter.translate(shift, shift);
-  if (number == kCloseImage || number == kClosePressedImage) {
+  if (IsClose(number)) {
     painter.drawLine(QPointF(4, 4), QPointF(9, 9));
     painter.drawLine(QPointF(9, 4), QPointF(4, 9));
   } else {
@@ -135,7 +143,7 @@ void PaintAbout(QPainter& painter) {
 }  // namespace
 
 void PaintImage(QPainter& painter, const QRectF& room, int number) {
-  if (number < kCloseImage || number > kRollPressedImage) return;
+  if (!IsClose(number) && !IsRoll(number)) return;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(room.topLeft());

@@ -14,9 +14,9 @@ namespace veldrin {
 
 namespace {
 
-const QColor kOffText(110, 110, 110);
-const QColor kRing(70, 70, 70);
-const QColor kOffRing(140, 140, 140);
+constexpr QColor kOffText(110, 110, 110);
+constexpr QColor kRing(70, 70, 70);
+constexpr QColor kOffRing(140, 140, 140);
 constexpr double kFocusInset = 3;  // between a button's edge and the ring of the focus
 
 bool IsPressingKey(const QKeyEvent& event) {

@@ -24,8 +24,8 @@ Qt::WindowFlags FlagsFor(const Window& window) {
 }
 
 // Qt writes its own mark for changed documents where a title has the first of these.
-const QString kMark = QStringLiteral("[*]");
-const QString kMarkItself = QStringLiteral("[*][*]");
+constexpr QLatin1String kMark("[*]");
+constexpr QLatin1String kMarkItself("[*][*]");
 
 }  // namespace
 

@@ -16,8 +16,8 @@ namespace veldrin {
 namespace {
 
 constexpr int kMiddleGrey = 128;
-const QColor kOffOnDark(150, 150, 150);
-const QColor kOffOnPale(100, 100, 100);
+constexpr QColor kOffOnDark(150, 150, 150);
+constexpr QColor kOffOnPale(100, 100, 100);
 
 Qt::Alignment AlignmentOf(Align align) {
   switch (align) {

@@ -10,8 +10,8 @@ namespace veldrin {
 
 namespace {
 
-const QColor kFace(226, 226, 226);
-const QColor kSelected(0, 90, 190);
+constexpr QColor kFace(226, 226, 226);
+constexpr QColor kSelected(0, 90, 190);
 
 }  // namespace
 

@@ -6,7 +6,7 @@ namespace veldrin {
 
 namespace {
 
-const std::string kSeparatorCaption = "-";
+constexpr char kSeparatorCaption[] = "-";
 
 }  // namespace
 

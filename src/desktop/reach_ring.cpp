@@ -12,8 +12,8 @@ namespace veldrin {
 namespace {
 
 // A pale line between two dark ones is seen on whatever lies below.
-const QColor kLine(255, 200, 0);
-const QColor kEdge(Qt::black);
+constexpr QColor kLine(255, 200, 0);
+constexpr QColor kEdge(0, 0, 0);
 constexpr int kLines = 3;
 
 void TellFocus(QWidget& widget) {

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kFirstRepeat = 400;  // ms
 constexpr int kNextRepeat = 70;
-const QColor kOffArrow(150, 150, 150);
+constexpr QColor kOffArrow(150, 150, 150);
 
 }  // namespace
 

@@ -15,7 +15,9 @@
 #include <optional>
 #include <utility>
 
-/// Asks the shortcuts of the active window for a key, as the keyboard does before any widget hears of it.
+/// Asks the shortcuts of the active window for a key, as the keyboard does before any widget hears of it. Qt
+/// has it for its own tests; the name is Qt's.
+// NOLINTNEXTLINE(readability-identifier-naming)
 Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* object, ulong time, int key,
                                                Qt::KeyboardModifiers modifiers, const QString& text = {},
                                                bool repeats = false, ushort count = 1);

@@ -96,7 +96,7 @@ TEST_F(SurfacePainterTest, NothingIsPaintedBesideTheArea) {
   QImage image(kSize * 2, kSize, QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
-  PaintDrawing(painter, surface.Drawing(), {QRectF(0, 0, kSize / 2, kSize), 1 / 15.0, Qt::white});
+  PaintDrawing(painter, surface.Drawing(), {QRect(0, 0, kSize / 2, kSize), 1 / 15.0, Qt::white});
   painter.end();
   for (int x = kSize / 2; x < image.width(); ++x) {
     for (int y = 0; y < image.height(); ++y) ASSERT_EQ(image.pixelColor(x, y), QColor(Qt::white));

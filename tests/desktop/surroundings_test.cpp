@@ -32,7 +32,7 @@ class Surroundings : public ::testing::Environment {
   std::unique_ptr<QApplication> application_;
 };
 
-const ::testing::Environment* const kSurroundings = ::testing::AddGlobalTestEnvironment(new Surroundings);
+const ::testing::Environment* const Standing = ::testing::AddGlobalTestEnvironment(new Surroundings);
 
 TEST(SurroundingsTest, TheSessionIsTheTestsOwn) {
   const QFileInfo session(qEnvironmentVariable("XDG_RUNTIME_DIR"));
