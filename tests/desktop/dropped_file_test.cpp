@@ -3,29 +3,22 @@
 #include "program/assemble.h"
 #include "program/event_boundary.h"
 #include "script/simulated_machine.h"
+#include "tests/desktop/sample_files.h"
 
 #include <gtest/gtest.h>
 
 namespace veldrin {
 namespace {
 
-constexpr char kList[] =
-    "LIST\r\nNX4\r\nFINAL-DRIVE\r\n16,99\r\nFINAL-DRIVEN\r\n40,99\r\nROWS,1,PRIMARY\r\n20,40\r\n99\r\n-\r\n-"
-    "\r\n"
-    "1A,10,40,2A,10,30,3A,10,24,4A,10,20,5A,10,16,6A,10,15\r\nM34-ARRAY\r\n0\r\n";
-constexpr char kPlan[] =
-    "FROM:NX4.RAT\r\n2\r\n10000\r\n60\r\n80\r\n100\r\n120\r\n150\r\n160\r\n20\r\n40\r\n16\r\n40\r\n"
-    "1A-2A-3A-4A-5A-6A\r\nremark\r\n";
-
 class DroppedFileTest : public ::testing::Test {
  protected:
   DroppedFileTest() {
-    simulated.files.AddFile("C:\\VELDRIN\\LIST\\NX4.RAT", kList);
-    std::string other = kList;
+    simulated.files.AddFile("C:\\VELDRIN\\LIST\\NX4.RAT", kSampleList);
+    std::string other = kSampleList;
     other.replace(other.find("NX4"), 3, "VT2");
     simulated.files.AddFile("C:\\VELDRIN\\LIST\\VT2.RAT", other);
-    simulated.files.AddFile("C:\\VELDRIN\\DAT\\A.nx4", kPlan);
-    std::string plan = kPlan;
+    simulated.files.AddFile("C:\\VELDRIN\\DAT\\A.nx4", kSamplePlan);
+    std::string plan = kSamplePlan;
     plan.replace(plan.find("NX4"), 3, "VT2");
     simulated.files.AddFile("C:\\VELDRIN\\DAT\\B.vt2", plan);
     simulated.files.AddFile("C:\\VELDRIN\\DAT\\note.txt", "no plan");
@@ -87,7 +80,7 @@ TEST_F(DroppedFileTest, PlanWhoseListCannotBeHadLeavesEverythingAsItWas) {
   Drop("C:\\VELDRIN\\DAT\\A.nx4");
   program->workspace.DataChanged = dirty::kYes;
   const std::string before = StateOf(*program);
-  std::string plan = kPlan;
+  std::string plan = kSamplePlan;
   plan.replace(plan.find("NX4"), 3, "ZZZ");
   simulated.files.AddFile("C:\\VELDRIN\\DAT\\C.zzz", plan);
   Drop("C:\\VELDRIN\\DAT\\C.zzz");
@@ -96,10 +89,10 @@ TEST_F(DroppedFileTest, PlanWhoseListCannotBeHadLeavesEverythingAsItWas) {
   EXPECT_EQ(simulated.boxes.shown[0].text, "C:\\VELDRIN\\LIST\\ZZZ.RAT\r\n\r\nSelected File is not exist !!");
 
   // One that breaks off, and one of another machine.
-  std::string half = kList;
+  std::string half = kSampleList;
   half.replace(half.find("NX4"), 3, "ZZZ");
   half.resize(half.find("M34-ARRAY"));
-  for (const std::string& list : {half, std::string(kList), std::string("no list"), std::string()}) {
+  for (const std::string& list : {half, std::string(kSampleList), std::string("no list"), std::string()}) {
     simulated.files.AddFile("C:\\VELDRIN\\LIST\\ZZZ.RAT", list);
     simulated.boxes.shown.clear();
     Drop("C:\\VELDRIN\\DAT\\C.zzz");
@@ -113,7 +106,7 @@ TEST_F(DroppedFileTest, PlanWhoseListCannotBeHadLeavesEverythingAsItWas) {
 TEST_F(DroppedFileTest, ListThatBreaksOffLeavesEverythingAsItWas) {
   Drop("C:\\VELDRIN\\DAT\\A.nx4");
   const std::string before = StateOf(*program);
-  std::string half = kList;
+  std::string half = kSampleList;
   half.replace(half.find("NX4"), 3, "ZZZ");
   half.resize(half.find("M34-ARRAY"));
   simulated.files.AddFile("C:\\VELDRIN\\LIST\\ZZZ.RAT", half);

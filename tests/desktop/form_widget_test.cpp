@@ -3,6 +3,7 @@
 #include "desktop/shown_check.h"
 #include "program/assemble.h"
 #include "program/event_boundary.h"
+#include "tests/desktop/sample_files.h"
 #include "tests/desktop/test_window.h"
 
 #include <QDragEnterEvent>
@@ -390,21 +391,13 @@ TEST(CornerInReach, BringsOthersOntoTheNearestScreen) {
 
 // ---- files that are dropped on the main window ----
 
-constexpr char kList[] =
-    "LIST\r\nNX4\r\nFINAL-DRIVE\r\n16,99\r\nFINAL-DRIVEN\r\n40,99\r\nROWS,1,PRIMARY\r\n20,40\r\n99\r\n-\r\n-"
-    "\r\n"
-    "1A,10,40,2A,10,30,3A,10,24,4A,10,20,5A,10,16,6A,10,15\r\nM34-ARRAY\r\n0\r\n";
-constexpr char kPlan[] =
-    "FROM:NX4.RAT\r\n2\r\n10000\r\n60\r\n80\r\n100\r\n120\r\n150\r\n160\r\n20\r\n40\r\n16\r\n40\r\n"
-    "1A-2A-3A-4A-5A-6A\r\nremark\r\n";
-
 /// The program's own main window with a plan in it, on widgets.
 class DropTest : public ::testing::Test {
  protected:
   DropTest() {
     stage.servesTimers = false;
-    simulated.files.AddFile("C:\\VELDRIN\\LIST\\NX4.RAT", kList);
-    simulated.files.AddFile("C:\\VELDRIN\\DAT\\A.nx4", kPlan);
+    simulated.files.AddFile("C:\\VELDRIN\\LIST\\NX4.RAT", kSampleList);
+    simulated.files.AddFile("C:\\VELDRIN\\DAT\\A.nx4", kSamplePlan);
     stage.input.Serve(program.get());
     stage.fileDropped = [this](const std::string& path) { opened.push_back(path); };
     StartProgram(*program, "");

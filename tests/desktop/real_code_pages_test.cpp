@@ -1,6 +1,7 @@
 #include "desktop/real_code_pages.h"
 
 #include "desktop/real_files.h"
+#include "tests/desktop/scratch_folder.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -15,60 +16,46 @@ constexpr char kJapaneseBytes[] =
     "3\x91\xAC\r\n";
 constexpr char kJapaneseText[] = "鈴鹿 ﾃｽﾄ ソ能表、3速\r\n";
 
-class RealCodePagesTest : public ::testing::Test {
+class RealCodePagesTest : public ::testing::Test, protected ScratchFolder {
  protected:
-  std::string In(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
-
-  void Put(const std::string& name, const QByteArray& bytes) const {
-    QFile file(QString::fromStdString(In(name)));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-  }
-
-  QByteArray Bytes(const std::string& name) const {
-    QFile file(QString::fromStdString(In(name)));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-  }
-
   static void SaveAs(RealFiles& machine, const std::string& path, const std::string& text) {
     const auto writer = machine.OpenForWriting(path);
     writer->Write(text);
     writer->Close();
   }
 
-  QTemporaryDir folder;
   RealFiles files{SystemCodePages(false)};
   RealFiles japanese{SystemCodePages(true)};
 };
 
 TEST_F(RealCodePagesTest, AJapaneseRemarkGoesBackByteForByte) {
   Put("plan.nx4", kJapaneseBytes);
-  const std::string text = japanese.ReadText(In("plan.nx4"));
+  const std::string text = japanese.ReadText(PathOf("plan.nx4"));
   EXPECT_EQ(text, kJapaneseText);
-  SaveAs(japanese, In("PLAN.nx4"), text);
+  SaveAs(japanese, PathOf("PLAN.nx4"), text);
   EXPECT_EQ(Bytes("plan.nx4"), kJapaneseBytes);
 }
 
 TEST_F(RealCodePagesTest, AJapaneseFileThatGetsAForeignCharacterBecomesUtf8) {
   Put("plan.nx4", kJapaneseBytes);
-  const std::string text = japanese.ReadText(In("plan.nx4")) + "한";
-  SaveAs(japanese, In("plan.nx4"), text);
+  const std::string text = japanese.ReadText(PathOf("plan.nx4")) + "한";
+  SaveAs(japanese, PathOf("plan.nx4"), text);
   EXPECT_EQ(Bytes("plan.nx4").toStdString(), text);
-  EXPECT_EQ(japanese.ReadText(In("plan.nx4")), text);
+  EXPECT_EQ(japanese.ReadText(PathOf("plan.nx4")), text);
 }
 
 TEST_F(RealCodePagesTest, NewFilesAreUtf8) {
-  SaveAs(japanese, In("new.nx4"), kJapaneseText);
+  SaveAs(japanese, PathOf("new.nx4"), kJapaneseText);
   EXPECT_EQ(Bytes("new.nx4").toStdString(), kJapaneseText);
-  EXPECT_EQ(japanese.ReadText(In("new.nx4")), kJapaneseText);
+  EXPECT_EQ(japanese.ReadText(PathOf("new.nx4")), kJapaneseText);
 }
 
 TEST_F(RealCodePagesTest, AUtf8FileStaysOne) {
   const QByteArray marked = QByteArray("\xEF\xBB\xBF") + kJapaneseText;
   Put("plan.nx4", marked);
-  const std::string text = japanese.ReadText(In("plan.nx4"));
+  const std::string text = japanese.ReadText(PathOf("plan.nx4"));
   EXPECT_EQ(text, kJapaneseText);
-  SaveAs(japanese, In("plan.nx4"), text);
+  SaveAs(japanese, PathOf("plan.nx4"), text);
   EXPECT_EQ(Bytes("plan.nx4"), marked);
 }
 
@@ -77,9 +64,9 @@ TEST_F(RealCodePagesTest, AWesternFileGoesBackByteForByte) {
       "Stra\xDF"
       "e \x80 5 \xB0 \x96\r\n";
   Put("plan.nx4", bytes);
-  const std::string text = files.ReadText(In("plan.nx4"));
+  const std::string text = files.ReadText(PathOf("plan.nx4"));
   EXPECT_EQ(text, "Straße € 5 ° –\r\n");
-  SaveAs(files, In("plan.nx4"), text);
+  SaveAs(files, PathOf("plan.nx4"), text);
   EXPECT_EQ(Bytes("plan.nx4"), bytes);
 }
 

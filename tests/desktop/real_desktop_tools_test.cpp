@@ -1,5 +1,6 @@
 #include "desktop/real_association.h"
 #include "tests/desktop/inherited_pipe.h"
+#include "tests/desktop/scratch_folder.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -13,7 +14,7 @@ namespace veldrin {
 namespace {
 
 /// A desktop whose tools tell when they begin and end. The first waits for somebody to say "go".
-class DesktopToolsTest : public ::testing::Test {
+class DesktopToolsTest : public ::testing::Test, protected ScratchFolder {
  protected:
   void SetUp() override {
     PutTool("update-mime-database",
@@ -35,17 +36,11 @@ class DesktopToolsTest : public ::testing::Test {
     qunsetenv("XDG_DATA_HOME");
   }
 
-  QString In(const QString& name) const { return folder.path() + "/" + name; }
-
   void PutTool(const QString& name, const QString& work) const {
-    QFile file(In(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     const auto tell = [&](const QString& word) {
       return "echo \"" + word + " " + name + " $*\" >> '" + In("log") + "'\n";
     };
-    file.write(("#!/bin/sh\n" + tell("begin") + work + tell("end")).toUtf8());
-    file.close();
-    chmod(QFile::encodeName(In(name)).constData(), 0755);
+    PutProgram(name, (tell("begin") + work + tell("end")).toUtf8());
   }
 
   void Go() const { QFile(In("go")).open(QIODevice::WriteOnly); }
@@ -55,7 +50,6 @@ class DesktopToolsTest : public ::testing::Test {
     return file.open(QIODevice::ReadOnly) ? QString(file.readAll()).replace(folder.path(), "IN") : QString();
   }
 
-  QTemporaryDir folder;
   InheritedPipe children;
 
  private:

@@ -3,6 +3,7 @@
 #include "desktop/real_code_pages.h"
 #include "runtime/fault.h"
 #include "tests/desktop/child_process.h"
+#include "tests/desktop/scratch_folder.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,21 +24,8 @@ namespace {
 constexpr uid_t kNobody = 65534;
 
 /// A folder of its own for each test, which the files make nothing outside of.
-class RealFilesTest : public ::testing::Test {
+class RealFilesTest : public ::testing::Test, protected ScratchFolder {
  protected:
-  std::string In(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
-
-  void Put(const std::string& name, const QByteArray& bytes) const {
-    QFile file(QString::fromStdString(In(name)));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-  }
-
-  QByteArray Bytes(const std::string& name) const {
-    QFile file(QString::fromStdString(In(name)));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-  }
-
   void MakeFolder(const std::string& name) const { QDir(folder.path()).mkpath(QString::fromStdString(name)); }
 
   QStringList Names() const {
@@ -45,12 +33,11 @@ class RealFilesTest : public ::testing::Test {
   }
 
   void Save(const std::string& name, const std::string& text) {
-    const auto writer = files.OpenForWriting(In(name));
+    const auto writer = files.OpenForWriting(PathOf(name));
     writer->Write(text);
     writer->Close();
   }
 
-  QTemporaryDir folder;
   RealFiles files{SystemCodePages(false)};
 };
 
@@ -70,29 +57,29 @@ TEST_F(RealFilesTest, PathsFollowTheSystem) {
 TEST_F(RealFilesTest, NamesAreFoundWithoutRegardToCaseInEachPart) {
   MakeFolder("List/Sub");
   Put("List/Sub/Nx4.Rat", "LIST");
-  EXPECT_TRUE(files.FileExists(In("LIST/SUB/NX4.RAT")));
-  EXPECT_EQ(files.ReadText(In("list/sub/nx4.rat")), "LIST");
-  EXPECT_EQ(files.LongName(In("LIST/SUB/NX4.RAT")), "Nx4.Rat");
-  EXPECT_EQ(files.LongName(In("LIST/sUB")), "Sub");
-  EXPECT_EQ(files.Size(In("LIST/SUB/nx4.RAT")), 4);
-  EXPECT_TRUE(files.FolderExists(In("LIST")));
-  EXPECT_EQ(files.ResolveFolder(In("LIST/SUB")), In("List/Sub"));
-  EXPECT_EQ(files.FindFirst(In("LIST/SUB/*.RAT")), "Nx4.Rat");
-  EXPECT_EQ(files.FindFirst(In("LIST/SUB/NX4.rat")), "Nx4.Rat");
+  EXPECT_TRUE(files.FileExists(PathOf("LIST/SUB/NX4.RAT")));
+  EXPECT_EQ(files.ReadText(PathOf("list/sub/nx4.rat")), "LIST");
+  EXPECT_EQ(files.LongName(PathOf("LIST/SUB/NX4.RAT")), "Nx4.Rat");
+  EXPECT_EQ(files.LongName(PathOf("LIST/sUB")), "Sub");
+  EXPECT_EQ(files.Size(PathOf("LIST/SUB/nx4.RAT")), 4);
+  EXPECT_TRUE(files.FolderExists(PathOf("LIST")));
+  EXPECT_EQ(files.ResolveFolder(PathOf("LIST/SUB")), PathOf("List/Sub"));
+  EXPECT_EQ(files.FindFirst(PathOf("LIST/SUB/*.RAT")), "Nx4.Rat");
+  EXPECT_EQ(files.FindFirst(PathOf("LIST/SUB/NX4.rat")), "Nx4.Rat");
 }
 
 TEST_F(RealFilesTest, JapaneseAndFullWidthNamesAreFoundToo) {
   Put("鈴鹿Ａ.nx4", "a");
-  EXPECT_EQ(files.LongName(In("鈴鹿ａ.NX4")), "鈴鹿Ａ.nx4");
+  EXPECT_EQ(files.LongName(PathOf("鈴鹿ａ.NX4")), "鈴鹿Ａ.nx4");
 }
 
 TEST_F(RealFilesTest, TheNameAsWrittenGoesFirst) {
   Put("PLAN.nx4", "capitals");
   Put("plan.nx4", "small");
-  EXPECT_EQ(files.ReadText(In("plan.nx4")), "small");
-  EXPECT_EQ(files.ReadText(In("PLAN.nx4")), "capitals");
-  EXPECT_EQ(files.ReadText(In("Plan.nx4")), "capitals");
-  EXPECT_EQ(files.FileNames(In(""), "*"), (std::vector<std::string>{"PLAN.nx4", "plan.nx4"}));
+  EXPECT_EQ(files.ReadText(PathOf("plan.nx4")), "small");
+  EXPECT_EQ(files.ReadText(PathOf("PLAN.nx4")), "capitals");
+  EXPECT_EQ(files.ReadText(PathOf("Plan.nx4")), "capitals");
+  EXPECT_EQ(files.FileNames(PathOf(""), "*"), (std::vector<std::string>{"PLAN.nx4", "plan.nx4"}));
 }
 
 TEST_F(RealFilesTest, WritingUsesTheNameOnTheDisk) {
@@ -104,17 +91,17 @@ TEST_F(RealFilesTest, WritingUsesTheNameOnTheDisk) {
 
 TEST_F(RealFilesTest, NamesThatAreNoUtf8AreReadAndWritten) {
   const std::string name = "\x8a\x43.nx4";
-  std::ofstream(In(name)) << "a";
-  EXPECT_EQ(files.FileNames(In(""), "*.nx4"), std::vector<std::string>{name});
-  EXPECT_EQ(files.ReadText(In(name)), "a");
+  std::ofstream(PathOf(name)) << "a";
+  EXPECT_EQ(files.FileNames(PathOf(""), "*.nx4"), std::vector<std::string>{name});
+  EXPECT_EQ(files.ReadText(PathOf(name)), "a");
   Save(name, "b");
-  EXPECT_EQ(files.ReadText(In(name)), "b");
-  files.Delete(In(name));
-  EXPECT_FALSE(files.FileExists(In(name)));
+  EXPECT_EQ(files.ReadText(PathOf(name)), "b");
+  files.Delete(PathOf(name));
+  EXPECT_FALSE(files.FileExists(PathOf(name)));
   const std::string fresh = "\x8a\x44.nx4";
   Save(fresh, "c");
-  EXPECT_EQ(files.FileNames(In(""), "*"), std::vector<std::string>{fresh});
-  files.Delete(In(fresh));
+  EXPECT_EQ(files.FileNames(PathOf(""), "*"), std::vector<std::string>{fresh});
+  files.Delete(PathOf(fresh));
 }
 
 TEST_F(RealFilesTest, ListsComeInOrderWithoutHiddenNamesAndFolders) {
@@ -122,17 +109,18 @@ TEST_F(RealFilesTest, ListsComeInOrderWithoutHiddenNamesAndFolders) {
   MakeFolder("zz.nx4");
   MakeFolder("Aa");
   MakeFolder(".git");
-  EXPECT_EQ(files.FileNames(In(""), "*.nx4"), (std::vector<std::string>{"A.nx4", "b.NX4"}));
-  EXPECT_EQ(files.FileNames(In(""), "*.nx4; *.VT2"), (std::vector<std::string>{"A.nx4", "b.NX4", "c.vt2"}));
-  EXPECT_EQ(files.FolderNames(In("")), (std::vector<std::string>{"Aa", "zz.nx4"}));
-  EXPECT_EQ(files.FindFirst(In("*.vt?")), "c.vt2");
-  EXPECT_EQ(files.FindFirst(In("*.xyz")), "");
-  EXPECT_EQ(files.FindFirst(In("nowhere/*.nx4")), "");
+  EXPECT_EQ(files.FileNames(PathOf(""), "*.nx4"), (std::vector<std::string>{"A.nx4", "b.NX4"}));
+  EXPECT_EQ(files.FileNames(PathOf(""), "*.nx4; *.VT2"),
+            (std::vector<std::string>{"A.nx4", "b.NX4", "c.vt2"}));
+  EXPECT_EQ(files.FolderNames(PathOf("")), (std::vector<std::string>{"Aa", "zz.nx4"}));
+  EXPECT_EQ(files.FindFirst(PathOf("*.vt?")), "c.vt2");
+  EXPECT_EQ(files.FindFirst(PathOf("*.xyz")), "");
+  EXPECT_EQ(files.FindFirst(PathOf("nowhere/*.nx4")), "");
 }
 
 TEST_F(RealFilesTest, WhatIsWrittenStandsAfterCloseOnly) {
   Put("plan.nx4", "old");
-  const auto writer = files.OpenForWriting(In("plan.nx4"));
+  const auto writer = files.OpenForWriting(PathOf("plan.nx4"));
   writer->Write("new");
   EXPECT_EQ(Bytes("plan.nx4"), "old");
   writer->Close();
@@ -145,26 +133,26 @@ TEST_F(RealFilesTest, WhatIsWrittenStandsAfterCloseOnly) {
 
 TEST_F(RealFilesTest, RightsAndLinksStayAsTheyWere) {
   Put("plan.nx4", "old");
-  ASSERT_EQ(chmod(In("plan.nx4").c_str(), 0640), 0);
-  ASSERT_EQ(symlink("plan.nx4", In("link.nx4").c_str()), 0);
+  ASSERT_EQ(chmod(PathOf("plan.nx4").c_str(), 0640), 0);
+  ASSERT_EQ(symlink("plan.nx4", PathOf("link.nx4").c_str()), 0);
   Save("link.nx4", "new");
   EXPECT_EQ(Bytes("plan.nx4"), "new");
   struct stat status = {};
-  ASSERT_EQ(lstat(In("link.nx4").c_str(), &status), 0);
+  ASSERT_EQ(lstat(PathOf("link.nx4").c_str(), &status), 0);
   EXPECT_TRUE(S_ISLNK(status.st_mode));
-  ASSERT_EQ(stat(In("plan.nx4").c_str(), &status), 0);
+  ASSERT_EQ(stat(PathOf("plan.nx4").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777, 0640U);
   Save("new.nx4", "new");
   const mode_t mask = umask(0);
   umask(mask);
-  ASSERT_EQ(stat(In("new.nx4").c_str(), &status), 0);
+  ASSERT_EQ(stat(PathOf("new.nx4").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777, 0666 & ~mask);
 }
 
 TEST_F(RealFilesTest, AWriterThatIsDroppedLeavesTheFileAndNothingElse) {
   Put("plan.nx4", "old");
-  files.OpenForWriting(In("plan.nx4"))->Write("new");
-  files.OpenForWriting(In("other.nx4"))->Write("new");
+  files.OpenForWriting(PathOf("plan.nx4"))->Write("new");
+  files.OpenForWriting(PathOf("other.nx4"))->Write("new");
   EXPECT_EQ(Bytes("plan.nx4"), "old");
   EXPECT_EQ(Names(), QStringList("plan.nx4"));
 }
@@ -172,7 +160,7 @@ TEST_F(RealFilesTest, AWriterThatIsDroppedLeavesTheFileAndNothingElse) {
 TEST_F(RealFilesTest, AProcessThatDiesWhileWritingLeavesTheOldFileWhole) {
   Put("plan.nx4", "old");
   const pid_t child = StartChild([&] {
-    const auto writer = files.OpenForWriting(In("plan.nx4"));
+    const auto writer = files.OpenForWriting(PathOf("plan.nx4"));
     writer->Write("half of a pl");
     return raise(SIGKILL);
   });
@@ -190,7 +178,7 @@ TEST_F(RealFilesTest, AFullDiskIsFault61AndLeavesTheOldFileWhole) {
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit full = {4096, before.rlim_max};
   {
-    const auto writer = files.OpenForWriting(In("plan.nx4"));
+    const auto writer = files.OpenForWriting(PathOf("plan.nx4"));
     setrlimit(RLIMIT_FSIZE, &full);
     written = Guarded([&] { writer->Write(std::string(100000, 'x')); });
     closed = Guarded([&] { writer->Close(); });
@@ -204,9 +192,9 @@ TEST_F(RealFilesTest, AFullDiskIsFault61AndLeavesTheOldFileWhole) {
 
 TEST_F(RealFilesTest, AReadOnlyFileIsNeitherReplacedNorDeleted) {
   Put("plan.nx4", "old");
-  ASSERT_EQ(chmod(In("plan.nx4").c_str(), 0444), 0);
-  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("PLAN.nx4")); }), kFaultPermissionDenied);
-  EXPECT_EQ(Guarded([&] { files.Delete(In("plan.nx4")); }), kFaultPermissionDenied);
+  ASSERT_EQ(chmod(PathOf("plan.nx4").c_str(), 0444), 0);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(PathOf("PLAN.nx4")); }), kFaultPermissionDenied);
+  EXPECT_EQ(Guarded([&] { files.Delete(PathOf("plan.nx4")); }), kFaultPermissionDenied);
   EXPECT_EQ(Bytes("plan.nx4"), "old");
 }
 
@@ -216,9 +204,9 @@ TEST_F(RealFilesTest, AFolderThatDeniesWritingIsFault70) {
   const auto fault = [&](const std::function<void()>& operation) {
     return AsPlainUser([&] { return Guarded(operation); });
   };
-  EXPECT_EQ(fault([&] { files.OpenForWriting(In("new.nx4")); }), kFaultPermissionDenied);
-  EXPECT_EQ(fault([&] { files.OpenForWriting(In("plan.nx4")); }), kFaultPermissionDenied);
-  EXPECT_EQ(fault([&] { files.Delete(In("plan.nx4")); }), kFaultPermissionDenied);
+  EXPECT_EQ(fault([&] { files.OpenForWriting(PathOf("new.nx4")); }), kFaultPermissionDenied);
+  EXPECT_EQ(fault([&] { files.OpenForWriting(PathOf("plan.nx4")); }), kFaultPermissionDenied);
+  EXPECT_EQ(fault([&] { files.Delete(PathOf("plan.nx4")); }), kFaultPermissionDenied);
   EXPECT_EQ(Bytes("plan.nx4"), "old");
   chmod(folder.path().toLocal8Bit().constData(), 0700);
 }
@@ -227,42 +215,43 @@ TEST_F(RealFilesTest, WhatMayNotBeReadIsFault75) {
   Put("plan.nx4", "old");
   MakeFolder("closed");
   chmod(folder.path().toLocal8Bit().constData(), 0755);
-  chmod(In("plan.nx4").c_str(), 0000);
-  chmod(In("closed").c_str(), 0000);
-  EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ReadText(In("plan.nx4")); }); }), kFaultPathAccess);
-  EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ResolveFolder(In("closed")); }); }),
+  chmod(PathOf("plan.nx4").c_str(), 0000);
+  chmod(PathOf("closed").c_str(), 0000);
+  EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ReadText(PathOf("plan.nx4")); }); }),
             kFaultPathAccess);
-  EXPECT_EQ(AsPlainUser([&] { return files.FileExists(In("closed/x")) ? 1 : 0; }), 0);
+  EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ResolveFolder(PathOf("closed")); }); }),
+            kFaultPathAccess);
+  EXPECT_EQ(AsPlainUser([&] { return files.FileExists(PathOf("closed/x")) ? 1 : 0; }), 0);
 }
 
 TEST_F(RealFilesTest, FaultsTellWhatIsMissing) {
   MakeFolder("sub");
   Put("file", "x");
-  EXPECT_EQ(Guarded([&] { files.ReadText(In("none")); }), kFaultFileNotFound);
-  EXPECT_EQ(Guarded([&] { files.ReadText(In("none/none")); }), kFaultPathNotFound);
-  EXPECT_EQ(Guarded([&] { files.ReadText(In("file/none")); }), kFaultPathNotFound);
-  EXPECT_EQ(Guarded([&] { files.ReadText(In("sub")); }), kFaultPathAccess);
+  EXPECT_EQ(Guarded([&] { files.ReadText(PathOf("none")); }), kFaultFileNotFound);
+  EXPECT_EQ(Guarded([&] { files.ReadText(PathOf("none/none")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.ReadText(PathOf("file/none")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.ReadText(PathOf("sub")); }), kFaultPathAccess);
   EXPECT_EQ(Guarded([&] { files.ReadText(""); }), kFaultBadFileName);
-  EXPECT_EQ(Guarded([&] { files.ReadText(In(std::string(300, 'n'))); }), kFaultBadFileName);
+  EXPECT_EQ(Guarded([&] { files.ReadText(PathOf(std::string(300, 'n'))); }), kFaultBadFileName);
   EXPECT_EQ(Guarded([&] { files.ReadText("/dev/zero"); }), kFaultPathAccess);
-  EXPECT_EQ(Guarded([&] { files.Delete(In("none")); }), kFaultFileNotFound);
-  EXPECT_EQ(Guarded([&] { files.Delete(In("sub")); }), kFaultPathAccess);
-  EXPECT_EQ(Guarded([&] { files.Size(In("none")); }), kFaultFileNotFound);
-  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("none/x")); }), kFaultPathNotFound);
-  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("file/x")); }), kFaultPathNotFound);
-  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("sub")); }), kFaultPathAccess);
-  EXPECT_EQ(Guarded([&] { files.OpenForWriting(In("a*b")); }), kFaultBadFileName);
+  EXPECT_EQ(Guarded([&] { files.Delete(PathOf("none")); }), kFaultFileNotFound);
+  EXPECT_EQ(Guarded([&] { files.Delete(PathOf("sub")); }), kFaultPathAccess);
+  EXPECT_EQ(Guarded([&] { files.Size(PathOf("none")); }), kFaultFileNotFound);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(PathOf("none/x")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(PathOf("file/x")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(PathOf("sub")); }), kFaultPathAccess);
+  EXPECT_EQ(Guarded([&] { files.OpenForWriting(PathOf("a*b")); }), kFaultBadFileName);
   EXPECT_EQ(Guarded([&] { files.OpenForWriting(""); }), kFaultBadFileName);
-  EXPECT_EQ(Guarded([&] { files.ResolveFolder(In("none")); }), kFaultPathNotFound);
-  EXPECT_EQ(Guarded([&] { files.ResolveFolder(In("file")); }), kFaultPathNotFound);
-  EXPECT_EQ(Guarded([&] { files.FileNames(In("none"), "*"); }), kFaultPathNotFound);
-  EXPECT_EQ(Guarded([&] { files.SetCurrentFolder(In("none")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.ResolveFolder(PathOf("none")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.ResolveFolder(PathOf("file")); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.FileNames(PathOf("none"), "*"); }), kFaultPathNotFound);
+  EXPECT_EQ(Guarded([&] { files.SetCurrentFolder(PathOf("none")); }), kFaultPathNotFound);
 }
 
 TEST_F(RealFilesTest, FailuresOfLookingAreNoFaults) {
   EXPECT_FALSE(files.FileExists(""));
   EXPECT_FALSE(files.FolderExists(std::string("a\0b", 3)));
-  EXPECT_FALSE(files.FileExists(In("")));
+  EXPECT_FALSE(files.FileExists(PathOf("")));
   EXPECT_EQ(files.LongName(""), "");
   EXPECT_EQ(files.LongName("/"), "");
   EXPECT_EQ(files.FindFirst(""), files.FindFirst("*"));
@@ -271,19 +260,19 @@ TEST_F(RealFilesTest, FailuresOfLookingAreNoFaults) {
 
 TEST_F(RealFilesTest, DeleteTakesTheFileAway) {
   Put("Plan.nx4", "x");
-  files.Delete(In("PLAN.NX4"));
+  files.Delete(PathOf("PLAN.NX4"));
   EXPECT_TRUE(Names().isEmpty());
 }
 
 TEST_F(RealFilesTest, FoldersAreSpelledFromTheRootOn) {
   const std::string before = files.CurrentFolder();
   MakeFolder("Sub/Deep");
-  files.SetCurrentFolder(In("SUB"));
-  EXPECT_EQ(files.CurrentFolder(), In("Sub"));
-  EXPECT_EQ(files.ResolveFolder("deep"), In("Sub/Deep"));
-  EXPECT_EQ(files.ResolveFolder("."), In("Sub"));
+  files.SetCurrentFolder(PathOf("SUB"));
+  EXPECT_EQ(files.CurrentFolder(), PathOf("Sub"));
+  EXPECT_EQ(files.ResolveFolder("deep"), PathOf("Sub/Deep"));
+  EXPECT_EQ(files.ResolveFolder("."), PathOf("Sub"));
   EXPECT_EQ(files.ResolveFolder("deep/../.."), folder.path().toStdString());
-  EXPECT_EQ(files.ResolveFolder(In("sub/deep/")), In("Sub/Deep"));
+  EXPECT_EQ(files.ResolveFolder(PathOf("sub/deep/")), PathOf("Sub/Deep"));
   EXPECT_EQ(files.ResolveFolder("/"), "/");
   EXPECT_EQ(files.ResolveFolder("/../.."), "/");
   files.SetCurrentFolder(before);
@@ -292,7 +281,7 @@ TEST_F(RealFilesTest, FoldersAreSpelledFromTheRootOn) {
 TEST_F(RealFilesTest, ACurrentFolderThatIsGoneIsTheRoot) {
   const std::string before = files.CurrentFolder();
   MakeFolder("gone");
-  files.SetCurrentFolder(In("gone"));
+  files.SetCurrentFolder(PathOf("gone"));
   QDir(folder.path()).rmdir("gone");
   EXPECT_EQ(files.CurrentFolder(), "/");
   files.SetCurrentFolder(before);
@@ -311,10 +300,10 @@ TEST_F(RealFilesTest, DrivesAreTheRootAndTheHomeFolder) {
 }
 
 TEST_F(RealFilesTest, TenThousandFilesAreListedQuickly) {
-  for (int i = 0; i < 10000; ++i) Put("Plan " + std::to_string(i) + ".NX4", "");
+  for (int i = 0; i < 10000; ++i) Put(QString("Plan %1.NX4").arg(i), "");
   const clock_t begin = clock();
-  EXPECT_EQ(files.FileNames(In(""), "*.nx4").size(), 10000U);
-  EXPECT_TRUE(files.FileExists(In("PLAN 9999.nx4")));
+  EXPECT_EQ(files.FileNames(PathOf(""), "*.nx4").size(), 10000U);
+  EXPECT_TRUE(files.FileExists(PathOf("PLAN 9999.nx4")));
   EXPECT_LT(static_cast<double>(clock() - begin) / CLOCKS_PER_SEC, 5);
 }
 

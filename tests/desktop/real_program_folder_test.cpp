@@ -1,6 +1,7 @@
 #include "desktop/real_program_folder.h"
 
 #include "desktop/real_path.h"
+#include "tests/desktop/scratch_folder.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +15,7 @@
 namespace veldrin {
 namespace {
 
-class RealProgramFolderTest : public ::testing::Test {
+class RealProgramFolderTest : public ::testing::Test, protected ScratchFolder {
  protected:
   void SetUp() override {
     Put("installed/LIST/NX4.RAT", "list");
@@ -28,22 +29,6 @@ class RealProgramFolderTest : public ::testing::Test {
     qunsetenv("VELDRIN_HOME");
     qunsetenv("XDG_DATA_HOME");
   }
-
-  QString In(const QString& name) const { return folder.path() + "/" + name; }
-
-  void Put(const QString& name, const QByteArray& bytes) const {
-    QDir().mkpath(QFileInfo(In(name)).path());
-    QFile file(In(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-  }
-
-  QByteArray Bytes(const QString& name) const {
-    QFile file(In(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-  }
-
-  QTemporaryDir folder;
 };
 
 TEST_F(RealProgramFolderTest, TheFirstRunCopiesWhatWasInstalled) {

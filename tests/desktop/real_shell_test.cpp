@@ -3,6 +3,7 @@
 #include "desktop/real_code_pages.h"
 #include "desktop/real_files.h"
 #include "runtime/fault.h"
+#include "tests/desktop/scratch_folder.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -44,19 +45,14 @@ class Opener : public QTextBrowser {
   static constexpr const char* kSchemes[] = {"https", "file"};
 };
 
-class RealShellTest : public ::testing::Test {
+class RealShellTest : public ::testing::Test, protected ScratchFolder {
  protected:
-  QTemporaryDir folder;
   RealFiles files{SystemCodePages(false)};
   RealShell shell{files};
 
   /// A program that writes its arguments, one a line, beside itself.
-  void PutProgram(const QString& name) const {
-    QFile file(folder.path() + "/" + name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("#!/bin/sh\nprintf '%s\\n' \"$@\" > \"$0.part\"\nmv \"$0.part\" \"$0.out\"\n");
-    file.close();
-    chmod(file.fileName().toLocal8Bit().constData(), 0755);
+  void PutWriter(const QString& name) const {
+    PutProgram(name, "printf '%s\\n' \"$@\" > \"$0.part\"\nmv \"$0.part\" \"$0.out\"\n");
   }
 
   /// What the program wrote, waited for.
@@ -74,13 +70,13 @@ class RealShellTest : public ::testing::Test {
 };
 
 TEST_F(RealShellTest, RunsAProgramWithItsArguments) {
-  PutProgram("Show It");
+  PutWriter("Show It");
   shell.Run("\"" + folder.path().toStdString() + "/show it\" one \"two words\"  鈴鹿");
   EXPECT_EQ(OutputOf("Show It").toStdString(), "one\ntwo words\n鈴鹿\n");
 }
 
 TEST_F(RealShellTest, TellsAMissingProgramFromAMissingFolder) {
-  PutProgram("plain");
+  PutWriter("plain");
   QFile::setPermissions(folder.path() + "/plain", QFileDevice::ReadOwner);
   const std::string in = folder.path().toStdString();
   EXPECT_EQ(Fault(in + "/none x"), kFaultFileNotFound);

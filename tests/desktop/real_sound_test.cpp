@@ -2,6 +2,7 @@
 
 #include "desktop/real_code_pages.h"
 #include "desktop/real_files.h"
+#include "tests/desktop/scratch_folder.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -16,7 +17,7 @@ namespace veldrin {
 namespace {
 
 /// A machine whose only players are those that a test puts there.
-class RealSoundTest : public ::testing::Test {
+class RealSoundTest : public ::testing::Test, protected ScratchFolder {
  protected:
   void SetUp() override { qputenv("PATH", folder.path().toLocal8Bit()); }
   void TearDown() override { qputenv("PATH", path_); }
@@ -24,39 +25,28 @@ class RealSoundTest : public ::testing::Test {
   /// A player that tells that it was started, waits for somebody to say "go", then writes its arguments, one
   /// a line.
   void PutPlayer(const QString& name) const {
-    PutFile(name,
-            "#!/bin/sh\n"
-            "PATH=/usr/bin:/bin\n"
-            ": > \"$0.started.$$\"\n"
-            "turns=0\n"
-            "while [ ! -e \"$0.go\" ] && [ $turns -lt 500 ]; do sleep 0.02; turns=$((turns + 1)); done\n"
-            "[ -e \"$0.go\" ] || exit\n"
-            "printf '%s\\n' \"$@\" > \"$0.part\"\n"
-            "mv \"$0.part\" \"$0.out\"\n");
-    chmod(QFile::encodeName(Inside(name)).constData(), 0755);
+    PutProgram(name,
+               "PATH=/usr/bin:/bin\n"
+               ": > \"$0.started.$$\"\n"
+               "turns=0\n"
+               "while [ ! -e \"$0.go\" ] && [ $turns -lt 500 ]; do sleep 0.02; turns=$((turns + 1)); done\n"
+               "[ -e \"$0.go\" ] || exit\n"
+               "printf '%s\\n' \"$@\" > \"$0.part\"\n"
+               "mv \"$0.part\" \"$0.out\"\n");
   }
 
-  void PutFile(const QString& name, const QByteArray& bytes = "") const {
-    QFile file(Inside(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-  }
-
-  QString Inside(const QString& name) const { return folder.path() + "/" + name; }
-  void Play(const QString& name) { sound.Play(Inside(name).toStdString()); }
+  void Play(const QString& name) { sound.Play(In(name).toStdString()); }
 
   /// Says "go" and waits for what the player wrote.
   std::string ArgumentsOf(const QString& player) const {
-    PutFile(player + ".go");
-    const QString output = Inside(player + ".out");
+    Put(player + ".go", "");
+    const QString output = In(player + ".out");
     QElapsedTimer timer;
     timer.start();
     while (!QFile::exists(output) && timer.elapsed() < 20000) QThread::msleep(10);
-    QFile file(output);
-    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(not there)";
+    return Bytes(player + ".out").toStdString();
   }
 
-  QTemporaryDir folder;
   RealFiles files{SystemCodePages(false)};
   RealSound sound{files};
 
@@ -67,41 +57,41 @@ class RealSoundTest : public ::testing::Test {
 // The player writes only after it was told to, and it is told after Play has returned.
 TEST_F(RealSoundTest, AFileIsPlayedWithoutWaiting) {
   PutPlayer("paplay");
-  PutFile("roll up 鈴鹿.wav");
+  Put("roll up 鈴鹿.wav", "");
   Play("roll up 鈴鹿.wav");
-  EXPECT_EQ(ArgumentsOf("paplay"), Inside("roll up 鈴鹿.wav").toStdString() + "\n");
+  EXPECT_EQ(ArgumentsOf("paplay"), In("roll up 鈴鹿.wav").toStdString() + "\n");
 }
 
 TEST_F(RealSoundTest, AFileIsPlayedByTheNameThatItHasOnTheDisk) {
   PutPlayer("paplay");
-  PutFile("RollUp.WAV");
+  Put("RollUp.WAV", "");
   Play("rollup.wav");
-  EXPECT_EQ(ArgumentsOf("paplay"), Inside("RollUp.WAV").toStdString() + "\n");
+  EXPECT_EQ(ArgumentsOf("paplay"), In("RollUp.WAV").toStdString() + "\n");
 }
 
 TEST_F(RealSoundTest, APlayerThatWritesMessagesIsAskedNotTo) {
   PutPlayer("aplay");
-  PutFile("unroll.wav");
+  Put("unroll.wav", "");
   Play("unroll.wav");
-  EXPECT_EQ(ArgumentsOf("aplay"), "-q\n" + Inside("unroll.wav").toStdString() + "\n");
+  EXPECT_EQ(ArgumentsOf("aplay"), "-q\n" + In("unroll.wav").toStdString() + "\n");
 }
 
 TEST_F(RealSoundTest, AMissingFileStaysSilent) {
   PutPlayer("paplay");
-  PutFile("there.wav");
+  Put("there.wav", "");
   Play("none.wav");
   Play("none/none.wav");
   sound.Play("");
   sound.Play(folder.path().toStdString());
   Play("there.wav");
-  EXPECT_EQ(ArgumentsOf("paplay"), Inside("there.wav").toStdString() + "\n");
+  EXPECT_EQ(ArgumentsOf("paplay"), In("there.wav").toStdString() + "\n");
   // A player of one of the others would be there by now as well.
   QThread::msleep(200);
   EXPECT_EQ(QDir(folder.path()).entryList({"paplay.started.*"}).size(), 1);
 }
 
 TEST_F(RealSoundTest, AMachineWithoutAPlayerStaysSilent) {
-  PutFile("there.wav");
+  Put("there.wav", "");
   Play("there.wav");
   sound.Beep();
 }
