@@ -4,7 +4,7 @@
 // its statements in Guarded(), so that the failing one is skipped and the next one runs; the file opener has
 // a handler of its own; anywhere else the fault reaches the event boundary, which shows the error box and
 // ends the program. EndOfProgram ends it at once and passes through every nested loop. Nothing else is
-// thrown from one unit to another.
+// thrown from one unit to another; what the standard library throws ends the program as a fault does.
 #pragma once
 
 #include <utility>
@@ -15,9 +15,11 @@ namespace veldrin {
 enum FaultNumber : int {
   kFaultBadCall = 5,
   kFaultOverflow = 6,
+  kFaultOutOfMemory = 7,
   kFaultSubscript = 9,
   kFaultDivisionByZero = 11,
   kFaultTypeMismatch = 13,
+  kFaultInternal = 51,
   kFaultBadFileName = 52,
   kFaultFileNotFound = 53,
   kFaultFileAlreadyOpen = 55,
