@@ -12,9 +12,14 @@ namespace veldrin {
 
 namespace {
 
-/// A drive that is not ready leaves the folder box where it is.
+/// The box stays where it is when the folder cannot be gone to, as on a drive that is not ready: no failure
+/// of this window ends the program.
+void GoTo(FolderBox& box, const std::string& folder) {
+  Guarded([&] { box.Path = folder; });
+}
+
 void Drive1_Change(Program& program) {
-  Guarded([&] { program.form3.Dir1.Path = program.form3.Drive1.Drive; });
+  GoTo(program.form3.Dir1, program.form3.Drive1.Drive);
 }
 
 void Drive1_KeyDown(Program& program, int key) {
@@ -29,7 +34,7 @@ void Dir1_Change(Program& program) {
 }
 
 void OpenHighlightedFolder(FolderBox& box) {
-  if (box.ListIndex >= 0) box.Path = box.entries[static_cast<std::size_t>(box.ListIndex.get())];
+  if (box.ListIndex >= 0) GoTo(box, box.entries[static_cast<std::size_t>(box.ListIndex.get())]);
 }
 
 /// One level up; from a root to the drive box.
@@ -39,7 +44,7 @@ void LeaveFolder(Program& program) {
   if (IsRoot(rules, box.Path)) {
     SetFocus(program.form3.Drive1);
   } else {
-    box.Path = ParentFolder(rules, box.Path);
+    GoTo(box, ParentFolder(rules, box.Path));
   }
 }
 

@@ -1,5 +1,6 @@
 #include "view/user_input.h"
 
+#include "runtime/fault.h"
 #include "runtime/text.h"
 
 #include <algorithm>
@@ -59,6 +60,11 @@ std::string LastPart(const std::string& path, char separator) {
   return path.substr(path.find_last_of(separator) + 1);
 }
 
+/// A folder may be there and yet not be entered.
+bool CanBeEntered(const FolderBox& box, const std::string& path) {
+  return Guarded([&] { box.window.desk.machine.files.ResolveFolder(path); }) == 0;
+}
+
 }  // namespace
 
 bool Reachable(const Control& control) {
@@ -77,16 +83,19 @@ bool Click(Control& control, int button) {
     Fire(control, "MouseDown", button);
     Fire(control, "MouseUp", button);
   }
-  if (button != kLeftButton) return true;
+  if (button == kLeftButton) FinishClick(control);
+  return true;
+}
+
+void FinishClick(Control& control) {
   if (control.kind == ControlKind::OptionButton) {
     auto& option = static_cast<OptionButton&>(control);
     if (!option.Value) {
       option.Value = true;  // fires Click
-      return true;
+      return;
     }
   }
   Fire(control, "Click");
-  return true;
 }
 
 bool DoubleClick(Control& control) {
@@ -151,7 +160,7 @@ bool SelectEntry(Control& control, const std::string& entry) {
 }
 
 bool OpenFolder(FolderBox& box, const std::string& path) {
-  if (!ApproachWithFocus(box) || !box.window.desk.machine.files.FolderExists(path)) return false;
+  if (!ApproachWithFocus(box) || !CanBeEntered(box, path)) return false;
   box.Path = path;
   return true;
 }

@@ -27,6 +27,8 @@ bool Focus(Control& control);
 
 /// Mouse down, mouse up and, with the left button, Click, which also sets an option button.
 bool Click(Control& control, int button = kLeftButton);
+/// The end of a click with the left button: Click, which also sets an option button.
+void FinishClick(Control& control);
 /// Click, then DblClick.
 bool DoubleClick(Control& control);
 /// Picks an entry of a file box, then double-clicks it: two Clicks, then DblClick.
@@ -44,7 +46,7 @@ bool TakesText(const Control& control);
 /// Picks the entry with this text of a combo, drive or file box: Click, also when it was the one before.
 /// False where there is no such entry.
 bool SelectEntry(Control& control, const std::string& entry);
-/// A folder box goes to a folder. False where it is not there.
+/// A folder box goes to a folder. False where it is not there or cannot be entered.
 bool OpenFolder(FolderBox& box, const std::string& path);
 /// The bar of a folder box goes to a folder, named by its path or its last part, without opening it.
 bool HighlightFolder(FolderBox& box, const std::string& folder);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "script/simulated_machine.h"
+#include "tests/machine_with.h"
 #include "workspace/program.h"
 #include "workspace/settings.h"
 
@@ -71,20 +72,7 @@ struct DialogFixture : testing::Test {
   WatchedRegistry registry;
   WatchedWindows windows{simulated.clock, simulated.log};
   WatchedBoxes boxes{simulated.log};
-  Machine machine{files,
-                  registry,
-                  simulated.profile,
-                  simulated.environment,
-                  simulated.instances,
-                  simulated.screen,
-                  windows,
-                  boxes,
-                  simulated.metrics,
-                  simulated.printer,
-                  simulated.pictures,
-                  simulated.shell,
-                  simulated.sound,
-                  simulated.figures};
+  Machine machine = MachineWith(simulated, files, registry, windows, boxes);
   Program program{machine};
 
   ~DialogFixture() override { windows.Forget(); }

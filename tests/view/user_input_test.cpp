@@ -1,6 +1,7 @@
 #include "view/user_input.h"
 
 #include "script/simulated_machine.h"
+#include "tests/machine_with.h"
 #include "view/bind.h"
 
 #include <gtest/gtest.h>
@@ -228,6 +229,26 @@ TEST_F(UserInput, FolderIsOpenedOrHighlighted) {
   EXPECT_EQ(window.Folders.Path, "C:\\VELDRIN\\LIST");
   EXPECT_FALSE(user::OpenFolder(window.Folders, "C:\\NONE"));
   EXPECT_EQ(window.Folders.Path, "C:\\VELDRIN\\LIST");
+}
+
+/// A machine with a folder that is there but denies itself.
+struct ClosedFolder : SimulatedFiles {
+  std::string ResolveFolder(const std::string& path) const override {
+    if (path == "C:\\VELDRIN\\DAT") Raise(kFaultPathAccess);
+    return SimulatedFiles::ResolveFolder(path);
+  }
+};
+
+TEST_F(UserInput, FolderThatDeniesItselfIsNotOpened) {
+  ClosedFolder files;
+  files.SetCurrentFolder("C:\\VELDRIN");
+  Machine other = MachineWith(machine, files);
+  Desk itsDesk{other};
+  Sample its{itsDesk};
+  its.Show();
+  EXPECT_TRUE(files.FolderExists("C:\\VELDRIN\\DAT"));
+  EXPECT_FALSE(user::OpenFolder(its.Folders, "C:\\VELDRIN\\DAT"));
+  EXPECT_EQ(its.Folders.Path, "C:\\VELDRIN");
 }
 
 TEST_F(UserInput, CellIsPickedInsideOfTheGrid) {
