@@ -1,6 +1,7 @@
 #include "desktop/artwork.h"
 
 #include "desktop/fonts.h"
+#include "view/form10.h"
 
 #include <QPainterPath>
 #include <QPixmap>
@@ -13,11 +14,6 @@ namespace veldrin {
 
 namespace {
 
-// The buttons of a window with a title strip of its own, at rest and pressed, 13 by 13 pixels.
-constexpr int kCloseImage = 2004;
-constexpr int kClosePressedImage = 2005;
-constexpr int kRollImage = 2006;
-constexpr int kRollPressedImage = 2007;
 constexpr double kButtonSize = 13;
 
 constexpr QColor kInk(24, 32, 72);

@@ -14,12 +14,6 @@ namespace veldrin {
 
 namespace {
 
-// Picture resources of the two buttons.
-constexpr int kCloseImage = 2004;
-constexpr int kClosePressedImage = 2005;
-constexpr int kRollImage = 2006;
-constexpr int kRollPressedImage = 2007;
-
 constexpr float kHeightOpen = 4830;  // twips
 constexpr float kHeightRolled = 330;
 constexpr float kHighestRolled = 1000;  // up to here the window counts as rolled up

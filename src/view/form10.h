@@ -8,6 +8,12 @@
 
 namespace veldrin {
 
+/// Pictures of the strip's two buttons, at rest and pressed, 13 by 13 pixels.
+constexpr int kCloseImage = 2004;
+constexpr int kClosePressedImage = 2005;
+constexpr int kRollImage = 2006;
+constexpr int kRollPressedImage = 2007;
+
 struct Form10 : Window {
   explicit Form10(Desk& theDesk);
 
