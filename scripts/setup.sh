@@ -1,7 +1,7 @@
 # What run and test share; sourced, from the repository's root.
 
 BUILD_PACKAGES=(g++ cmake ninja-build)
-DESKTOP_PACKAGES=(qt6-base-dev fonts-liberation fonts-noto-cjk)
+DESKTOP_PACKAGES=(qt6-base-dev qt6-translations-l10n fonts-liberation fonts-noto-cjk)
 TEST_PACKAGES=(libgtest-dev clang-format poppler-utils shared-mime-info xdg-utils desktop-file-utils)
 
 # quietly LOG COMMAND...: the output goes to LOG and is shown only when the command fails, without the lines

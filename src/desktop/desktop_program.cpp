@@ -22,6 +22,9 @@ constexpr char kZoomSetting[] = "Zoom";
 constexpr double kPercent = 100;
 constexpr int kPrepareAfter = 20;  // ms
 
+constexpr char kNotPrinted[] = "The page could not be printed.";
+constexpr char kNotPrintedJapanese[] = "印刷できませんでした。";
+
 }  // namespace
 
 void ProgramWindows::EventFired(Control& control, const Event& event) {
@@ -37,6 +40,11 @@ DesktopProgram::DesktopProgram() {
   };
   // What an event behind a box threw goes on where the box was asked for.
   machine.boxes.closed = [this] { stage.input.RethrowCaught(); };
+  machine.printer.failed = [this] {
+    const bool japanese = program->workspace.Language == kJapanese;
+    machine.boxes.Message(BoxIcon::Exclamation, "", japanese ? kNotPrintedJapanese : kNotPrinted,
+                          BoxButtons::Ok);
+  };
   program = AssembleProgram(machine.machine);
   windows.eventComes = [this](const Event& event) {
     if (&event != &program->form2.Unload) return;

@@ -3,8 +3,11 @@
 #include "desktop/accessible_control.h"
 #include "desktop/artwork.h"
 
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTranslator>
 
 namespace veldrin {
 
@@ -12,6 +15,13 @@ namespace {
 
 constexpr QColor kFace(226, 226, 226);
 constexpr QColor kSelected(0, 90, 190);
+
+/// The words of Qt's own boxes and menus, in the system's language where Qt has them in it.
+void TranslateBoxes(QApplication& application) {
+  auto* const words = new QTranslator(&application);
+  const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+  if (words->load(QLocale(), "qtbase", "_", folder)) QApplication::installTranslator(words);
+}
 
 }  // namespace
 
@@ -23,6 +33,7 @@ void SetUpLook(QApplication& application) {
   palette.setColor(QPalette::HighlightedText, Qt::white);
   QApplication::setPalette(palette);
   InstallAccessibleControls();
+  TranslateBoxes(application);
   QApplication::setWindowIcon(ProgramIcon());
   application.setApplicationName("veldrin");
   application.setApplicationVersion(VELDRIN_VERSION);

@@ -6,7 +6,7 @@
 
 namespace veldrin {
 
-/// Sets style, colours, icon and name of the application.
+/// Sets style, colours, icon and name of the application, and the language of Qt's own boxes.
 void SetUpLook(QApplication& application);
 
 }  // namespace veldrin

@@ -15,6 +15,10 @@
 #include <utility>
 #include <vector>
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
 namespace {
 
 constexpr char kHelp[] =
@@ -30,24 +34,47 @@ constexpr char kHelp[] =
 /// The program that is running; Qt's messages come without saying whose they are.
 veldrin::DesktopProgram* running = nullptr;
 
+/// The last that is done before Qt ends the process.
+void LeaveTidy() {
+  if (running != nullptr) std::exchange(running, nullptr)->LeaveTidy();
+}
+
 /// Qt's own words for a display that cannot be opened are many; one line does, and no core is left. Where the
 /// display goes away Qt ends the process: it is the last that is heard of it.
 void TellWithoutCore(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
   if (type == QtFatalMsg) {
-    std::fprintf(stderr, "veldrin: the display cannot be opened; DISPLAY or WAYLAND_DISPLAY must name one\n");
+    LeaveTidy();
+    std::fprintf(stderr, "veldrin: %s\n", qPrintable(veldrin::FatalText(message)));
     std::_Exit(EXIT_FAILURE);
   }
   if (running != nullptr && veldrin::TellsLostDisplay(message)) {
-    std::exchange(running, nullptr)->LeaveTidy();
+    LeaveTidy();
     std::fprintf(stderr, "veldrin: the display is gone; what was not saved is lost\n");
+    // Nobody would see a window of the program any more, should it live on.
+    QCoreApplication::exit(EXIT_FAILURE);
     return;
   }
   if (type == QtCriticalMsg) std::fprintf(stderr, "veldrin: %s\n", qPrintable(message));
 }
 
+#ifdef _WIN32
+/// A program with windows has no console: its words go to the one that it was started from, unless they are
+/// sent elsewhere.
+void SpeakOnConsole() {
+  const bool unheard = GetFileType(GetStdHandle(STD_OUTPUT_HANDLE)) == FILE_TYPE_UNKNOWN;
+  if (!unheard || !AttachConsole(ATTACH_PARENT_PROCESS)) return;
+  for (std::FILE* stream : {stdout, stderr}) {
+    if (std::freopen("CONOUT$", "w", stream) == nullptr) return;
+  }
+}
+#else
+void SpeakOnConsole() {}
+#endif
+
 }  // namespace
 
 int main(int count, char** arguments) {
+  SpeakOnConsole();
   const std::string first = count > 1 ? arguments[1] : "";
   if (first == "--help" || first == "-h") {
     std::fputs(kHelp, stdout);
@@ -65,7 +92,7 @@ int main(int count, char** arguments) {
     std::fputs(kHelp, stderr);
     return EXIT_FAILURE;
   }
-  const std::string path = words.empty() ? "" : veldrin::WholePath(words.front());
+  const std::string path = words.empty() ? "" : veldrin::PathOfWord(words.front());
   std::error_code failure;
   std::filesystem::current_path(veldrin::ProgramFolder(), failure);
   veldrin::DesktopProgram program;

@@ -1,7 +1,7 @@
 #include "desktop/real_boxes.h"
 
+#include "desktop/fault_text.h"
 #include "desktop/fonts.h"
-#include "runtime/fault.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -50,10 +50,21 @@ QString BoxText(const std::string& text) {
   return QString::fromStdString(text).replace("\r\n", "\n").replace('\r', '\n');
 }
 
+/// What a box stands in front of, also while another program is the active one: a box behind the windows that
+/// it keeps from being used would never be found.
+QWidget* Owner() {
+  if (QApplication::activeModalWidget() != nullptr) return QApplication::activeModalWidget();
+  if (QApplication::activeWindow() != nullptr) return QApplication::activeWindow();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->windowType() != Qt::Popup) return window;
+  }
+  return nullptr;
+}
+
 /// Shows a box and waits for its answer.
 int Ask(QMessageBox::Icon icon, const QString& title, const QString& text,
         QMessageBox::StandardButtons buttons) {
-  QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+  QMessageBox box(icon, title, text, buttons, Owner());
   // The texts are names and paths, and no markup.
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -63,8 +74,7 @@ int Ask(QMessageBox::Icon icon, const QString& title, const QString& text,
 #ifdef _WIN32
 
 bool AskForPdf(QPrinter& device) {
-  const QString file = QFileDialog::getSaveFileName(QApplication::activeWindow(), "Print to PDF",
-                                                    "veldrin.pdf", "PDF (*.pdf)");
+  const QString file = QFileDialog::getSaveFileName(Owner(), "Print to PDF", "veldrin.pdf", "PDF (*.pdf)");
   if (file.isEmpty()) return false;
   device.setOutputFormat(QPrinter::PdfFormat);
   device.setOutputFileName(file);
@@ -90,7 +100,7 @@ bool HasDialog() {
 
 bool AskForPrinter(QPrinter& device) {
   if (!HasDialog()) return AskForPdf(device);
-  QPrintDialog dialog(&device, QApplication::activeWindow());
+  QPrintDialog dialog(&device, Owner());
   dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
@@ -102,47 +112,6 @@ bool AskForPrinter(QPrinter& device) {
 }
 
 }  // namespace
-
-std::string FaultText(int number) {
-  switch (number) {
-    case kFaultBadCall:
-      return "Invalid procedure call or argument";
-    case kFaultOverflow:
-      return "Overflow";
-    case kFaultSubscript:
-      return "Subscript out of range";
-    case kFaultDivisionByZero:
-      return "Division by zero";
-    case kFaultTypeMismatch:
-      return "Type mismatch";
-    case kFaultBadFileName:
-      return "Bad file name or number";
-    case kFaultFileNotFound:
-      return "File not found";
-    case kFaultFileAlreadyOpen:
-      return "File already open";
-    case kFaultDiskFull:
-      return "Disk full";
-    case kFaultPastEnd:
-      return "Input past end of file";
-    case kFaultDeviceUnavailable:
-      return "Device unavailable";
-    case kFaultPermissionDenied:
-      return "Permission denied";
-    case kFaultDriveNotReady:
-      return "Disk not ready";
-    case kFaultPathAccess:
-      return "Path/File access error";
-    case kFaultPathNotFound:
-      return "Path not found";
-    case kFaultNoControlElement:
-      return "Control array element does not exist";
-    case kFaultBadProperty:
-      return "Invalid property value";
-    default:
-      return "Application-defined or object-defined error";
-  }
-}
 
 RealBoxes::RealBoxes(RealPrinter& printer) : printer_(&printer), plain_(QApplication::font()) {}
 
@@ -173,7 +142,7 @@ void RealBoxes::Fault(int number) {
 }
 
 Colour RealBoxes::ChooseColour(Colour start) {
-  const QColor chosen = QColorDialog::getColor(ToQColor(start), QApplication::activeWindow());
+  const QColor chosen = QColorDialog::getColor(ToQColor(start), Owner());
   Closed();
   return chosen.isValid() ? ToColour(chosen) : start;
 }

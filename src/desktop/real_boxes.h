@@ -1,6 +1,6 @@
-// Message boxes and dialogs, in front of the window that is active and as large as the windows are shown.
-// Their size is that of the application's font, which is theirs as long as the boxes live: dialogs open
-// others.
+// Message boxes and dialogs, in front of the window that is active, or of those that are there, and as large
+// as the windows are shown. Their size is that of the application's font, which is theirs as long as the
+// boxes live: dialogs open others.
 #pragma once
 
 #include "desktop/real_printer.h"
@@ -12,9 +12,6 @@
 #include <string>
 
 namespace veldrin {
-
-/// The run-time's words for a fault; those for an unknown one where it has none.
-std::string FaultText(int number);
 
 class RealBoxes : public Boxes {
  public:

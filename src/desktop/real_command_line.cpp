@@ -1,11 +1,9 @@
 #include "desktop/real_command_line.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
+#include "desktop/real_path.h"
+#include "runtime/fault.h"
 
-#include <filesystem>
-#include <system_error>
+#include <QCoreApplication>
 
 namespace veldrin {
 
@@ -18,11 +16,6 @@ std::vector<std::string> CommandLineWords(int /*count*/, const char* const* /*ar
   return words;
 }
 
-std::string WholePath(const std::string& word) {
-  const QString path = QFileInfo(QString::fromStdString(word)).absoluteFilePath();
-  return word.empty() ? "" : QDir::toNativeSeparators(path).toStdString();
-}
-
 #else
 
 std::vector<std::string> CommandLineWords(int count, const char* const* arguments) {
@@ -31,16 +24,13 @@ std::vector<std::string> CommandLineWords(int count, const char* const* argument
   return words;
 }
 
-std::string WholePath(const std::string& word) {
-  namespace fs = std::filesystem;
-  if (word.empty()) return "";
-  std::error_code failure;
-  const fs::path whole = fs::absolute(word, failure).lexically_normal();
-  // From a folder that is gone nothing can be found anyway.
-  if (failure) return word;
-  return (whole.has_filename() ? whole : whole.parent_path()).string();
-}
-
 #endif
+
+std::string PathOfWord(const std::string& word) {
+  std::string path = word;
+  // A name that the system refuses is told when it is opened.
+  Guarded([&] { path = PathText(WholePath(NativePath(word))); });
+  return path;
+}
 
 }  // namespace veldrin

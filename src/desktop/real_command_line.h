@@ -9,8 +9,8 @@ namespace veldrin {
 /// The words behind the program's name, from what QApplication has left of main()'s.
 std::vector<std::string> CommandLineWords(int count, const char* const* arguments);
 
-/// The path that a word names, whole and without "." and "..": the program goes into its own folder before it
-/// reads it. The empty word stays empty.
-std::string WholePath(const std::string& word);
+/// The path that a word names, whole: the program goes into its own folder before it reads it. The empty word
+/// stays empty.
+std::string PathOfWord(const std::string& word);
 
 }  // namespace veldrin

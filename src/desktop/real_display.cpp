@@ -10,4 +10,11 @@ bool TellsLostDisplay(const QString& message) {
   return message.contains("connection broke") || message.contains("connection experienced a fatal error");
 }
 
+QString FatalText(const QString& message) {
+  const bool noDisplay =
+      message.contains("no Qt platform plugin") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+  if (noDisplay) return "the display cannot be opened; DISPLAY or WAYLAND_DISPLAY must name one";
+  return message.section('\n', 0, 0);
+}
+
 }  // namespace veldrin

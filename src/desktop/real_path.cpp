@@ -28,6 +28,30 @@ fs::path Entry(const fs::path& folder, const fs::path& name) {
   return ListedName(folder, name).value_or(name);
 }
 
+/// Where ".." leads from a folder.
+fs::path Around(const fs::path& folder) {
+#ifndef _WIN32
+  std::error_code failure;
+  if (fs::is_symlink(fs::symlink_status(folder, failure))) {
+    const fs::path end = fs::canonical(folder, failure);
+    if (!failure) return end.parent_path();
+  }
+#endif
+  return folder.parent_path();
+}
+
+/// A whole path part by part from `root` on, without "." and ".."; `name` tells how a part of a folder is
+/// called.
+template <class Name>
+fs::path Walked(const fs::path& path, const fs::path& root, Name name) {
+  fs::path found = root;
+  for (const fs::path& part : path.relative_path()) {
+    if (part.empty() || part == ".") continue;
+    found = part == ".." ? Around(found) : found / name(found, part);
+  }
+  return found;
+}
+
 }  // namespace
 
 fs::path NativePath(const std::string& text) {
@@ -86,20 +110,19 @@ QUrl LocalFileUrl(const std::string& path) {
 
 #endif
 
+fs::path WholePath(const fs::path& path) {
+  std::error_code failure;
+  const fs::path wanted = fs::absolute(path, failure);
+  if (failure) return path;
+  const auto asWritten = [](const fs::path& /*folder*/, const fs::path& part) { return part; };
+  return Walked(wanted, wanted.root_path(), asWritten).make_preferred();
+}
+
 fs::path PathOnDisk(const std::string& text) {
   std::error_code failure;
   const fs::path wanted = fs::absolute(NativePath(text), failure);
   if (failure) Raise(kFaultBadFileName);
-  fs::path found = NativePath(UpperCase(PathText(wanted.root_path())));
-  for (const fs::path& part : wanted.relative_path()) {
-    if (part.empty() || part == ".") continue;
-    if (part == "..") {
-      found = found.parent_path();
-    } else {
-      found /= Entry(found, part);
-    }
-  }
-  return found;
+  return Walked(wanted, NativePath(UpperCase(PathText(wanted.root_path()))), Entry);
 }
 
 #ifdef _WIN32

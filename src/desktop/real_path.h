@@ -24,7 +24,11 @@ std::string BytesOfLocalFile(const QUrl& url);
 /// The URL of a whole path, again with all its bytes.
 QUrl LocalFileUrl(const std::string& path);
 
-/// The whole path, from the root on and without "." and "..", each part by its name on the disk. Parts that
+/// The whole path, from the root on and without "." and "..". As for the system, ".." behind a link leads out
+/// of what the link leads to.
+std::filesystem::path WholePath(const std::filesystem::path& path);
+
+/// The whole path, as above, each part by its name on the disk. Parts that
 /// are not there stay as they are, drive letters become capitals. Raises fault 52 as NativePath does.
 std::filesystem::path PathOnDisk(const std::string& text);
 

@@ -2,6 +2,7 @@
 
 #include "desktop/surface_painter.h"
 
+#include <QFile>
 #include <QFontDatabase>
 #include <QPageLayout>
 #include <QPainter>
@@ -18,6 +19,14 @@ constexpr double kTwipsPerPrintedInch = 1440;
 
 /// Fonts that the program asks for by itself; other fonts stand for those that the system lacks.
 constexpr const char* kOwnFonts[] = {"Arial", "ＭＳ ゴシック", "ＭＳ Ｐゴシック"};
+
+/// Qt does not tell when the disk was full.
+bool IsWholePdf(const QString& path) {
+  constexpr qint64 kEndLength = 16;
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) && file.size() > kEndLength && file.seek(file.size() - kEndLength) &&
+         file.readAll().contains("%%EOF");
+}
 
 }  // namespace
 
@@ -43,15 +52,21 @@ Surface& RealPrinter::Page() {
 }
 
 void RealPrinter::EndDocument() {
-  QPrinter& device = Device();
-  QPainter painter;
-  if (painter.begin(&device)) {
-    const double pixelsPerTwip = device.resolution() / kTwipsPerPrintedInch;
-    const QRectF area(0, 0, page_.PhysicalWidth() * pixelsPerTwip, page_.PhysicalHeight() * pixelsPerTwip);
-    PaintDrawing(painter, page_.Drawing(), {area, pixelsPerTwip, Qt::white});
-  }
+  const bool printed = PrintPage();
   page_ = Surface(*metrics_);
   BeginPage();
+  if (!printed && failed) failed();
+}
+
+bool RealPrinter::PrintPage() {
+  QPrinter& device = Device();
+  QPainter painter;
+  if (!painter.begin(&device)) return false;
+  const double pixelsPerTwip = device.resolution() / kTwipsPerPrintedInch;
+  const QRectF area(0, 0, page_.PhysicalWidth() * pixelsPerTwip, page_.PhysicalHeight() * pixelsPerTwip);
+  PaintDrawing(painter, page_.Drawing(), {area, pixelsPerTwip, Qt::white});
+  if (!painter.end() || device.printerState() == QPrinter::Error) return false;
+  return device.outputFormat() != QPrinter::PdfFormat || IsWholePdf(device.outputFileName());
 }
 
 QPrinter& RealPrinter::Device() {

@@ -5,6 +5,7 @@
 
 #include <QPrinter>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -23,14 +24,17 @@ class RealPrinter : public Printer {
   void SetCopies(int copies) override;
   /// As large as the printable area of the paper that is set at this moment, when nothing is drawn yet.
   Surface& Page() override;
-  /// What cannot be printed is dropped; the desktop tells why.
+  /// What cannot be printed is dropped, and `failed` called.
   void EndDocument() override;
+
+  std::function<void()> failed;
 
   /// What the printer dialog sets up. Made when it is first asked for, since looking for printers takes time.
   QPrinter& Device();
 
  private:
   void BeginPage();
+  bool PrintPage();
 
   const TextMetrics* metrics_;
   Surface page_;

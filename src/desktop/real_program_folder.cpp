@@ -55,8 +55,8 @@ fs::path NamedFolder() {
   fs::path folder;
   Guarded([&] {
     std::error_code failure;
-    const fs::path path = fs::absolute(NativePath(named), failure).lexically_normal();
-    if (fs::is_directory(path, failure)) folder = path.has_filename() ? path : path.parent_path();
+    const fs::path path = WholePath(NativePath(named));
+    if (fs::is_directory(path, failure)) folder = path;
   });
   return folder;
 }

@@ -1,5 +1,7 @@
 #include "desktop/real_boxes.h"
 
+#include "desktop/fault_text.h"
+
 #include <QApplication>
 #include <QColorDialog>
 #include <QMessageBox>
@@ -52,6 +54,21 @@ TEST_F(RealBoxesTest, AMessageShowsItsTextsAsTheyStand) {
   EXPECT_EQ(title, "Title");
 }
 
+TEST_F(RealBoxesTest, StandsInFrontOfAWindowThatIsNotActive) {
+  QWidget window;
+  window.setAttribute(Qt::WA_ShowWithoutActivating);
+  window.show();
+  QApplication::setActiveWindow(nullptr);
+  ASSERT_EQ(QApplication::activeWindow(), nullptr);
+  const QWidget* owner = nullptr;
+  WhenShown<QMessageBox>([&](QMessageBox& box) {
+    owner = box.parentWidget();
+    box.accept();
+  });
+  boxes.Message(BoxIcon::None, "", "text", BoxButtons::Ok);
+  EXPECT_EQ(owner, &window);
+}
+
 TEST_F(RealBoxesTest, TheEmptyTitleIsTheProgramsOwn) {
   QString title;
   WhenShown<QMessageBox>([&](QMessageBox& box) {
@@ -75,6 +92,8 @@ TEST_F(RealBoxesTest, AFaultTellsItsNumberAndItsWords) {
   });
   boxes.Fault(11);
   EXPECT_EQ(text, "Run-time error '11':\n\nDivision by zero");
+  EXPECT_EQ(FaultText(7), "Out of memory");
+  EXPECT_EQ(FaultText(51), "Internal error");
   EXPECT_EQ(FaultText(76), "Path not found");
   EXPECT_EQ(FaultText(1), "Application-defined or object-defined error");
 }

@@ -19,5 +19,17 @@ TEST(RealDisplay, AConnectionThatIsMadeAgainIsNotLost) {
   qunsetenv("QT_WAYLAND_RECONNECT");
 }
 
+TEST(RealDisplay, FatalMessagesAreOneLine) {
+  const QString noPlugin =
+      "This application failed to start because no Qt platform plugin could be initialized.\n\nMore";
+  const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+  qunsetenv("QT_QPA_PLATFORM");
+  EXPECT_EQ(FatalText(noPlugin), "the display cannot be opened; DISPLAY or WAYLAND_DISPLAY must name one");
+  qputenv("QT_QPA_PLATFORM", "nonesuch");
+  EXPECT_EQ(FatalText(noPlugin), noPlugin.section('\n', 0, 0));
+  qputenv("QT_QPA_PLATFORM", platform);
+  EXPECT_EQ(FatalText("out of threads"), "out of threads");
+}
+
 }  // namespace
 }  // namespace veldrin

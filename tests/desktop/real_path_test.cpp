@@ -1,6 +1,7 @@
 #include "desktop/real_path.h"
 
 #include "desktop/real_command_line.h"
+#include "tests/desktop/scratch_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -37,14 +38,28 @@ TEST(RealCommandLine, WordsAreWhatQtLeft) {
   EXPECT_EQ(CommandLineWords(0, arguments), std::vector<std::string>{});
 }
 
+TEST(RealPath, TwoDotsLeadOutOfWhatALinkLeadsTo) {
+  namespace fs = std::filesystem;
+  const ScratchFolder scratch;
+  scratch.Put("far/inside/plan.nx4", "");
+  scratch.Put("plan.nx4", "");
+  const fs::path here = scratch.folder.path().toStdString();
+  fs::create_directory_symlink(here / "far" / "inside", here / "link");
+  EXPECT_EQ(WholePath(here / "link" / ".." / "plan.nx4"), here / "far" / "plan.nx4");
+  EXPECT_EQ(WholePath(here / "link" / "." / "plan.nx4"), here / "link" / "plan.nx4");
+  EXPECT_EQ(WholePath(here / "far" / "inside" / ".." / ".." / "plan.nx4"), here / "plan.nx4");
+  EXPECT_EQ(PathOnDisk((here / "link" / ".." / "PLAN.nx4").string()), here / "far" / "PLAN.nx4");
+  EXPECT_EQ(PathOnDisk((here / "link" / ".." / "inside").string()), here / "far" / "inside");
+}
+
 TEST(RealCommandLine, PathsAreWholeAndKeepTheirBytes) {
   const std::string here = std::filesystem::current_path().string();
-  EXPECT_EQ(WholePath("\x8a\x43.nx4"), here + "/\x8a\x43.nx4");
-  EXPECT_EQ(WholePath("./x/../a//b.nx4"), here + "/a/b.nx4");
-  EXPECT_EQ(WholePath("/x/y/.."), "/x");
-  EXPECT_EQ(WholePath("/x/y/"), "/x/y");
-  EXPECT_EQ(WholePath("/"), "/");
-  EXPECT_EQ(WholePath(""), "");
+  EXPECT_EQ(PathOfWord("\x8a\x43.nx4"), here + "/\x8a\x43.nx4");
+  EXPECT_EQ(PathOfWord("./x/../a//b.nx4"), here + "/a/b.nx4");
+  EXPECT_EQ(PathOfWord("/x/y/.."), "/x");
+  EXPECT_EQ(PathOfWord("/x/y/"), "/x/y");
+  EXPECT_EQ(PathOfWord("/"), "/");
+  EXPECT_EQ(PathOfWord(""), "");
 }
 
 }  // namespace

@@ -121,12 +121,24 @@ TEST_F(RealPrinterTest, CopiesAreAtLeastOne) {
   EXPECT_EQ(printer.Device().copyCount(), 1);
 }
 
-TEST_F(RealPrinterTest, WhatCannotBePrintedIsDropped) {
+TEST_F(RealPrinterTest, WhatCannotBePrintedIsDroppedAndTold) {
+  int failures = 0;
+  printer.failed = [&] { ++failures; };
   printer.Device().setOutputFileName(folder.path() + "/none/page.pdf");
   DrawReport(printer.Page());
   printer.EndDocument();
   EXPECT_TRUE(printer.Page().Drawing().empty());
   EXPECT_TRUE(QDir(folder.path()).isEmpty());
+  EXPECT_EQ(failures, 1);
+  printer.Device().setOutputFileName("/dev/full");
+  DrawReport(printer.Page());
+  printer.EndDocument();
+  EXPECT_EQ(failures, 2);
+  printer.Device().setOutputFileName(pdf);
+  DrawReport(printer.Page());
+  printer.EndDocument();
+  EXPECT_EQ(failures, 2);
+  EXPECT_EQ(Pages(), 1);
 }
 
 TEST_F(RealPrinterTest, AHundredThousandTextsArePrinted) {
