@@ -50,32 +50,44 @@ float TwipsPerTwentyKmh(const Workspace& workspace);
 /// The chart's scale for a surface.
 Scale ChartUnits(const Workspace& workspace);
 
-/// Places ticks, first the revolutions', then the speeds'. The windows with a chart name them alike.
+/// Where the tick of a number of thousand revolutions and that of a number of 20 km/h lie in the panel.
+inline float TickAcross(int thousands, float thousandNe) {
+  // Kept: the factor is part of the rule.
+  return static_cast<float>((thousands * static_cast<double>(thousandNe) + 480) * 1.008);
+}
+inline float TickUp(int twenties, float twentyKmh) {
+  return static_cast<float>(5520 - twenties * static_cast<double>(twentyKmh));
+}
+
+/// Where the numeral of 5, 10, 15 or 20 thousand revolutions begins, by its index, and the top of that of a
+/// number of 20 km/h.
+inline float NumeralLeft(int index, float thousandNe) {
+  return thousandNe * static_cast<float>(5 * (index + 1)) + (index == 0 ? 450.0F : 400.0F);
+}
+inline float NumeralTop(int twenties, float twentyKmh) {
+  return 5430 - twentyKmh * static_cast<float>(twenties);
+}
+
+/// Moves the ticks along their axes.
 template <class Form>
 void PlaceTicks(Form& form, float thousandNe, float twentyKmh) {
   for (int i = 0; i <= 24; ++i) {
-    // Kept: the factor is part of the rule.
-    const double x = (i * static_cast<double>(thousandNe) + 480) * 1.008;
-    form.Line4[i].X1 = static_cast<float>(x);
-    form.Line4[i].X2 = static_cast<float>(x);
+    form.Line4[i].X1 = TickAcross(i, thousandNe);
+    form.Line4[i].X2 = TickAcross(i, thousandNe);
   }
   for (int i = 0; i <= 18; ++i) {
-    const double y = 5520 - i * static_cast<double>(twentyKmh);
-    form.Line3[i].Y1 = static_cast<float>(y);
-    form.Line3[i].Y2 = static_cast<float>(y);
+    form.Line3[i].Y1 = TickUp(i, twentyKmh);
+    form.Line3[i].Y2 = TickUp(i, twentyKmh);
   }
 }
 
-/// Places the numerals that follow the scales.
+/// Moves the numerals that follow the scales along their axes.
 template <class Form>
 void PlaceNumerals(Form& form, float thousandNe, float twentyKmh) {
-  form.Label22[0].Left = thousandNe * 5 + 450;
-  form.Label22[1].Left = thousandNe * 10 + 400;
-  form.Label22[2].Left = thousandNe * 15 + 400;
-  form.Label22[3].Left = thousandNe * 20 + 400;
-  form.Label20.Top = 5430 - twentyKmh * 5;
-  form.Label19.Top = 5430 - twentyKmh * 10;
-  form.Label18.Top = 5430 - twentyKmh * 15;
+  for (int i = 0; i <= 3; ++i) form.Label22[i].Left = NumeralLeft(i, thousandNe);
+  form.Label18.Top = NumeralTop(15, twentyKmh);
+  form.Label19.Top = NumeralTop(10, twentyKmh);
+  form.Label20.Top = NumeralTop(5, twentyKmh);
 }
 
 }  // namespace veldrin

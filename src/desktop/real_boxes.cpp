@@ -17,7 +17,6 @@ namespace veldrin {
 namespace {
 
 constexpr char kProgramTitle[] = "Veldrin";
-constexpr int kPrintCancelled = 32755;
 
 QMessageBox::Icon IconFor(BoxIcon icon) {
   switch (icon) {

@@ -162,9 +162,9 @@ void Spin1_SpinUp(Program& program) {
 
 // ---- The picker of files ----
 
-/// Append. A data folder that cannot be had leaves the boxes where they are. The pattern goes over "*.*", so
-/// that the list is read anew even where it is the same as before.
-/// Kept: the name box gets its item anew each time, and shows three characters of a longer key.
+/// Append. Where the data folder cannot be had, the boxes stay where they are, or go to its drive as far as
+/// that is there. The pattern goes over "*.*", so that the list is read anew even where it is the same as
+/// before. Kept: the name box gets its item anew each time, and shows three characters of a longer key.
 void Command1_Click(Program& program) {
   const Workspace& workspace = program.workspace;
   Form5& form5 = *program.form5;

@@ -58,8 +58,8 @@ void TakeJointRecord(Program& program, TextReader& reader) {
   form2.Label33[kFourthGear].Caption = countOfFourth;
 }
 
-/// Later records replace what earlier ones gave.
-/// Kept: a cell without a record keeps the caption it had.
+/// Later records replace what earlier ones gave. The cell of 3rd gear has large letters again before the
+/// first one, but only where there is a file. Kept: a cell without a record keeps the caption it had.
 void TakeRecords(Program& program, TextReader& reader, bool separate) {
   if (separate) program.form2.Label32[kThirdGear].FontSize = kLargestFontSize;
   while (!reader.AtEnd()) {
@@ -72,7 +72,8 @@ void TakeRecords(Program& program, TextReader& reader, bool separate) {
   }
 }
 
-/// Kept: a fault on the way leaves the file open, so that every later opening fails until the program ends.
+/// Kept: a fault on the way leaves the file open, so that every later opening fails until the program ends,
+/// also that of another machine's file, since all have the same number.
 void ShowParts(Program& program, bool separate) {
   const Workspace& workspace = program.workspace;
   const PathRules rules = program.machine.files.Rules();

@@ -34,13 +34,21 @@ void Picture9_DblClick(Program& program) {
 
 }  // namespace
 
+template <class Speeds>
+bool HasSpeed(const Speeds& speeds) {
+  for (int gear = 1; gear <= kGears; ++gear) {
+    if (speeds[gear] != 0) return true;
+  }
+  return false;
+}
+
 // "Request Mode" stands over the chart as long as requests are entered, also while the decision panel has put
 // another word in the place of the mode. A list that was refused leaves no speeds behind, and nothing is
 // drawn.
 void RedrawChart(Program& program) {
   if (program.form2.Label38.Visible) {
-    if (program.workspace.SpeedRequest[1] != 0) ChartRequest(program);
-  } else if (program.workspace.SpeedNow[1] != 0) {
+    if (HasSpeed(program.workspace.SpeedRequest)) ChartRequest(program);
+  } else if (HasSpeed(program.workspace.SpeedNow)) {
     ChartPlan(program);
   }
 }

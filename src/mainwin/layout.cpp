@@ -76,25 +76,28 @@ void PlaceSurface(Program& program) {
 void PlaceAxes(Form2& form2, float thousandNe, float twentyKmh) {
   PlaceLine(form2.Line1, 480, 0, 480, 5520);
   PlaceLine(form2.Line2, 480, 5520, 4460, 5520);
-  PlaceTicks(form2, thousandNe, twentyKmh);
   for (int i = 0; i <= 24; ++i) {
-    form2.Line4[i].Y1 = 5520;
-    form2.Line4[i].Y2 = 5640;
+    const float x = TickAcross(i, thousandNe);
+    PlaceLine(form2.Line4[i], x, 5520, x, 5640);
   }
   for (int i = 0; i <= 18; ++i) {
-    form2.Line3[i].X1 = 360;
-    form2.Line3[i].X2 = 480;
+    const float y = TickUp(i, twentyKmh);
+    PlaceLine(form2.Line3[i], 360, y, 480, y);
   }
 }
 
+void PlaceNumeral(Label& numeral, float left, float top) {
+  numeral.Left = left;
+  numeral.Top = top;
+}
+
 void PlaceAllNumerals(Form2& form2, float thousandNe, float twentyKmh) {
-  PlaceNumerals(form2, thousandNe, twentyKmh);
-  for (Label* speed : {&form2.Label18, &form2.Label19, &form2.Label20}) speed->Left = 150;
-  form2.Label21.Left = 360;
-  form2.Label21.Top = 5640;
-  for (int i = 0; i <= 3; ++i) form2.Label22[i].Top = 5640;
-  form2.Label22[4].Left = 3480;
-  form2.Label22[4].Top = 5805;
+  PlaceNumeral(form2.Label18, 150, NumeralTop(15, twentyKmh));
+  PlaceNumeral(form2.Label19, 150, NumeralTop(10, twentyKmh));
+  PlaceNumeral(form2.Label20, 150, NumeralTop(5, twentyKmh));
+  PlaceNumeral(form2.Label21, 360, 5640);
+  for (int i = 0; i <= 3; ++i) PlaceNumeral(form2.Label22[i], NumeralLeft(i, thousandNe), 5640);
+  PlaceNumeral(form2.Label22[4], 3480, 5805);
   const auto fontSize = static_cast<float>(RoundHalfToEven(form2.Picture19.Width / kPanelPerFontSize));
   for (Label* numeral : {&form2.Label18, &form2.Label19, &form2.Label20, &form2.Label21, &form2.Label22[0],
                          &form2.Label22[1], &form2.Label22[2], &form2.Label22[3], &form2.Label22[4]}) {

@@ -43,8 +43,6 @@ constexpr ReportStyle kPrinterStyle{.tyreLabel = "Tyer 1round Length",
                                     .chartLineWidth = 2,
                                     .skipsFaults = true};
 
-constexpr int kDialogCancelled = 32755;  // error number of the printer dialog
-
 float PictureTextSize(int sizeIndex) {
   return static_cast<float>(sizeIndex + 7);
 }
@@ -130,7 +128,7 @@ void PrintReport(Program& program) {
   PrintChoice choice;
   Guarded([&] { choice = program.machine.boxes.ChoosePrinter(); });
   // Kept: after any other error of the dialog the page is printed all the same.
-  if (choice.error == kDialogCancelled) return;
+  if (choice.error == kPrintCancelled) return;
   Guarded([&] { printer.SetCopies(choice.copies); });
   Guarded([&] {
     Surface& page = printer.Page();

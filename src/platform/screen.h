@@ -60,8 +60,11 @@ enum class BoxIcon { None, Information, Exclamation, Question, Critical };
 enum class BoxButtons { Ok, OkCancel };
 enum class BoxAnswer { Ok, Cancel };
 
+/// The printer dialog's error number for Cancel.
+constexpr int kPrintCancelled = 32755;
+
 struct PrintChoice {
-  int error = 0;  // 0 when accepted, 32755 when cancelled
+  int error = 0;  // 0 when accepted; kPrintCancelled, or the number of another fault
   int copies = 1;
 };
 

@@ -12,9 +12,6 @@
 
 namespace veldrin {
 
-/// The printer dialog's error number for Cancel.
-inline constexpr int kPrintCancelled = 32755;
-
 /// A message box that was shown, in the words of the log.
 struct ShownBox {
   std::string icon;

@@ -55,7 +55,11 @@ struct FailingPrinter : Printer {
 
   bool Available() const override { return true; }
   std::vector<std::string> Fonts() const override { return {}; }
-  void SetCopies(int) override { Call("copies"); }
+  int copies = 0;
+  void SetCopies(int number) override {
+    Call("copies");
+    copies = number;
+  }
   Surface& Page() override {
     Call("page");
     return page;
@@ -312,6 +316,22 @@ TEST_F(Report, DrawingLeavesTheWorkspaceAndTheWindowAlone) {
   EXPECT_EQ(workspace.CallerWord, "as it was");
   EXPECT_EQ(program.form2.Text6.Text.get(), "wet");
   EXPECT_EQ(program.form2.Text6.FontBold, false);
+}
+
+TEST_F(Report, PrinterMakesTheCopiesOfItsDialog) {
+  simulated.boxes.printAnswers = {{0, 3}};
+  PrintReport(program);
+  EXPECT_EQ(printer.copies, 3);
+}
+
+TEST_F(Report, RemarkOfAHundredThousandCharactersIsDrawnToTheLast) {
+  const std::string remark(100000, 'x');
+  // 6341 / 100 characters of 100 twips, so 64 a line: 1562 full lines, and 32 characters in the last.
+  const Places places = RemarkPlaces(remark);
+  ASSERT_EQ(places.size(), 100000U);
+  EXPECT_EQ(places[63], (std::pair<double, double>{11160, 4700}));
+  EXPECT_EQ(places[64], (std::pair<double, double>{4860, 4950}));
+  EXPECT_EQ(places[99999], (std::pair<double, double>{4860 + 31 * 100, 4700 + 1562 * 250}));
 }
 
 }  // namespace
