@@ -19,10 +19,8 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kUnknownKindMessage = 6;
 constexpr int kChangedMessage = 16;
 constexpr int kDiscardMessage = 25;
-constexpr int kMissingMessage = 26;
 
 bool HasUnsavedChanges(const Program& program) {
   return program.workspace.DataChanged == dirty::kYes && program.workspace.QuickQuit != kYesWord;
@@ -48,7 +46,8 @@ struct Drop {
 /// Why a file that raised a fault cannot be opened; 0 for no fault.
 int RefusalOf(int fault) {
   if (fault == 0) return 0;
-  return fault == kFaultFileNotFound || fault == kFaultPathNotFound ? kMissingMessage : kUnknownKindMessage;
+  return fault == kFaultFileNotFound || fault == kFaultPathNotFound ? kMissingFileMessage
+                                                                    : kUnknownKindMessage;
 }
 
 /// The machine of a plan file by its tag; empty where the tag names none.

@@ -140,6 +140,15 @@ void RealFiles::Delete(const std::string& path) {
   if (failure) Raise(FaultFor(failure, FileTask::Write));
 }
 
+void RealFiles::Respell(const std::string& path) {
+  const fs::path place = FileAt(path);
+  const fs::path wanted = place.parent_path() / NativePath(path).filename();
+  if (place == wanted) return;
+  std::error_code failure;
+  fs::rename(place, wanted, failure);
+  if (failure) Raise(FaultFor(failure, FileTask::Write));
+}
+
 std::int64_t RealFiles::Size(const std::string& path) {
   std::error_code failure;
   const std::uintmax_t size = fs::file_size(FileAt(path), failure);

@@ -26,6 +26,7 @@ class RealFiles : public Files {
   /// Replaces a file by these bytes, at once or not at all. Raises the faults of writing a file.
   void WriteBytes(const std::string& path, std::string_view bytes);
   void Delete(const std::string& path) override;
+  void Respell(const std::string& path) override;
   std::int64_t Size(const std::string& path) override;
 
   bool FileExists(const std::string& path) const override;

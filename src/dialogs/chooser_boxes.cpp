@@ -92,10 +92,17 @@ void Combo1_Change(Program& program) {
   if (program.workspace.CallerWord != caller::kForm1Timer) form3.Label4.Visible = false;
 }
 
+/// Whether a question stands on the prompt line that OK would answer.
+bool AsksOnPromptLine(const Program& program) {
+  const Label& prompt = program.form3.Label4;
+  return prompt.Visible && (prompt.Caption == Message(program.workspace, kOverwriteMessage) ||
+                            prompt.Caption == Message(program.workspace, kMachineChangeMessage));
+}
+
 /// Selects the typed name, if its extension is the machine's, and runs OK. Selecting an existing file runs OK
-/// already by the double click that it fires; the second run finds the work done. Only in the Save role it is
-/// left out where the first one ended in the question whether to overwrite, which it would answer, or where
-/// that one was the answer, so that the chooser has gone or stands in another role.
+/// already by the double click that it fires; the second run, which comes behind it, is left out where the
+/// first one ended in a question, which it would answer, and in the Save role where the first was the answer,
+/// so that the chooser has gone or stands in another role.
 void Combo1_Enter(Program& program) {
   Form3& form3 = program.form3;
   const std::string text = form3.Combo1.Text;
@@ -107,11 +114,15 @@ void Combo1_Enter(Program& program) {
   }
   const bool saving = RoleOfChooser(program) == ChooserRole::Save;
   const bool askedBefore = form3.Label4.Visible;
+  const std::string askedFor = program.workspace.DataPath;
   Guarded([&] { form3.File1.FileName = dot == 0 ? text + "." + key : text; });
-  const bool asksNow =
-      !askedBefore && form3.Label4.Visible && form3.Label4.Caption == Message(program.workspace, 8);
+  const bool asksNow = AsksOnPromptLine(program) && !(askedBefore && askedFor == program.workspace.DataPath);
   const bool saved = !form3.Visible || RoleOfChooser(program) != ChooserRole::Save;
-  if (!(saving && (asksNow || saved))) Guarded([&] { form3.Command1.Click(); });
+  if (asksNow) {
+    form3.Command1.Enabled = true;  // the user's to press
+  } else if (!(saving && saved)) {
+    Guarded([&] { form3.Command1.Click(); });
+  }
 }
 
 void Combo1_KeyDown(Program& program, int key) {

@@ -16,9 +16,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kUnknownKindMessage = 6;
-constexpr int kMachineChangeMessage = 7;
-constexpr int kOverwriteMessage = 8;
 constexpr int kReservedMessage = 9;
 
 /// The typed name, with the machine's extension behind it unless it has that.
@@ -36,8 +33,10 @@ std::string TargetPath(const Program& program) {
 /// The save would overwrite the file that waits to be loaded from the history.
 bool TargetIsReserved(const Program& program) {
   const Workspace& workspace = program.workspace;
+  const Form2& form2 = program.form2;
   return workspace.PendingAction == pending::kChangeLoadHistory &&
-         program.form2.menu_files[workspace.PendingHistoryIndex].Caption == LowerCase(TargetPath(program));
+         form2.menu_files.Has(workspace.PendingHistoryIndex) &&
+         form2.menu_files[workspace.PendingHistoryIndex].Caption == LowerCase(TargetPath(program));
 }
 
 void MakeProgramFolderCurrent(Program& program) {
@@ -132,13 +131,13 @@ void FirstOk(Program& program) {
   Guarded([&] { program.machine.files.SetCurrentFolder(program.form3.File1.Path); });
   workspace.DataPath = workspace.TempDir;
   if (TargetIsReserved(program)) {
-    ShowChooserPrompt(program, kReservedMessage);
     program.form3.Command1.Enabled = false;
+    ShowChooserPrompt(program, kReservedMessage);
     return;
   }
   // A name with a folder in it is not among the folder's names, but its file may be there all the same.
   const Files& files = program.machine.files;
-  const std::string found = files.FindFirst(workspace.SaveName);
+  const std::string found = files.FindFirst(TargetPath(program));
   if (LowerCase(found) == LowerCase(workspace.SaveName) || files.FileExists(TargetPath(program))) {
     ShowChooserPrompt(program, kOverwriteMessage);
     MakeProgramFolderCurrent(program);
@@ -149,11 +148,23 @@ void FirstOk(Program& program) {
   if (WritePlan(program)) FinishNewFile(program, modeWord);
 }
 
-/// The old file goes when the new one is complete and takes its place.
+/// The question was for the folder that was shown then, which the first OK made the one for plans.
+bool AskedForThisFolder(const Program& program) {
+  return LowerCase(program.workspace.DataPath) == LowerCase(program.workspace.TempDir);
+}
+
+/// The old file goes when the new one is complete and takes its place, by the name that was typed.
 void ConfirmingOk(Program& program) {
   if (program.form3.Label4.Caption != Message(program.workspace, kOverwriteMessage)) return;
+  if (!AskedForThisFolder(program)) {
+    program.form3.Label4.Visible = false;
+    FirstOk(program);
+    return;
+  }
   const std::string modeWord = program.workspace.ModeWord;
-  if (WritePlan(program)) FinishOverwrittenFile(program, modeWord);
+  if (!WritePlan(program)) return;
+  Guarded([&] { program.machine.files.Respell(TargetPath(program)); });
+  FinishOverwrittenFile(program, modeWord);
 }
 
 }  // namespace

@@ -19,8 +19,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kMachineChangeMessage = 7;
-constexpr int kOverwriteMessage = 8;
 constexpr int kLongestNameToExtend = 8;
 
 /// The running conditions go to their boxes, and the default machine is opened.
@@ -28,7 +26,7 @@ void Form3_Load(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
   Form3& form3 = program.form3;
-  form3.Label4.Caption = Message(workspace, 26);
+  form3.Label4.Caption = Message(workspace, kMissingFileMessage);
   if (workspace.IsJapanese == 1) form3.Label4.FontName = "ＭＳ ゴシック";
   form3.Left = (program.machine.screen.Width() - form3.Width) / 2;
   form3.Top = (program.machine.screen.Height() - form3.Height) / 2;
@@ -49,11 +47,10 @@ void Form3_Deactivate(Program& program) {
   program.form3.Hide();
 }
 
-/// The close box is CANCEL: the window lives as long as the program.
+/// The close box is CANCEL: the window lives as long as the program, which only its main window ends.
 void Form3_QueryUnload(Program& program, int reason) {
-  if (reason != static_cast<int>(CloseReason::User)) return;
-  program.form3.closeRefused = true;
-  program.form3.Command2.Click();
+  program.form3.closeRefused = reason != static_cast<int>(CloseReason::Code);
+  if (reason == static_cast<int>(CloseReason::User)) program.form3.Command2.Click();
 }
 
 std::string ChosenPath(const Program& program, const std::string& name) {

@@ -139,10 +139,13 @@ void LoadWithoutSaving(Program& program) {
   OpenChooserOfMode(program);
 }
 
+/// The changes stay where the entry is gone meanwhile: nothing comes in their place.
 void LoadHistoryWithoutSaving(Program& program) {
-  program.workspace.DataChanged = dirty::kNo;
+  const int index = program.workspace.PendingHistoryIndex;
+  const bool there = program.form2.menu_files.Has(index);
+  if (there) program.workspace.DataChanged = dirty::kNo;
   HidePanel(program);
-  program.form2.menu_files[program.workspace.PendingHistoryIndex].Click();
+  if (there) program.form2.menu_files[index].Click();
 }
 
 void Command9_Click(Program& program) {

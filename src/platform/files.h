@@ -40,6 +40,8 @@ struct Files {
   virtual std::string ReadText(const std::string& path) = 0;
   virtual std::unique_ptr<FileWriter> OpenForWriting(const std::string& path) = 0;
   virtual void Delete(const std::string& path) = 0;
+  /// Gives a file the name by which `path` finds it, with its case.
+  virtual void Respell(const std::string& path) = 0;
   /// Bytes of a file.
   virtual std::int64_t Size(const std::string& path) = 0;
 

@@ -3,6 +3,8 @@
 #include "runtime/fault.h"
 #include "runtime/text.h"
 
+#include <utility>
+
 namespace veldrin {
 
 DiskEntry* DiskEntry::Find(std::string_view entryName) const {
@@ -24,6 +26,13 @@ DiskEntry& DiskEntry::Put(const std::string& entryName, bool folder) {
 
 void DiskEntry::Remove(const DiskEntry& entry) {
   entries.erase(LowerCase(entry.name));
+}
+
+void DiskEntry::Rename(const DiskEntry& entry, const std::string& newName) {
+  auto node = entries.extract(LowerCase(entry.name));
+  node.key() = LowerCase(newName);
+  node.mapped()->name = newName;
+  entries.insert(std::move(node));
 }
 
 DiskPlace SimulatedDisk::PlaceOf(const SimulatedPath& path) const {

@@ -30,6 +30,7 @@ struct DiskEntry {
   /// Adds an entry in the place of one that has the name.
   DiskEntry& Put(const std::string& entryName, bool folder);
   void Remove(const DiskEntry& entry);
+  void Rename(const DiskEntry& entry, const std::string& newName);
 };
 
 /// A place on a drive, from its root on. It may be empty there.

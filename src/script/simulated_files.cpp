@@ -81,6 +81,14 @@ void SimulatedFiles::Delete(const std::string& path) {
   folder.Remove(file);
 }
 
+void SimulatedFiles::Respell(const std::string& path) {
+  const DiskPlace place = PlaceOf(path);
+  const DiskEntry& file = FileAt(place);
+  DiskEntry& folder = disk_->FolderAround(place);
+  if (folder.readOnly) Raise(kFaultPermissionDenied);
+  folder.Rename(file, place.parts.back());
+}
+
 std::int64_t SimulatedFiles::Size(const std::string& path) {
   return static_cast<std::int64_t>(FileAt(PlaceOf(path)).text.size());
 }

@@ -22,6 +22,7 @@ class SimulatedFiles : public Files {
   std::string ReadText(const std::string& path) override;
   std::unique_ptr<FileWriter> OpenForWriting(const std::string& path) override;
   void Delete(const std::string& path) override;
+  void Respell(const std::string& path) override;
   std::int64_t Size(const std::string& path) override;
 
   bool FileExists(const std::string& path) const override;

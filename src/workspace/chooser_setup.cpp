@@ -1,6 +1,7 @@
 #include "workspace/chooser_setup.h"
 
 #include "workspace/language.h"
+#include "workspace/paths.h"
 
 namespace veldrin {
 
@@ -15,9 +16,10 @@ void SetUpChooserBoxes(Program& program, const std::vector<std::string>& pattern
   for (const std::string& pattern : patterns) form3.Combo2.AddItem(pattern);
   form3.Combo2.ListIndex = static_cast<int>(patterns.size()) - 1;
   form3.Combo1.Text = patterns.back();
-  Guarded([&] { form3.Drive1.Drive = folder; });
-  Guarded([&] { form3.Dir1.Path = folder; });
-  Guarded([&] { form3.File1.Path = folder; });
+  const std::string start = WithRoot(program.machine.files.Rules(), folder);
+  Guarded([&] { form3.Drive1.Drive = start; });
+  Guarded([&] { form3.Dir1.Path = start; });
+  Guarded([&] { form3.File1.Path = start; });
   form3.Label3.Caption = form3.Dir1.Path;
   form3.File1.Pattern = kAnyPattern;
   form3.File1.Pattern = patterns.back();

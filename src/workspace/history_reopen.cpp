@@ -73,7 +73,8 @@ void AskForChanges(Program& program, int index) {
 void ReopenFromHistory(Program& program, int index) {
   Workspace& workspace = program.workspace;
   if (program.form2.Label12[3].BackColor == kRed) workspace.DataChanged = dirty::kNo;
-  if (index < 1) return;
+  // An entry may be gone by the time that a question about it is answered.
+  if (index < 1 || !program.form2.menu_files.Has(index)) return;
   const std::string path = program.form2.menu_files[index].Caption;
   if (workspace.DataChanged != dirty::kYes || workspace.QuickQuit == kYesWord) {
     OpenEntry(program, path);

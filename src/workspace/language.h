@@ -14,6 +14,12 @@ namespace veldrin {
 /// Messages that are in use; the table has room for 30.
 inline constexpr int kMessages = 28;
 
+// Numbers of those that several units show or look for.
+inline constexpr int kUnknownKindMessage = 6;
+inline constexpr int kMachineChangeMessage = 7;
+inline constexpr int kOverwriteMessage = 8;
+inline constexpr int kMissingFileMessage = 26;
+
 /// Sets `TitlePrefix`, `ChangedMark` and `IsJapanese` by the system's country. `instanceNumber` counts from 1
 /// and shows in the Japanese title alone. Raises nothing.
 void SetTitleTexts(Program& program, int instanceNumber);

@@ -60,7 +60,7 @@ void ShowNoPlan(Program& program) {
 /// The file asked for a list and a plan was wanted: it stays open until the user confirms the change of
 /// machine with a second OK, for which the chooser is shown again from outside its own OK.
 void AskForChangeOfMachine(Program& program) {
-  program.form3.Label4.Caption = Message(program.workspace, 7);
+  program.form3.Label4.Caption = Message(program.workspace, kMachineChangeMessage);
   program.workspace.ResultWord = result::kAnotherList;
   program.form3.Label4.Visible = true;
   program.form3.Hide();
@@ -94,7 +94,7 @@ void OpenPlanFile(Program& program, const std::string& path, const std::string& 
 void RefuseFile(Program& program, const std::string& path, int fault) {
   Workspace& workspace = program.workspace;
   Form3& form3 = program.form3;
-  form3.Label4.Caption = Message(workspace, 6);
+  form3.Label4.Caption = Message(workspace, kUnknownKindMessage);
   program.files.Close(Handle::Reader);
   workspace.ResultWord = result::kNotGood;
   RemoveFromHistory(program, path);
@@ -103,7 +103,7 @@ void RefuseFile(Program& program, const std::string& path, int fault) {
   if (missing && workspace.CallerWord == caller::kForm1) {
     ShowBadCommandLine(program);
   } else if (missing && workspace.CallerWord == caller::kForm3) {
-    form3.Label4.Caption = Message(workspace, 26);
+    form3.Label4.Caption = Message(workspace, kMissingFileMessage);
     form3.Label4.Visible = true;
   } else {
     ShowUnknownKind(program);
@@ -164,7 +164,7 @@ void ReadMachineList(Program& program) {
   program.files.Close(Handle::Reader);
   if (!understood) {
     workspace.ResultWord = result::kNotGood;
-    program.form3.Label4.Caption = Message(workspace, 6);
+    program.form3.Label4.Caption = Message(workspace, kUnknownKindMessage);
     ShowUnknownKind(program);
     return;
   }

@@ -13,6 +13,11 @@ std::string TrimRoot(const PathRules& rules, const std::string& folder) {
   return Left(folder, rules.rootLength);
 }
 
+std::string WithRoot(const PathRules& rules, const std::string& folder) {
+  const std::string whole = JoinPath(rules, folder, "");
+  return TrimRoot(rules, whole) == folder ? whole : folder;
+}
+
 std::string FolderOf(const PathRules& rules, const std::string& path) {
   const std::size_t at = path.rfind(rules.separator);
   return at == std::string::npos ? "" : path.substr(0, at);

@@ -15,6 +15,9 @@ std::string JoinPath(const PathRules& rules, const std::string& folder, const st
 /// Kept: a longer path with a separator at its end is cut to the drive as well.
 std::string TrimRoot(const PathRules& rules, const std::string& folder);
 
+/// The folder that TrimRoot gave, as boxes go to it: a root has its separator again.
+std::string WithRoot(const PathRules& rules, const std::string& folder);
+
 /// What stands before the last separator; empty when there is none.
 std::string FolderOf(const PathRules& rules, const std::string& path);
 

@@ -89,6 +89,16 @@ TEST_F(RealFilesTest, WritingUsesTheNameOnTheDisk) {
   EXPECT_EQ(Bytes("Plan.nx4"), "new");
 }
 
+TEST_F(RealFilesTest, AFileTakesTheSpellingOfAPath) {
+  Put("Plan.nx4", "a");
+  files.Respell(PathOf("PLAN.nx4"));
+  EXPECT_EQ(Names(), QStringList("PLAN.nx4"));
+  files.Respell(PathOf("PLAN.nx4"));
+  EXPECT_EQ(Names(), QStringList("PLAN.nx4"));
+  EXPECT_EQ(Bytes("PLAN.nx4"), "a");
+  EXPECT_EQ(Guarded([&] { files.Respell(PathOf("none.nx4")); }), kFaultFileNotFound);
+}
+
 TEST_F(RealFilesTest, NamesThatAreNoUtf8AreReadAndWritten) {
   const std::string name = "\x8a\x43.nx4";
   std::ofstream(PathOf(name)) << "a";

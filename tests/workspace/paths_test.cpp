@@ -6,19 +6,21 @@ namespace veldrin {
 namespace {
 
 constexpr PathRules kDrives;
-constexpr PathRules kOneTree{'/', 0, true};
+constexpr PathRules kOneRoot{.separator = '/', .rootLength = 0};
 
-TEST(StoredFolder, StandsInCapitalsWhereNamesDoNotDependOnCase) {
-  EXPECT_EQ(StoredFolder(kDrives, "C:\\My Lists"), "C:\\MY LISTS");
-  EXPECT_EQ(StoredFolder(kDrives, "d:\\"), "D:\\");
-  EXPECT_EQ(StoredFolder(kDrives, "C:\\Données"), "C:\\DONNÉES");
-  EXPECT_EQ(StoredFolder(kDrives, ""), "");
+TEST(Paths, FolderIsCutToJoinToIt) {
+  EXPECT_EQ(TrimRoot(kDrives, "C:\\"), "C:");
+  EXPECT_EQ(TrimRoot(kDrives, "C:\\DAT"), "C:\\DAT");
+  EXPECT_EQ(TrimRoot(kDrives, "C:\\DAT\\"), "C:");
+  EXPECT_EQ(TrimRoot(kOneRoot, "/"), "");
+  EXPECT_EQ(TrimRoot(kOneRoot, "/dat"), "/dat");
 }
 
-TEST(StoredFolder, KeepsItsCaseWhereNamesDependOnIt) {
-  EXPECT_EQ(StoredFolder(kOneTree, "/home/rider/My Lists"), "/home/rider/My Lists");
-  EXPECT_EQ(StoredFolder(kOneTree, "/"), "/");
-  EXPECT_EQ(StoredFolder(kOneTree, ""), "");
+TEST(Paths, RootGetsItsSeparatorBack) {
+  EXPECT_EQ(WithRoot(kDrives, "C:"), "C:\\");
+  EXPECT_EQ(WithRoot(kDrives, "C:\\DAT"), "C:\\DAT");
+  EXPECT_EQ(WithRoot(kOneRoot, ""), "/");
+  EXPECT_EQ(WithRoot(kOneRoot, "/dat"), "/dat");
 }
 
 }  // namespace

@@ -381,8 +381,11 @@ TEST_F(Reopen, TheSeparatorOnlyTestsForTheForbiddenPair) {
   EXPECT_EQ(workspace.DataFile, "");
 }
 
-TEST_F(Reopen, AnEntryThatIsNotThereIsAFault) {
-  EXPECT_EQ(Guarded([&] { ReopenFromHistory(program, 9); }), kFaultNoControlElement);
+TEST_F(Reopen, AnEntryThatIsNotThereOpensNothing) {
+  program.workspace.DataChanged = dirty::kYes;
+  EXPECT_EQ(Guarded([&] { ReopenFromHistory(program, 9); }), 0);
+  EXPECT_EQ(program.workspace.PendingHistoryIndex, 0);
+  EXPECT_FALSE(program.form2.Picture20.Visible);
 }
 
 }  // namespace
