@@ -1,6 +1,7 @@
 #include "desktop/accessible_control.h"
 
 #include "desktop/accessible_name.h"
+#include "desktop/form_widget.h"
 #include "desktop/reach.h"
 #include "desktop/spin_widget.h"
 
@@ -64,7 +65,8 @@ class AccessibleSpin : public QAccessibleWidget, public QAccessibleValueInterfac
   PlacedView* view_;
 };
 
-/// A label or picture that is pressed like a button.
+/// A label or picture that is pressed like a button. Where only the second click does something, both are one
+/// press; what the right button may do there is asked for like a menu.
 class AccessiblePress : public QAccessibleWidget {
  public:
   AccessiblePress(QWidget& widget, PlacedView& view)
@@ -78,15 +80,29 @@ class AccessiblePress : public QAccessibleWidget {
   }
 
   QStringList actionNames() const override {
-    if (!widget()->isEnabled()) return {};
-    return {pressAction()};
+    if (view_->Shows() == nullptr || !widget()->isEnabled()) return {};
+    QStringList names{pressAction()};
+    if (KnowsButtons()) names.append(showMenuAction());
+    return names;
   }
 
   void doAction(const QString& name) override {
-    if (name == pressAction() && widget()->isEnabled()) view_->ClickedOtherwise();
+    Control* const control = view_->Shows();
+    auto* const form = dynamic_cast<FormWidget*>(widget()->window());
+    if (control == nullptr || form == nullptr || !actionNames().contains(name)) return;
+    form->Input().Do([&] {
+      if (name == showMenuAction()) return user::Click(*control, kRightButton);
+      const bool twice = IsHandled(*control, "DblClick") && !IsHandled(*control, "Click");
+      return twice ? user::DoubleClick(*control) : user::Click(*control);
+    });
   }
 
  private:
+  /// Whether there are events that tell the buttons apart.
+  bool KnowsButtons() const {
+    return IsHandled(*view_->Shows(), "MouseDown") || IsHandled(*view_->Shows(), "MouseUp");
+  }
+
   PlacedView* view_;
 };
 

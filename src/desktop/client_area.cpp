@@ -21,6 +21,11 @@ void ClientArea::TakeAll() {
   Take("BackColor");
 }
 
+bool ClientArea::IsUncovered(const QWidget& widget) const {
+  const QWidget* met = childAt(PlaceOf(widget).center());
+  return met == &widget || (met != nullptr && widget.isAncestorOf(met));
+}
+
 void ClientArea::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().color(QPalette::Window));

@@ -13,6 +13,11 @@ class ClientArea : public ControlWidget<QWidget> {
   void Take(std::string_view slot) override;
   void TakeAll() override;
 
+  /// The place of a widget that lies in it.
+  QRect PlaceOf(const QWidget& widget) const { return {widget.mapTo(this, QPoint()), widget.size()}; }
+  /// Whether the pointer would meet such a widget, or what lies on it, in its middle.
+  bool IsUncovered(const QWidget& widget) const;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 

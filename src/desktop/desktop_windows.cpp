@@ -79,7 +79,8 @@ void DesktopWindows::Loaded(Window& window) {
 }
 
 void DesktopWindows::Build(Window& window) {
-  forms_.push_back(std::make_unique<FormWidget>(window, *stage_));
+  const auto formOf = [this](const Window& other) { return FormOf(other); };
+  forms_.push_back(std::make_unique<FormWidget>(window, *stage_, formOf));
 }
 
 void DesktopWindows::Unloaded(Window& window) {

@@ -1,15 +1,14 @@
 #include "desktop/form_widget.h"
 
 #include "desktop/fonts.h"
-#include "desktop/keyboard.h"
 #include "desktop/menu_view.h"
-#include "desktop/placement.h"
 #include "desktop/view_factory.h"
 
 #include <QGuiApplication>
-#include <QScrollBar>
-#include <QWheelEvent>
+#include <QTimer>
+#include <QWindow>
 
+#include <algorithm>
 #include <unordered_set>
 #include <utility>
 
@@ -19,8 +18,15 @@ namespace {
 
 constexpr int kRevealMargin = 8;  // pixels that stay free around what was scrolled to
 
-Qt::WindowFlags FlagsFor(const Window& window) {
-  return window.hasFrame ? Qt::Window : Qt::Window | Qt::FramelessWindowHint;
+/// A window that keeps others from answering cannot be put away alone, and one whose size is fixed has
+/// nothing to maximise.
+Qt::WindowFlags FlagsFor(const Window& window, bool canResize) {
+  const Qt::WindowFlags kind = window.isModal ? Qt::Dialog : Qt::Window;
+  if (!window.hasFrame) return kind | Qt::FramelessWindowHint;
+  const Qt::WindowFlags flags = kind | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+  const Qt::WindowFlags away = window.isModal ? Qt::WindowFlags() : Qt::WindowMinimizeButtonHint;
+  return flags | away | (canResize ? Qt::WindowMaximizeButtonHint : Qt::WindowFlags());
 }
 
 // Qt writes its own mark for changed documents where a title has the first of these.
@@ -29,12 +35,14 @@ constexpr QLatin1String kMarkItself("[*][*]");
 
 }  // namespace
 
-FormWidget::FormWidget(Window& window, Stage& stage)
-    : QWidget(nullptr, FlagsFor(window)),
+FormWidget::FormWidget(Window& window, Stage& stage, FormFinder formOf)
+    : QWidget(nullptr, FlagsFor(window, window.Resize.Claims() > 0)),
       window_(&window),
       stage_(&stage),
+      formOf_(std::move(formOf)),
       scroll_(new QScrollArea(this)),
       client_(new ClientArea(window, stage, nullptr)),
+      ring_(new ReachRing(*client_, stage.zoom)),
       factor_(stage.zoom.Factor()),
       factorNormal_(factor_),
       normal_(window.Width, window.Height),
@@ -66,6 +74,8 @@ void FormWidget::LetGo() {
   client_->LetGo();
   window_ = nullptr;
   hide();
+  viewOf_.clear();
+  known_.clear();
   owned_.clear();
 }
 
@@ -88,11 +98,12 @@ void FormWidget::MakeMissingViews() {
     made.view->TakeAll();
   }
   known_ = window_->controls;
-  told_ = known_.size();
+  controlCount_ = known_.size();
   ArrangeMenus();
 }
 
-/// A control that is gone may be inside one of its own events: its widget is deleted when that is over.
+/// A control that is gone may be inside one of its own events: its widget, or its view where it has none, is
+/// deleted when that is over.
 void FormWidget::DropLostViews() {
   const std::unordered_set<const Control*> there(window_->controls.begin(), window_->controls.end());
   for (auto entry = viewOf_.begin(); entry != viewOf_.end();) {
@@ -108,6 +119,16 @@ void FormWidget::DropLostViews() {
     }
     entry = viewOf_.erase(entry);
   }
+}
+
+void FormWidget::DeleteUnusedViews() {
+  const auto unused = [](const auto& view) { return view->Shows() == nullptr; };
+  if (std::none_of(owned_.begin(), owned_.end(), unused)) return;
+  // The handler of an entry that took itself away may be on its way back through Qt still.
+  QTimer::singleShot(0, this, [this, unused] {
+    const Program* const served = stage_->input.Served();
+    if (served == nullptr || served->eventDepth == 0) std::erase_if(owned_, unused);
+  });
 }
 
 void FormWidget::FollowControls() {
@@ -166,7 +187,7 @@ void FormWidget::TakeContent(Control& control) {
     // A control that is gone must not be looked at again. New ones come by the hundred, each told: they wait
     // for the event's end.
     const std::size_t count = window_->controls.size();
-    if (count < std::exchange(told_, count)) FollowControls();
+    if (count < std::exchange(controlCount_, count)) FollowControls();
     TakeFocus();
   } else if (ControlView* view = ViewOf(control)) {
     view->TakeContent();
@@ -182,8 +203,10 @@ void FormWidget::Settle() {
   // Whoever has to answer has to see the question.
   if (raised_ != nullptr && raised_->isVisible()) Reveal(raised_);
   raised_.clear();
+  ring_->StayInFront();
   TakeFocus();
-  if (untold_ && user::Reachable(*window_)) TellSoon();
+  DeleteUnusedViews();
+  if (frameUntold_ && user::Reachable(*window_)) TellFrameSoon();
 }
 
 /// The program's focus is the one that counts.
@@ -207,18 +230,6 @@ void FormWidget::Reveal(QWidget* widget) {
   // What a press moves away from under the pointer would not hear of its release.
   if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
   scroll_->ensureWidgetVisible(widget, kRevealMargin, kRevealMargin);
-}
-
-/// A turn of the wheel that no control has a use for.
-void FormWidget::wheelEvent(QWheelEvent* event) {
-  event->ignore();
-  if (!Scrolls()) return;
-  const QPoint turned = event->angleDelta();
-  const bool asksAcross = event->modifiers() == Qt::ShiftModifier || qAbs(turned.x()) > qAbs(turned.y());
-  QScrollBar* const down = scroll_->verticalScrollBar();
-  const bool across = asksAcross || down->maximum() == down->minimum();
-  // Not sent: a bar at its end would hand it back to its parents.
-  (across ? scroll_->horizontalScrollBar() : down)->event(event);
 }
 
 // ---- the window itself ----
@@ -245,6 +256,56 @@ void FormWidget::TakeWindowSlot(std::string_view slot) {
 
 std::string FormWidget::Title() const {
   return windowTitle().replace(kMarkItself, kMark).toStdString();
+}
+
+// ---- showing and hiding ----
+
+void FormWidget::TakeVisible() {
+  if (!window_->Visible) {
+    hide();
+    return;
+  }
+  TakeKind();
+  Settle();
+  KeepOnScreen();
+  StandBeforeOwner();
+  show();
+  TakeState();
+  Reveal(focusWidget());
+}
+
+void FormWidget::BecomeModal() {
+  if (windowModality() == Qt::ApplicationModal) return;
+  // Qt takes it over when a window is shown.
+  const Applying applying(*stage_);
+  hide();
+  TakeVisible();
+}
+
+/// A hidden window becomes a modal one or ceases to be. Qt makes it anew for the desktop then, with the place
+/// and size that it has.
+void FormWidget::TakeKind() {
+  setWindowModality(window_->isModal ? Qt::ApplicationModal : Qt::NonModal);
+  const Qt::WindowFlags flags = FlagsFor(*window_, CanResize());
+  if ((flags & Qt::WindowType_Mask) != windowType()) setWindowFlags(flags);
+}
+
+/// A modal window belongs to the one that it was called from: the desktop keeps it in front of that, and puts
+/// both away and fetches them back together.
+void FormWidget::StandBeforeOwner() {
+  if (!window_->isModal && (windowHandle() == nullptr || windowHandle()->transientParent() == nullptr))
+    return;
+  QWindow* owner = nullptr;
+  const Desk& desk = window_->desk;
+  std::vector<Window*> others = desk.shown;
+  if (desk.active != nullptr) others.insert(others.begin(), desk.active);
+  const auto found = std::find_if(others.begin(), others.end(), [this](const Window* other) {
+    const FormWidget* form = other == window_ ? nullptr : formOf_(*other);
+    return form != nullptr && form->isVisible();
+  });
+  if (window_->isModal && found != others.end()) owner = formOf_(**found)->windowHandle();
+  create();
+  windowHandle()->setTransientParent(owner);
 }
 
 }  // namespace veldrin

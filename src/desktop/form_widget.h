@@ -6,11 +6,14 @@
 // the area inside is what is kept to. Where that is larger than the screen it scrolls, and so does what a
 // maximised window has no room for: the inside is never smaller there than before.
 //
-// form_widget.cpp has the controls inside, form_widget_frame.cpp what the desktop and the user do with the
-// window as a whole: its zoom, size, place and state, its closing, and files dropped on it.
+//   form_widget.cpp         the controls inside, the focus, showing and hiding, also in front of others
+//   form_widget_frame.cpp   zoom, size, place and state, by the program and by the desktop
+//   form_widget_input.cpp   what the user does with the window as a whole: keys, the wheel, closing, coming
+//                           back to it, dropping files on it
 #pragma once
 
 #include "desktop/client_area.h"
+#include "desktop/reach_ring.h"
 
 #include <QMenuBar>
 #include <QPixmap>
@@ -19,6 +22,7 @@
 #include <QWidget>
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <unordered_map>
 
@@ -26,7 +30,10 @@ namespace veldrin {
 
 class FormWidget : public QWidget {
  public:
-  FormWidget(Window& window, Stage& stage);
+  /// Finds the widget of another window; null while there is none.
+  using FormFinder = std::function<FormWidget*(const Window&)>;
+
+  FormWidget(Window& window, Stage& stage, FormFinder formOf);
   ~FormWidget() override;
 
   /// The window; null once it is unloaded.
@@ -34,7 +41,7 @@ class FormWidget : public QWidget {
   /// The record is about to go. The widget hides; it is deleted by its owner when no event runs.
   void LetGo();
 
-  /// The view of a control of this window; null where there is none.
+  /// The view of a control of this window; null where there is none, or none any more.
   ControlView* ViewOf(const Control& control) const;
 
   /// A slot of the window or one of its controls was written; what is drawn on one changed.
@@ -50,12 +57,16 @@ class FormWidget : public QWidget {
   void BecomeModal();
   /// The window as it looks without its frame, whole even where the screen has no room for it.
   QPixmap Picture();
-  /// Whether the user can draw the window larger and smaller.
-  bool CanBeDrawnAt() const { return CanResize() && !Scrolls() && ellipse_.isNull(); }
+  /// Whether the area inside follows when the user draws at the frame now.
+  bool UserCanResize() const { return CanResize() && !Scrolls() && ellipse_.isNull(); }
   /// The title as the program wrote it.
   std::string Title() const;
   /// The area that the controls lie on.
   ClientArea& Client() { return *client_; }
+  /// The ring around what F6 has reached of them.
+  ReachRing& Ring() { return *ring_; }
+  /// The way of the user's doings with what is inside.
+  ProgramInput& Input() { return stage_->input; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -73,6 +84,7 @@ class FormWidget : public QWidget {
   void FollowControls();
   void MakeMissingViews();
   void DropLostViews();
+  void DeleteUnusedViews();
   void ArrangeMenus();
   void Stack(const Control& parent);
   void Reveal(QWidget* widget);
@@ -82,6 +94,9 @@ class FormWidget : public QWidget {
   void TakePosition();
   void TakeState();
   void TakeVisible();
+  void TakeKind();
+  void StandBeforeOwner();
+  void BringModalBack();
   void TakeFocus();
   void FitFrame();
   void PlaceInside();
@@ -92,13 +107,15 @@ class FormWidget : public QWidget {
   QSize InsideOfFrame() const;
   QSize BarsFor(const QSize& whole, const QSize& room) const;
   void ShowBars();
-  void TellSoon();
-  void Tell();
+  void TellFrameSoon();
+  void TellFrame();
   void TellSize();
   void TellPlace();
   bool TakesFiles() const;
   int MenuHeight() const;
   int Rounding() const;
+  QPoint Corner() const;
+  /// Whether the program lays its window out for any size.
   bool CanResize() const { return window_->Resize.Claims() > 0; }
   /// Whether the inside may be larger than the frame.
   bool Scrolls() const { return clipped_ || isMaximized(); }
@@ -107,15 +124,17 @@ class FormWidget : public QWidget {
 
   Window* window_;
   Stage* stage_;
+  FormFinder formOf_;
   std::unordered_map<const Control*, ControlView*> viewOf_;
   /// The controls that have been looked at, in the order of the screen.
   std::vector<Control*> known_;
-  std::size_t told_ = 0;  // how many controls there were when last told
+  std::size_t controlCount_ = 0;  // how many there were when the program last told of them
   /// Views without a widget, also those of entries that are gone from a menu.
   std::vector<std::unique_ptr<ControlView>> owned_;
   QMenuBar* menuBar_ = nullptr;
   QScrollArea* scroll_;
   ClientArea* client_;
+  ReachRing* ring_;
   bool clipped_ = false;      // the area inside is larger than the screen has room for
   QRect ellipse_;             // in pixels of the program; null for none
   QPointer<QWidget> raised_;  // a panel that came to the front in this event
@@ -125,9 +144,9 @@ class FormWidget : public QWidget {
   /// Outer size in twips of the frame when it is not maximised, and before the desktop last changed it.
   QSizeF normal_;
   QSizeF normalBefore_;
-  bool telling_ = false;    // the program hears of a place or size that the frame has already
-  bool untold_ = false;     // it could not be told: something modal stands in front
-  bool restoring_ = false;  // the frame is on its way back to a size that belongs to another zoom
+  bool tellingFrame_ = false;  // the program hears of a place or size that the frame has already
+  bool frameUntold_ = false;   // it could not be told: something modal stands in front
+  bool restoring_ = false;     // the frame is on its way back to a size that belongs to another zoom
 };
 
 }  // namespace veldrin

@@ -1,18 +1,12 @@
-#include "desktop/dropped_file.h"
 #include "desktop/fonts.h"
 #include "desktop/form_widget.h"
-#include "desktop/keyboard.h"
 #include "desktop/menu_view.h"
 #include "desktop/placement.h"
 
-#include <QCloseEvent>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QTimer>
 
 #include <algorithm>
@@ -37,30 +31,19 @@ QSize RoomOn(const QScreen* screen, const QSize& otherwise) {
   return screen == nullptr ? otherwise : screen->availableGeometry().size() - kFrameRoom;
 }
 
-bool IsLarger(const QSize& size, const QSize& room) {
-  return size.width() > room.width() || size.height() > room.height();
+/// The program counts places from where the primary screen begins, which is the only one that it knows.
+QPoint Origin() {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  return screen == nullptr ? QPoint() : screen->geometry().topLeft();
 }
 
-/// The file stays where it is: whoever drags it must not be told that it may go.
-void AcceptCopy(QDropEvent& event) {
-  if (event.possibleActions().testFlag(Qt::CopyAction)) event.setDropAction(Qt::CopyAction);
-  event.accept();
+bool IsLarger(const QSize& size, const QSize& room) {
+  return size.width() > room.width() || size.height() > room.height();
 }
 
 }  // namespace
 
 // ---- the zoom ----
-
-void FormWidget::AddZoomKeys() {
-  const auto add = [this](const QKeySequence& keys, auto change) {
-    connect(new QShortcut(keys, this), &QShortcut::activated, this, change);
-  };
-  for (const auto key : {Qt::Key_Plus, Qt::Key_Equal}) {
-    add(QKeySequence(Qt::CTRL | key), [this] { stage_->zoom.Enlarge(); });
-  }
-  add(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { stage_->zoom.Reduce(); });
-  add(QKeySequence(Qt::CTRL | Qt::Key_0), [this] { stage_->zoom.Set(1); });
-}
 
 void FormWidget::TakeZoom() {
   const Applying applying(*stage_);
@@ -93,11 +76,12 @@ void FormWidget::Rescale() {
     const double place = away ? slot * before / factor_ : stage_->zoom.Twips(pixels);
     return static_cast<float>(place);
   };
-  const QScopedValueRollback<bool> telling(telling_, true);
-  window_->Left = twips(window_->Left, x());
-  window_->Top = twips(window_->Top, y());
+  const QScopedValueRollback<bool> telling(tellingFrame_, true);
+  const QPoint corner = pos() - Origin();
+  window_->Left = twips(window_->Left, corner.x());
+  window_->Top = twips(window_->Top, corner.y());
   Reveal(focusWidget());
-  if (isMaximized()) TellSoon();
+  if (isMaximized()) TellFrameSoon();
 }
 
 // ---- size ----
@@ -171,9 +155,9 @@ void FormWidget::TakeSize() {
     PlaceInside();
     return;
   }
-  if (!telling_ || !clipped_) normal_ = {window_->Width, window_->Height};
+  if (!tellingFrame_ || !clipped_) normal_ = {window_->Width, window_->Height};
   // A frame that the user is drawing at is not pulled out of his hand.
-  if (telling_) return;
+  if (tellingFrame_) return;
   normalBefore_ = normal_;
   FitFrame();
 }
@@ -216,10 +200,16 @@ void FormWidget::PlaceInside() {
 
 // ---- place and state ----
 
+/// Where the program wants the frame.
+QPoint FormWidget::Corner() const {
+  const Zoom& zoom = stage_->zoom;
+  return Origin() + QPoint(qRound(zoom.Pixels(window_->Left)), qRound(zoom.Pixels(window_->Top)));
+}
+
 void FormWidget::TakePosition() {
-  const QPoint corner(qRound(stage_->zoom.Pixels(window_->Left)), qRound(stage_->zoom.Pixels(window_->Top)));
+  const QPoint corner = Corner();
   if (ellipse_.isNull()) {
-    if (!isMaximized() && !telling_) move(corner);
+    if (!isMaximized() && !tellingFrame_) move(corner);
     return;
   }
   // Only the box of the ellipse is a window on the screen; the rest would be cut away.
@@ -261,35 +251,7 @@ void FormWidget::TakeState() {
   setWindowState(states);
 }
 
-void FormWidget::TakeVisible() {
-  if (!window_->Visible) {
-    hide();
-    return;
-  }
-  setWindowModality(window_->isModal ? Qt::ApplicationModal : Qt::NonModal);
-  Settle();
-  KeepOnScreen();
-  show();
-  TakeState();
-  Reveal(focusWidget());
-}
-
-void FormWidget::BecomeModal() {
-  if (windowModality() == Qt::ApplicationModal) return;
-  // Qt takes it over when a window is shown.
-  const Applying applying(*stage_);
-  hide();
-  TakeVisible();
-}
-
 // ---- what the desktop does with the window ----
-
-void FormWidget::closeEvent(QCloseEvent* event) {
-  event->ignore();
-  if (window_ != nullptr) {
-    stage_->input.Do([window = window_] { return user::Close(*window, CloseReason::User); });
-  }
-}
 
 void FormWidget::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
@@ -299,6 +261,7 @@ void FormWidget::changeEvent(QEvent* event) {
   if (stage_->applying > 0) return;
   Window& window = *window_;
   if (event->type() == QEvent::ActivationChange && isActiveWindow() && window.desk.active != &window) {
+    BringModalBack();
     stage_->input.Do([&] { return user::Activate(window); });
   } else if (isState) {
     const auto state = isMinimized()   ? WindowState::Minimised
@@ -327,7 +290,7 @@ void FormWidget::FrameStateChanged(Qt::WindowStates before) {
   } else {
     ShowBars();
   }
-  TellSoon();
+  TellFrameSoon();
 }
 
 /// The desktop has given the frame back the pixels that it had at another zoom.
@@ -338,12 +301,12 @@ void FormWidget::EndRestoring() {
     client_->resize(InsidePixels(normal_));
     FitFrame();
   }
-  Tell();
+  TellFrame();
 }
 
 void FormWidget::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
-  if (stage_->applying == 0) Tell();
+  if (stage_->applying == 0) TellFrame();
 }
 
 void FormWidget::resizeEvent(QResizeEvent* event) {
@@ -352,40 +315,35 @@ void FormWidget::resizeEvent(QResizeEvent* event) {
   if (restoring_) {
     QTimer::singleShot(0, this, [this] { EndRestoring(); });
   } else if (stage_->applying == 0) {
-    Tell();
+    TellFrame();
   }
 }
 
-void FormWidget::TellSoon() {
-  QTimer::singleShot(0, this, [this] { Tell(); });
+void FormWidget::TellFrameSoon() {
+  QTimer::singleShot(0, this, [this] { TellFrame(); });
 }
 
 /// Tells the program where the desktop has put the frame, and how large it made it; later, while something
 /// modal stands in front.
-void FormWidget::Tell() {
+void FormWidget::TellFrame() {
   if (window_ == nullptr || !isVisible() || isMinimized() || restoring_ || !ellipse_.isNull()) return;
-  untold_ = !user::Reachable(*window_);
-  if (untold_) return;
+  frameUntold_ = !user::Reachable(*window_);
+  if (frameUntold_) return;
   TellPlace();
   if (window_ != nullptr && CanResize()) TellSize();
 }
 
 void FormWidget::TellPlace() {
-  const Zoom& zoom = stage_->zoom;
-  const auto known = [&] {
-    return QPoint(qRound(zoom.Pixels(window_->Left)), qRound(zoom.Pixels(window_->Top)));
-  };
   const QPoint now = pos();
-  if (isMaximized() || now == known()) return;
+  if (isMaximized() || now == Corner()) return;
   {
-    const QScopedValueRollback<bool> telling(telling_, true);
-    stage_->input.Do([&, window = window_] {
-      return user::Move(*window, static_cast<float>(zoom.Twips(now.x())),
-                        static_cast<float>(zoom.Twips(now.y())));
-    });
+    const QScopedValueRollback<bool> telling(tellingFrame_, true);
+    const QPoint told = now - Origin();
+    const auto twips = [this](int pixels) { return static_cast<float>(stage_->zoom.Twips(pixels)); };
+    stage_->input.Do([&, window = window_] { return user::Move(*window, twips(told.x()), twips(told.y())); });
   }
   // The program may have wished for another place.
-  if (window_ != nullptr && known() != now) TakeWindowSlot("Left");
+  if (window_ != nullptr && Corner() != now) TakeWindowSlot("Left");
 }
 
 void FormWidget::TellSize() {
@@ -408,39 +366,11 @@ void FormWidget::TellSize() {
                                  normal_.height(), window.InnerHeight());
   normalBefore_ = normal_;
   {
-    const QScopedValueRollback<bool> telling(telling_, true);
+    const QScopedValueRollback<bool> telling(tellingFrame_, true);
     stage_->input.Do([&] { return user::Resize(window, newWidth, newHeight); });
   }
   // The handler may have wished for another size.
   if (window_ != nullptr && ClientPixels(*window_, zoom) != now) TakeWindowSlot("Width");
-}
-
-// ---- keys and files ----
-
-void FormWidget::keyPressEvent(QKeyEvent* event) {
-  const bool served = window_ != nullptr && ServeWindowKey(*stage_, *window_, *this, *event);
-  if (!served) QWidget::keyPressEvent(event);
-}
-
-/// A window that is inside of an event of its own has a modal window or a box in front.
-bool FormWidget::TakesFiles() const {
-  const Program* program = stage_->input.Served();
-  const bool rests = window_ != nullptr && program != nullptr && program->eventDepth == 0;
-  return rests && stage_->fileDropped && TakesDroppedFiles(*program);
-}
-
-void FormWidget::dragEnterEvent(QDragEnterEvent* event) {
-  if (TakesFiles() && !DroppedPath(*event->mimeData()).empty()) AcceptCopy(*event);
-}
-
-/// The program behind the drag waits for the answer, so the file is opened behind it.
-void FormWidget::dropEvent(QDropEvent* event) {
-  const std::string path = DroppedPath(*event->mimeData());
-  if (path.empty() || !TakesFiles()) return;
-  AcceptCopy(*event);
-  QTimer::singleShot(0, this, [this, path] {
-    if (TakesFiles()) stage_->fileDropped(path);
-  });
 }
 
 }  // namespace veldrin

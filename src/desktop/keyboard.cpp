@@ -72,8 +72,10 @@ bool ServeEscape(Stage& stage, Window& window, const QKeyEvent& event) {
   Control* target = CancelButton(window);
   const bool inList = window.focus != nullptr && window.focus->kind == ControlKind::Grid;
   if (inList) target = NextByTab(window, true);
+  if (target == nullptr && (inList || !MayCloseByEscape(window))) return false;
+  // A key that is held would go on to close the window behind the one that it closed.
+  if (event.isAutoRepeat()) return true;
   if (target == nullptr) {
-    if (inList || !MayCloseByEscape(window)) return false;
     stage.input.Do([&] { return user::Close(window, CloseReason::User); });
     return true;
   }

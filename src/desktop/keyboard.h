@@ -20,7 +20,7 @@ Control* CancelButton(const Window& window);
 bool ServeTab(Stage& stage, const Window& window, const QKeyEvent& event);
 
 /// Escape: presses Cancel, and leaves a list that popped up; it closes a window that the user can close and
-/// that has neither. False for other keys and where there is nothing to leave.
+/// that has neither. Held down it does so once. False for other keys and where there is nothing to leave.
 bool ServeEscape(Stage& stage, Window& window, const QKeyEvent& event);
 
 /// A key that the window gets itself, as none of its controls has the focus or used the key. False for keys

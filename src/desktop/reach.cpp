@@ -1,7 +1,7 @@
 #include "desktop/reach.h"
 
-#include "desktop/client_area.h"
-#include "desktop/reach_ring.h"
+#include "desktop/form_widget.h"
+#include "desktop/keys.h"
 #include "desktop/scroll_bar_widget.h"
 #include "desktop/spin_widget.h"
 #include "view/user_input.h"
@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace veldrin {
@@ -20,49 +19,26 @@ namespace {
 /// How many times as high as the control with the focus a control of its row may be.
 constexpr int kRowHeights = 2;
 
-bool IsHandled(const Control& control, std::string_view event) {
-  const Event* found = control.FindEvent(event);
-  return found != nullptr && found->Claims() > 0;
-}
-
 bool IsHeadOfColumn(const Control& control) {
   return control.kind == ControlKind::Label && control.index == 0;
 }
 
 // ---- The widgets of a window ----
 
-/// What the controls of a window lie on; null in a window of another kind.
-ClientArea* AreaOf(const QWidget& inside) {
-  for (QWidget* widget : inside.window()->findChildren<QWidget*>()) {
-    if (auto* area = dynamic_cast<ClientArea*>(widget)) return area;
-  }
-  return nullptr;
-}
-
-QRect PlaceIn(const QWidget& area, const QWidget& widget) {
-  return {widget.mapTo(&area, QPoint()), widget.size()};
-}
-
-/// Whether the pointer would meet the widget, or what lies on it, in its middle.
-bool IsUncovered(const QWidget& area, const QWidget& widget) {
-  const QWidget* met = area.childAt(PlaceIn(area, widget).center());
-  return met == &widget || (met != nullptr && widget.isAncestorOf(met));
+/// The window around a widget; null for a window of another kind.
+FormWidget* FormAround(const QWidget& inside) {
+  return dynamic_cast<FormWidget*>(inside.window());
 }
 
 /// What a window has in the order of the screen, as far as the user could act on it now.
 class Reachables {
  public:
-  Reachables(const Window& window, ClientArea& area) : area_(area) {
-    std::unordered_map<const Control*, QWidget*> widgetOf;
-    for (QWidget* widget : area.findChildren<QWidget*>()) {
-      const auto* view = dynamic_cast<ControlView*>(widget);
-      if (view != nullptr && view->Shows() != nullptr) widgetOf[view->Shows()] = widget;
-    }
-    if (window.focus != nullptr) focused_ = widgetOf[window.focus];
+  Reachables(const Window& window, FormWidget& form) : area_(form.Client()) {
+    if (window.focus != nullptr) focused_ = WidgetOf(form, *window.focus);
     for (const Control* control : window.controls) {
       if (!OnlyForTheMouse(*control) || !user::Reachable(*control)) continue;
-      QWidget* const widget = widgetOf[control];
-      if (widget != nullptr && IsUncovered(area, *widget)) widgets_.push_back(widget);
+      QWidget* const widget = WidgetOf(form, *control);
+      if (widget != nullptr && area_.IsUncovered(*widget)) widgets_.push_back(widget);
     }
   }
 
@@ -80,16 +56,21 @@ class Reachables {
   QWidget* Start(bool forward) const {
     if (widgets_.empty()) return nullptr;
     if (!forward) return widgets_.back();
-    QWidget* const inRow = focused_ == nullptr ? nullptr : InRowOf(PlaceIn(area_, *focused_));
+    QWidget* const inRow = focused_ == nullptr ? nullptr : InRowOf(area_.PlaceOf(*focused_));
     return inRow != nullptr ? inRow : widgets_.front();
   }
 
  private:
+  static QWidget* WidgetOf(const FormWidget& form, const Control& control) {
+    ControlView* const view = form.ViewOf(control);
+    return view == nullptr ? nullptr : view->Widget();
+  }
+
   QWidget* InRowOf(const QRect& row) const {
     QWidget* nearest = nullptr;
     int least = 0;
     for (QWidget* widget : widgets_) {
-      const QRect place = PlaceIn(area_, *widget);
+      const QRect place = area_.PlaceOf(*widget);
       const int middle = row.center().y();
       const bool inRow = place.top() <= middle && middle <= place.bottom() &&
                          place.height() <= kRowHeights * row.height() && place.left() > row.right();
@@ -100,7 +81,7 @@ class Reachables {
     return nearest;
   }
 
-  const QWidget& area_;
+  const ClientArea& area_;
   QWidget* focused_ = nullptr;
   std::vector<QWidget*> widgets_;
 };
@@ -114,19 +95,10 @@ void BringIntoSight(const QWidget& area, QWidget& widget) {
 
 // ---- Keys ----
 
-bool IsPlain(const QKeyEvent& event) {
-  return (event.modifiers() & ~(Qt::KeypadModifier)) == Qt::NoModifier;
-}
-
-bool IsRightClick(const QKeyEvent& event) {
-  return (event.key() == Qt::Key_Menu && IsPlain(event)) ||
-         (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
-}
-
 /// Keys that something which can be reached has a use for.
 bool IsWorking(const QKeyEvent& event) {
   if (IsRightClick(event)) return true;
-  if (!IsPlain(event)) return false;
+  if (!IsUnmodified(event)) return false;
   switch (event.key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
@@ -217,6 +189,11 @@ bool IsListOpen(const Window& window) {
 
 }  // namespace
 
+bool IsHandled(const Control& control, std::string_view event) {
+  const Event* found = control.FindEvent(event);
+  return found != nullptr && found->Claims() > 0;
+}
+
 bool AnswersClicks(const Control& control) {
   if (control.kind != ControlKind::Label && control.kind != ControlKind::Picture) return false;
   if (IsHeadOfColumn(control)) return false;
@@ -229,10 +206,9 @@ bool OnlyForTheMouse(const Control& control) {
          AnswersClicks(control);
 }
 
-Control* ReachedIn(const QWidget& window) {
-  const ClientArea* area = AreaOf(window);
-  const ReachRing* ring = area == nullptr ? nullptr : ReachRing::Of(*area);
-  auto* view = ring == nullptr ? nullptr : dynamic_cast<ControlView*>(ring->Around());
+Control* ReachedIn(const QWidget& inside) {
+  FormWidget* const form = FormAround(inside);
+  auto* view = form == nullptr ? nullptr : dynamic_cast<ControlView*>(form->Ring().Around());
   return view == nullptr ? nullptr : view->Shows();
 }
 
@@ -240,34 +216,33 @@ bool ServeReached(Stage& stage, const Window& window, const QWidget& inside, con
   if (IsListOpen(window) || IsOfOthers(event)) return false;
   Control* const control = ReachedIn(inside);
   if (control == nullptr) return false;
-  const ClientArea& area = *AreaOf(inside);
-  ReachRing& ring = *ReachRing::Of(area);
-  const bool usable = user::Reachable(*control) && IsUncovered(area, *ring.Around());
+  FormWidget& form = *FormAround(inside);
+  QWidget& reached = *form.Ring().Around();
+  const bool usable = user::Reachable(*control) && form.Client().IsUncovered(reached);
   if (usable && IsWorking(event)) {
-    Work(stage, *ring.Around(), *control, event);
+    Work(stage, reached, *control, event);
     return true;
   }
-  ring.LetGo();
+  form.Ring().LetGo();
   return usable && event.key() == Qt::Key_Escape;
 }
 
-bool ServeReach(const Stage& stage, const Window& window, const QWidget& inside, const QKeyEvent& event) {
+bool ServeReach(const Stage& /*stage*/, const Window& window, const QWidget& inside, const QKeyEvent& event) {
   if (event.key() != Qt::Key_F6 || (event.modifiers() & ~Qt::ShiftModifier) != 0) return false;
   if (IsListOpen(window)) return true;
-  ClientArea* const area = AreaOf(inside);
-  if (area == nullptr) return false;
-  ReachRing* ring = ReachRing::Of(*area);
+  FormWidget* const form = FormAround(inside);
+  if (form == nullptr) return false;
+  ReachRing& ring = form->Ring();
   const bool forward = event.modifiers() == Qt::NoModifier;
-  const QWidget* now = ring == nullptr ? nullptr : ring->Around();
-  const Reachables all(window, *area);
+  const QWidget* now = ring.Around();
+  const Reachables all(window, *form);
   QWidget* const next = now == nullptr ? all.Start(forward) : all.Neighbour(*now, forward);
   if (next == nullptr) {
-    if (now != nullptr) ring->LetGo();
+    if (now != nullptr) ring.LetGo();
     return now != nullptr;
   }
-  if (ring == nullptr) ring = new ReachRing(*area, stage.zoom);
-  ring->Surround(*next);
-  BringIntoSight(*area, *next);
+  ring.Surround(*next);
+  BringIntoSight(form->Client(), *next);
   return true;
 }
 

@@ -19,7 +19,12 @@
 #include <QKeyEvent>
 #include <QWidget>
 
+#include <string_view>
+
 namespace veldrin {
+
+/// Whether a handler waits for an event of the control.
+bool IsHandled(const Control& control, std::string_view event);
 
 /// Whether a handler waits for clicks on it. The head of a column of labels has that of the column, and does
 /// nothing with it.
@@ -29,7 +34,7 @@ bool AnswersClicks(const Control& control);
 bool OnlyForTheMouse(const Control& control);
 
 /// The control that is reached in the window of a widget; null for none.
-Control* ReachedIn(const QWidget& window);
+Control* ReachedIn(const QWidget& inside);
 
 /// A key for what is reached; `inside` is any widget of the window. False where nothing is, and for other
 /// keys.

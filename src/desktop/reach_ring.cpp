@@ -24,17 +24,10 @@ void TellFocus(QWidget& widget) {
 
 }  // namespace
 
-ReachRing::ReachRing(QWidget& area, const Zoom& zoom) : QWidget(&area), zoom_(&zoom) {
+ReachRing::ReachRing(ClientArea& area, const Zoom& zoom) : QWidget(&area), area_(&area), zoom_(&zoom) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setFocusPolicy(Qt::NoFocus);
   hide();
-}
-
-ReachRing* ReachRing::Of(const QWidget& area) {
-  for (QObject* child : area.children()) {
-    if (auto* ring = dynamic_cast<ReachRing*>(child)) return ring;
-  }
-  return nullptr;
 }
 
 void ReachRing::Surround(QWidget& widget) {
@@ -53,6 +46,12 @@ void ReachRing::LetGo() {
   if (QWidget* focused = window()->focusWidget()) TellFocus(*focused);
 }
 
+void ReachRing::StayInFront() {
+  if (around_ == nullptr) return;
+  setVisible(area_->IsUncovered(*around_));
+  raise();
+}
+
 /// Pixels of one line.
 int ReachRing::Line() const {
   return std::max(1, qRound(zoom_->Factor()));
@@ -60,8 +59,7 @@ int ReachRing::Line() const {
 
 void ReachRing::Follow() {
   const int width = kLines * Line();
-  const QRect place(around_->mapTo(parentWidget(), QPoint()), around_->size());
-  setGeometry(place.adjusted(-width, -width, width, width));
+  setGeometry(area_->PlaceOf(*around_).adjusted(-width, -width, width, width));
   update();
 }
 
@@ -71,7 +69,7 @@ bool ReachRing::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:
-      if (widget == around_ || (widget != parentWidget() && widget->isAncestorOf(around_))) Follow();
+      if (widget == around_ || (widget != area_ && widget->isAncestorOf(around_))) Follow();
       break;
     case QEvent::Hide:
       if (widget == around_) LetGo();

@@ -1,7 +1,9 @@
-// The ring around what the keyboard has reached. It lies in front of everything in its window, lets the mouse
-// through, follows its widget, and goes when that cannot be used any more.
+// The ring around what F6 has reached. It lies in front of all that the window has, lets the mouse through
+// and follows its widget. While something covers that it is not to be seen, and it lets go of a widget that
+// is hidden or disabled, and when the mouse is pressed anywhere in the window.
 #pragma once
 
+#include "desktop/client_area.h"
 #include "desktop/zoom.h"
 
 #include <QPointer>
@@ -12,13 +14,12 @@ namespace veldrin {
 class ReachRing : public QWidget {
  public:
   /// A ring around nothing, in an area that all the widgets lie on.
-  ReachRing(QWidget& area, const Zoom& zoom);
-
-  /// The ring of an area; null where none was made yet.
-  static ReachRing* Of(const QWidget& area);
+  ReachRing(ClientArea& area, const Zoom& zoom);
 
   void Surround(QWidget& widget);
   void LetGo();
+  /// Others may have come to the front, or out of the way.
+  void StayInFront();
   /// The widget inside; null for none.
   QWidget* Around() const { return around_; }
 
@@ -30,6 +31,7 @@ class ReachRing : public QWidget {
   void Follow();
   int Line() const;
 
+  const ClientArea* area_;
   const Zoom* zoom_;
   QPointer<QWidget> around_;
 };

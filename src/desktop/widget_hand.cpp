@@ -262,7 +262,7 @@ bool WidgetHand::Resize(Program& program, Window& window, float width, float hei
   const QSize pixels(qRound(stage_.zoom.Pixels(inner)), qRound(stage_.zoom.Pixels(innerHeight)));
   const bool whole =
       stage_.zoom.Twips(pixels.width()) == inner && stage_.zoom.Twips(pixels.height()) == innerHeight;
-  const bool serves = form != nullptr && form->isVisible() && form->CanBeDrawnAt() && whole;
+  const bool serves = form != nullptr && form->isVisible() && form->UserCanResize() && whole;
   const QSize now = form == nullptr ? QSize() : form->Client().size();
   // Sizes between pixels, and one that is there already, no pointer can draw.
   if (!serves || pixels == now || !user::Reachable(window)) {

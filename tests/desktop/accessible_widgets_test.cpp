@@ -139,6 +139,80 @@ TEST_F(AccessibleWidgetsTest, LabelsAndPicturesThatAnswerClicksArePressed) {
   EXPECT_EQ(Count("Picture1.Click"), 1);
 }
 
+/// A label with the events that a window's program listens to, and no others.
+class AccessiblePressTest : public AccessibleWidgetsTest {
+ protected:
+  struct LabelForm : Window {
+    explicit LabelForm(Desk& theDesk) : Window(theDesk, "Form91", {300, 450, 6120, 5190}, {}) {}
+    Label Label1{"Label1", *this, {150, 150, 1500, 255}, {.caption = "Request"}};
+  };
+
+  void Show(const Events& handled) {
+    for (const std::string& name : handled) {
+      own.Label1.FindEvent(name)->Bind([this, name](int argument) {
+        heard.push_back(argument == 0 ? name : name + " " + std::to_string(argument));
+      });
+    }
+    own.LoadWindow();
+    own.Show();
+  }
+
+  ~AccessiblePressTest() override { own.UnloadWindow(); }
+
+  QAccessibleInterface& Access() {
+    return *QAccessible::queryAccessibleInterface(windows.FormOf(own)->ViewOf(own.Label1)->Widget());
+  }
+  QStringList Actions() { return Access().actionInterface()->actionNames(); }
+  void Do(const QString& action) { Access().actionInterface()->doAction(action); }
+
+  const QString press = QAccessibleActionInterface::pressAction();
+  const QString menu = QAccessibleActionInterface::showMenuAction();
+  LabelForm own{program->desk};
+  Events heard;
+};
+
+TEST_F(AccessiblePressTest, IsADoubleClickWhereThatAloneDoesSomething) {
+  Show({"DblClick"});
+  EXPECT_EQ(Actions(), QStringList{press});
+  Do(press);
+  EXPECT_EQ(heard, Events{"DblClick"});
+  Do(menu);
+  EXPECT_EQ(heard, Events{"DblClick"});
+}
+
+TEST_F(AccessiblePressTest, IsAClickWhereBothDoSomething) {
+  Show({"Click", "DblClick"});
+  EXPECT_EQ(Actions(), QStringList{press});
+  Do(press);
+  EXPECT_EQ(heard, Events{"Click"});
+}
+
+TEST_F(AccessiblePressTest, MenuIsTheRightButtonWhereButtonsAreToldApart) {
+  Show({"MouseUp"});
+  EXPECT_EQ(Actions(), (QStringList{press, menu}));
+  Do(menu);
+  EXPECT_EQ(heard, Events{"MouseUp " + std::to_string(kRightButton)});
+  Do(press);
+  EXPECT_EQ(heard.back(), "MouseUp " + std::to_string(kLeftButton));
+  EXPECT_EQ(heard.size(), 2U);
+}
+
+TEST_F(AccessiblePressTest, DownIsEnoughForAMenu) {
+  Show({"MouseDown", "DblClick"});
+  EXPECT_EQ(Actions(), (QStringList{press, menu}));
+  Do(menu);
+  EXPECT_EQ(heard, Events{"MouseDown " + std::to_string(kRightButton)});
+}
+
+TEST_F(AccessiblePressTest, NothingCanBeDoneToWhatIsOff) {
+  Show({"MouseUp", "DblClick"});
+  own.Label1.Enabled = false;
+  EXPECT_EQ(Actions(), QStringList{});
+  Do(press);
+  Do(menu);
+  EXPECT_EQ(heard, Events{});
+}
+
 /// The program's own windows, with real widgets.
 class AccessibleProgramTest : public AccessibleWidgetsTest {
  protected:

@@ -5,6 +5,7 @@
 #include "tests/desktop/test_window.h"
 
 #include <QLabel>
+#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
@@ -98,6 +99,36 @@ TEST_F(WindowsTest, MenusGrowAndShrinkInTheirOwnEvent) {
   EXPECT_EQ(Differences(), Events{});
 }
 
+TEST_F(WindowsTest, EntryThatIsGoneLeavesNothingBehind) {
+  form->menu_d.Load(1).Visible = true;
+  Settle();
+  const QPointer<QAction> action = &dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_d[1]))->Action();
+  QPointer<QAction> standing;
+  form->menu_d[1].Click.Bind([&](int) {
+    form->menu_d.Unload(1);
+    Settle();
+    QCoreApplication::processEvents();
+    standing = action;
+  });
+  action->trigger();
+  EXPECT_NE(standing, nullptr) << "it was inside of its own event";
+  Settle();
+  QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(action, nullptr);
+}
+
+TEST_F(WindowsTest, WindowThatIsGoneHasNoViewsAnyMore) {
+  const FormWidget& widget = Widget();
+  stage.input.Do([&] {
+    form->UnloadWindow();
+    EXPECT_EQ(widget.ViewOf(form->menu_a), nullptr);
+    EXPECT_EQ(widget.ViewOf(form->Timer1), nullptr);
+    EXPECT_EQ(widget.ViewOf(form->Text1), nullptr);
+    return true;
+  });
+}
+
 TEST_F(WindowsTest, ASeparatorOfAMenuHasNoTextInItsLine) {
   auto* view = dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_d[0]));
   ASSERT_NE(view, nullptr);
@@ -133,6 +164,48 @@ TEST_F(WindowsTest, CloseBoxAsksTheProgram) {
   Widget().close();
   EXPECT_TRUE(Widget().isVisible());
   EXPECT_TRUE(form->loaded);
+}
+
+TEST_F(WindowsTest, EscapeThatIsHeldPressesCancelOnce) {
+  SetFocus(form->Text1);
+  Settle();
+  events.clear();
+  const auto press = [this](bool repeated) {
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, repeated);
+    QApplication::sendEvent(Widget().focusWidget(), &event);
+    return event.isAccepted();
+  };
+  EXPECT_TRUE(press(false));
+  EXPECT_TRUE(press(true));
+  EXPECT_TRUE(press(true));
+  EXPECT_EQ(std::count(events.begin(), events.end(), "Command2.Click"), 1);
+  EXPECT_TRUE(press(false));
+  EXPECT_EQ(std::count(events.begin(), events.end(), "Command2.Click"), 2);
+}
+
+TEST_F(WindowsTest, EscapeThatIsHeldClosesOneWindow) {
+  auto compare = std::make_shared<Form5>(program->desk);
+  compare->LoadWindow();
+  compare->Show();
+  QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
+  FormWidget& widget = *windows.FormOf(*compare);
+  QApplication::sendEvent(widget.focusWidget() != nullptr ? widget.focusWidget() : &widget, &repeated);
+  EXPECT_TRUE(compare->loaded);
+  compare->UnloadWindow();
+}
+
+TEST_F(WindowsTest, WindowOfFixedSizeCannotBeMaximised) {
+  TestForm fixed(program->desk);
+  fixed.LoadWindow();
+  fixed.Show();
+  const Qt::WindowFlags flags = windows.FormOf(fixed)->windowFlags();
+  EXPECT_FALSE(flags.testFlag(Qt::WindowMaximizeButtonHint));
+  EXPECT_TRUE(flags.testFlag(Qt::WindowMinimizeButtonHint));
+  EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));
+  EXPECT_TRUE(flags.testFlag(Qt::WindowTitleHint));
+  EXPECT_EQ(windows.FormOf(fixed)->windowType(), Qt::Window);
+  EXPECT_TRUE(Widget().windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+  fixed.UnloadWindow();
 }
 
 TEST_F(WindowsTest, ModalLoopEndsWhenTheWindowHidesAndKeepsOthersOutOfReach) {
