@@ -2,6 +2,7 @@
 
 #include "desktop/accessible_name.h"
 #include "desktop/fitted_text.h"
+#include "desktop/keys.h"
 #include "desktop/text_ends.h"
 
 #include <QPainter>
@@ -54,12 +55,46 @@ void PaintFocus(QPainter& painter, const QRect& ring, const QColor& colour, doub
 
 }  // namespace
 
-ButtonWidget::ButtonWidget(Button& button, Stage& stage, QWidget* parent)
-    : ControlWidget(button, stage, parent) {
-  setAutoDefault(false);
-  connect(this, &QPushButton::clicked, this, [this] {
-    if (!byMouse_) ClickedOtherwise();
+template <class Base>
+PressableWidget<Base>::PressableWidget(Control& control, Stage& stage, QWidget* parent)
+    : ControlWidget<Base>(control, stage, parent) {
+  this->connect(this, &Base::clicked, this, [this] {
+    if (!byMouse_) this->ClickedOtherwise();
   });
+}
+
+/// The way up of the mouse is a gesture of its own, told behind Qt's click.
+template <class Base>
+void PressableWidget<Base>::mouseReleaseEvent(QMouseEvent* event) {
+  byMouse_ = true;
+  Base::mouseReleaseEvent(event);
+  byMouse_ = false;
+  this->Released(*event);
+}
+
+/// The way up of the mouse will not come to a widget that went away in between.
+template <class Base>
+void PressableWidget<Base>::hideEvent(QHideEvent* event) {
+  this->setDown(false);
+  ControlWidget<Base>::hideEvent(event);
+}
+
+/// The keyboard does what the mouse does, events of the mouse included: some buttons act on those alone.
+/// With Ctrl, Alt or Shift the keys are those of shortcuts, and must not press in Qt's own way either.
+template <class Base>
+bool PressableWidget<Base>::OwnKey(QKeyEvent& event) {
+  const bool right = IsRightClick(event);
+  if (!right && !IsPressingKey(event)) return false;
+  if (event.isAutoRepeat() || !(right || IsUnmodified(event))) return true;
+  this->Do([right, control = this->control_] {
+    return user::Click(*control, right ? kRightButton : kLeftButton);
+  });
+  return true;
+}
+
+ButtonWidget::ButtonWidget(Button& button, Stage& stage, QWidget* parent)
+    : PressableWidget(button, stage, parent) {
+  setAutoDefault(false);
 }
 
 void ButtonWidget::Take(std::string_view slot) {
@@ -67,12 +102,12 @@ void ButtonWidget::Take(std::string_view slot) {
     setText(ToWidgetText(static_cast<const Button&>(*control_).Caption));
     setAccessibleName(AccessibleName(*control_));
   } else {
-    ControlWidget::Take(slot);
+    PressableWidget::Take(slot);
   }
 }
 
 Shown ButtonWidget::WhatShows() const {
-  Shown shown = ControlWidget::WhatShows();
+  Shown shown = PressableWidget::WhatShows();
   shown.text = ToSlotText(text());
   return shown;
 }
@@ -94,27 +129,9 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {
              stage_->zoom.Factor());
 }
 
-/// The way up of the mouse is a gesture of its own, told behind Qt's click.
-void ButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
-  byMouse_ = true;
-  QPushButton::mouseReleaseEvent(event);
-  byMouse_ = false;
-  Released(*event);
-}
-
-/// The keyboard does what the mouse does, events of the mouse included: some buttons act on those alone.
-bool ButtonWidget::OwnKey(QKeyEvent& event) {
-  if (!IsPressingKey(event)) return false;
-  if (!event.isAutoRepeat()) Do([control = control_] { return user::Click(*control); });
-  return true;
-}
-
 OptionWidget::OptionWidget(OptionButton& option, Stage& stage, QWidget* parent)
-    : ControlWidget(option, stage, parent) {
+    : PressableWidget(option, stage, parent) {
   setAutoExclusive(false);
-  connect(this, &QRadioButton::clicked, this, [this] {
-    if (!byMouse_) ClickedOtherwise();
-  });
   connect(this, &QRadioButton::toggled, this, [this] {
     if (control_ == nullptr || stage_->applying > 0) return;
     ClickedOtherwise();
@@ -132,12 +149,12 @@ void OptionWidget::Take(std::string_view slot) {
   } else if (slot == "Value") {
     setChecked(option.Value);
   } else {
-    ControlWidget::Take(slot);
+    PressableWidget::Take(slot);
   }
 }
 
 Shown OptionWidget::WhatShows() const {
-  Shown shown = ControlWidget::WhatShows();
+  Shown shown = PressableWidget::WhatShows();
   shown.text = ToSlotText(text());
   shown.chosen = isChecked();
   return shown;
@@ -167,19 +184,9 @@ void OptionWidget::paintEvent(QPaintEvent* /*event*/) {
              Qt::AlignLeft);
 }
 
-void OptionWidget::mouseReleaseEvent(QMouseEvent* event) {
-  byMouse_ = true;
-  QRadioButton::mouseReleaseEvent(event);
-  byMouse_ = false;
-  Released(*event);
-}
-
 bool OptionWidget::OwnKey(QKeyEvent& event) {
+  if (PressableWidget::OwnKey(event)) return true;
   const auto& option = static_cast<const OptionButton&>(*control_);
-  if (IsPressingKey(event)) {
-    if (!event.isAutoRepeat()) Do([control = control_] { return user::Click(*control); });
-    return true;
-  }
   const int step = StepOf(event);
   if (step == 0) return false;
   if (OptionButton* neighbour = Neighbour(option, step)) {

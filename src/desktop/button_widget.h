@@ -1,4 +1,5 @@
-// Buttons and option buttons. Space and Enter press them; arrows walk through the options of a panel.
+// Buttons and option buttons. Space and Enter press them, the menu key and Shift+F10 do so with the right
+// button of the mouse; arrows walk through the options of a panel.
 #pragma once
 
 #include "desktop/control_widget.h"
@@ -8,7 +9,22 @@
 
 namespace veldrin {
 
-class ButtonWidget : public ControlWidget<QPushButton> {
+/// What both have in common: how they are pressed.
+template <class Base>
+class PressableWidget : public ControlWidget<Base> {
+ public:
+  PressableWidget(Control& control, Stage& stage, QWidget* parent);
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  bool OwnKey(QKeyEvent& event) override;
+
+ private:
+  bool byMouse_ = false;
+};
+
+class ButtonWidget : public PressableWidget<QPushButton> {
  public:
   ButtonWidget(Button& button, Stage& stage, QWidget* parent);
 
@@ -17,14 +33,9 @@ class ButtonWidget : public ControlWidget<QPushButton> {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-  bool OwnKey(QKeyEvent& event) override;
-
- private:
-  bool byMouse_ = false;
 };
 
-class OptionWidget : public ControlWidget<QRadioButton> {
+class OptionWidget : public PressableWidget<QRadioButton> {
  public:
   OptionWidget(OptionButton& option, Stage& stage, QWidget* parent);
 
@@ -33,14 +44,10 @@ class OptionWidget : public ControlWidget<QRadioButton> {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
   bool OwnKey(QKeyEvent& event) override;
   bool hitButton(const QPoint& point) const override { return rect().contains(point); }
   /// The program chooses.
   void nextCheckState() override {}
-
- private:
-  bool byMouse_ = false;
 };
 
 }  // namespace veldrin

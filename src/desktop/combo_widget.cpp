@@ -1,8 +1,10 @@
 #include "desktop/combo_widget.h"
 
+#include "desktop/keys.h"
 #include "desktop/text_ends.h"
 
 #include <QLineEdit>
+#include <QStandardItemModel>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <QWheelEvent>
@@ -15,6 +17,15 @@ bool IsEditable(const Control& control) {
   return control.kind == ControlKind::ComboBox && static_cast<const ComboBox&>(control).editable;
 }
 
+/// The entries. Qt empties the line of a combo that it is told to leave its entry; where the entry leaves the
+/// combo, the line stays.
+class EntryModel : public QStandardItemModel {
+ public:
+  using QStandardItemModel::QStandardItemModel;
+
+  void Leave(int entry) { changePersistentIndex(index(entry, 0), QModelIndex()); }
+};
+
 }  // namespace
 
 ComboWidget::ComboWidget(Control& control, Stage& stage, QWidget* parent)
@@ -23,8 +34,11 @@ ComboWidget::ComboWidget(Control& control, Stage& stage, QWidget* parent)
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(1);
   if (IsEditable(control)) {
+    setModel(new EntryModel(this));
     setEditable(true);
     setCompleter(nullptr);
+    // When editing ends, Qt picks the entry that the text is the same as; the user has picked nothing.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     connect(lineEdit(), &QLineEdit::textEdited, this, &ComboWidget::EnterText);
     // Screen readers write without what Qt calls editing. An entry that is picked comes by `activated`.
     // The program may have written another text by now than the one that is told.
@@ -87,12 +101,23 @@ void ComboWidget::Settle() {
   TakeText();
 }
 
+/// A line that shows the text already keeps its cursor, what can be taken back, and what is being composed.
 void ComboWidget::TakeText() {
   const Applying applying(*stage_);
   shownText_ = ToWidgetText(RecordText());
-  if (!stale_) setCurrentIndex(RecordIndex());
+  if (!stale_) TakeIndex();
   if (isEditable() && lineEdit()->text() != shownText_) lineEdit()->setText(shownText_);
   update();
+}
+
+/// None comes of typing, which is to go on where it is.
+void ComboWidget::TakeIndex() {
+  if (currentIndex() == RecordIndex()) return;
+  if (isEditable() && RecordIndex() < 0) {
+    static_cast<EntryModel*>(model())->Leave(currentIndex());
+  } else {
+    setCurrentIndex(RecordIndex());
+  }
 }
 
 void ComboWidget::TakeFont() {
@@ -128,12 +153,18 @@ void ComboWidget::paintEvent(QPaintEvent* event) {
   painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
+/// What the keyboard comes to is there to be typed over.
+void ComboWidget::focusInEvent(QFocusEvent* event) {
+  ControlWidget::focusInEvent(event);
+  if (isEditable() && IsByKeyboard(*event)) lineEdit()->selectAll();
+}
+
 /// The wheel over a combo that is not in use is meant for something else.
 void ComboWidget::wheelEvent(QWheelEvent* event) {
   if (hasFocus()) {
     ControlWidget::wheelEvent(event);
   } else {
-    event->ignore();
+    HandOnWheel(*event);
   }
 }
 

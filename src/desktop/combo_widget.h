@@ -22,6 +22,7 @@ class ComboWidget : public ControlWidget<QComboBox> {
   void TakeFont() override;
   void TakeColours() override;
   void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:
@@ -29,6 +30,7 @@ class ComboWidget : public ControlWidget<QComboBox> {
   const std::vector<std::string>& RecordEntries() const;
   int RecordIndex() const;
   void TakeText();
+  void TakeIndex();
   void EnterText(const QString& text);
 
   QString shownText_;

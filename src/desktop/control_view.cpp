@@ -123,31 +123,54 @@ void PlacedView::ClickedOtherwise() {
   if (control_ != nullptr) Do([control = control_] { return user::Click(*control); });
 }
 
-void PlacedView::Pressed(const QMouseEvent& event) {
-  const int button = ButtonNumber(event);
-  if (control_ == nullptr || button == 0) return;
-  const bool done = Do([&, control = control_] { return PressPointer(*control, button); });
-  pressedButton_ = done ? button : 0;
+Qt::Alignment PlacedView::TextAlignment() const {
+  switch (control_->look.align) {
+    case Align::Right:
+      return Qt::AlignRight | Qt::AlignVCenter;
+    case Align::Centre:
+      return Qt::AlignHCenter | Qt::AlignVCenter;
+    default:
+      return Qt::AlignLeft | Qt::AlignVCenter;
+  }
 }
 
-void PlacedView::PressedTwice(const QMouseEvent& event) {
-  pressedButton_ = 0;
-  if (control_ == nullptr) return;
+double PlacedView::BorderWidth() const {
+  return control_ == nullptr ? 0 : BorderPixels(*control_, stage_->zoom);
+}
+
+void PlacedView::PaintBorder(QPainter& painter) const {
+  const double width = BorderWidth();
+  if (width == 0) return;
+  painter.setPen(QPen(QColor(Qt::darkGray), width));
+  painter.drawRect(QRectF(ConstWidget().rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2));
+}
+
+bool PlacedView::Pressed(const QMouseEvent& event) {
+  const int button = ButtonNumber(event);
+  if (control_ == nullptr || button == 0) return true;
+  const bool done = Do([&, control = control_] { return PressPointer(*control, button); });
+  pressed_.setFlag(event.button(), done);
+  return done && Widget()->isVisible() && Widget()->isEnabled();
+}
+
+bool PlacedView::PressedTwice(const QMouseEvent& event) {
+  pressed_.setFlag(event.button(), false);
+  if (control_ == nullptr) return true;
   if (event.button() == Qt::LeftButton) {
-    if (OpenAt(event.position().toPoint())) return;
+    if (OpenAt(event.position().toPoint())) return false;
     if (control_->FindEvent("DblClick") != nullptr && ClicksItself()) {
       Do([control = control_] { return DoublePress(*control); });
-      return;
+      return true;
     }
   }
   // Two quick clicks on a button are two clicks.
-  Pressed(event);
+  return Pressed(event);
 }
 
 void PlacedView::Released(const QMouseEvent& event) {
   const int button = ButtonNumber(event);
-  if (button == 0 || button != pressedButton_) return;
-  pressedButton_ = 0;
+  if (button == 0 || !pressed_.testFlag(event.button())) return;
+  pressed_.setFlag(event.button(), false);
   if (control_ == nullptr) return;
   const QPoint point = event.position().toPoint();
   const bool inside = Widget()->rect().contains(point);

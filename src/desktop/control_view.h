@@ -11,6 +11,7 @@
 #include <QFont>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QRect>
 #include <QWidget>
 
@@ -88,7 +89,7 @@ class PlacedView : public ControlView {
 
  protected:
   /// Whether the pointer is down on the widget.
-  bool IsPressed() const { return pressedButton_ != 0; }
+  bool IsPressed() const { return pressed_ != Qt::NoButton; }
   const PlacedControl& Placed() const { return static_cast<const PlacedControl&>(*control_); }
   const QWidget& ConstWidget() const { return *const_cast<PlacedView*>(this)->Widget(); }
 
@@ -100,9 +101,19 @@ class PlacedView : public ControlView {
   virtual void TakeColours();
   virtual void TakeFont();
 
+  /// How the control's text stands.
+  Qt::Alignment TextAlignment() const;
+  /// The border of the control, none once its record is gone.
+  double BorderWidth() const;
+  void PaintBorder(QPainter& painter) const;
+
   // Mouse and keys, as the widget's own functions hear of them.
-  void Pressed(const QMouseEvent& event);
-  void PressedTwice(const QMouseEvent& event);
+  /// Whether the widget may see the press as well. Not where the press could not be done, or hid the widget
+  /// or switched it off: it would look pressed when it comes back.
+  bool Pressed(const QMouseEvent& event);
+  /// Whether the widget may see the second press of a double click as well. Not where it opened something,
+  /// since another thing may lie under the pointer by now.
+  bool PressedTwice(const QMouseEvent& event);
   void Released(const QMouseEvent& event);
   /// Whether the key was served, so that the widget must not see it.
   bool KeyPressed(QKeyEvent& event);
@@ -118,7 +129,7 @@ class PlacedView : public ControlView {
   virtual bool OwnKey(QKeyEvent& /*event*/) { return false; }
 
  private:
-  int pressedButton_ = 0;
+  Qt::MouseButtons pressed_ = Qt::NoButton;  // each gets its own release
 };
 
 }  // namespace veldrin

@@ -25,25 +25,25 @@ class ControlWidget : public Base, public PlacedView {
       event->accept();
       return true;
     }
+    // Qt tells a widget that is off of no wheel.
+    if (event->type() == QEvent::Wheel && !this->isEnabled()) return HandOnWheel(*event);
     const bool served = Base::event(event);
     if (event->type() == QEvent::FocusIn) FocusCame();
-    if (event->type() == QEvent::Wheel && !(served && event->isAccepted())) return HandOnWheel(*event);
     return served;
   }
 
-  /// Areas with a viewport get the wheel from there.
+  /// Areas with a viewport get the wheel from there and by no event of their own.
   void wheelEvent(QWheelEvent* event) override {
     Base::wheelEvent(event);
     if (!event->isAccepted()) HandOnWheel(*event);
   }
 
   void mousePressEvent(QMouseEvent* event) override {
-    if (!inDoubleClick_) Pressed(*event);
-    Base::mousePressEvent(event);
+    if (inDoubleClick_ || Pressed(*event)) Base::mousePressEvent(event);
   }
 
   void mouseDoubleClickEvent(QMouseEvent* event) override {
-    PressedTwice(*event);
+    if (!PressedTwice(*event)) return;
     // Many widgets take it for one more press.
     inDoubleClick_ = true;
     Base::mouseDoubleClickEvent(event);

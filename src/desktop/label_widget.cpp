@@ -9,8 +9,6 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include <cmath>
-
 namespace veldrin {
 
 namespace {
@@ -19,23 +17,12 @@ constexpr int kMiddleGrey = 128;
 constexpr QColor kOffOnDark(150, 150, 150);
 constexpr QColor kOffOnPale(100, 100, 100);
 
-Qt::Alignment AlignmentOf(Align align) {
-  switch (align) {
-    case Align::Right:
-      return Qt::AlignRight;
-    case Align::Centre:
-      return Qt::AlignHCenter;
-    default:
-      return Qt::AlignLeft;
-  }
-}
-
 }  // namespace
 
 LabelWidget::LabelWidget(Label& label, Stage& stage, QWidget* parent)
-    : ControlWidget(label, stage, parent), look_(label.look) {
+    : ControlWidget(label, stage, parent), transparent_(label.look.transparent) {
   setTextFormat(Qt::PlainText);
-  setAlignment(AlignmentOf(look_.align) | Qt::AlignVCenter);
+  setAlignment(TextAlignment());
 }
 
 void LabelWidget::Take(std::string_view slot) {
@@ -60,15 +47,11 @@ QColor LabelWidget::TextColour() const {
 
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  if (!look_.transparent) painter.fillRect(rect(), palette().color(QPalette::Window));
-  const double factor = stage_->zoom.Factor();
-  const double border = look_.border ? std::max(1.0, std::round(factor)) : 0;
-  if (look_.border) {
-    painter.setPen(QPen(QColor(Qt::darkGray), border));
-    painter.drawRect(QRectF(rect()).adjusted(border / 2, border / 2, -border / 2, -border / 2));
-  }
+  if (!transparent_) painter.fillRect(rect(), palette().color(QPalette::Window));
+  PaintBorder(painter);
+  const double border = BorderWidth();
   // A pixel between text and edge, where the label is not as wide as its text on purpose.
-  const double margin = border + factor;
+  const double margin = border + stage_->zoom.Factor();
   painter.setPen(TextColour());
   const QRectF room = QRectF(rect()).adjusted(margin, border, -margin, -border);
   isWhole_ = DrawFitted(painter, room, text(), font(), alignment());

@@ -22,7 +22,7 @@ class LabelWidget : public ControlWidget<QLabel> {
   const Label& Record() const { return static_cast<const Label&>(*control_); }
   QColor TextColour() const;
 
-  const Look look_;
+  const bool transparent_;
   bool isWhole_ = true;  // whether the text was painted uncut
 };
 

@@ -52,17 +52,14 @@ void PictureWidget::paintEvent(QPaintEvent* /*event*/) {
   const QColor back = palette().color(QPalette::Window);
   painter.fillRect(rect(), back);
   if (control_ == nullptr) return;
-  const double border = BorderPixels(*control_, stage_->zoom);
+  const double border = BorderWidth();
   const QRectF inside = QRectF(rect()).adjusted(border, border, -border, -border);
   if (Record().Image != 0) PaintImage(painter, inside, Record().Image);
   const Surface& surface = Record().surface;
   if (!surface.Drawing().empty()) {
     PaintDrawing(painter, surface.Drawing(), {inside, stage_->zoom.Pixels(1), back});
   }
-  if (border > 0) {
-    painter.setPen(QPen(QColor(Qt::darkGray), border));
-    painter.drawRect(QRectF(rect()).adjusted(border / 2, border / 2, -border / 2, -border / 2));
-  }
+  PaintBorder(painter);
 }
 
 }  // namespace veldrin

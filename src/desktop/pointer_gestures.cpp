@@ -22,15 +22,7 @@ bool ReleasePointer(Control& control, int button, bool inside) {
   const bool isButton = control.kind == ControlKind::Button || control.kind == ControlKind::OptionButton;
   if (isButton && !inside) return true;
   Fire(control, "MouseUp", button);
-  if (button != kLeftButton || !inside) return true;
-  if (control.kind == ControlKind::OptionButton) {
-    auto& option = static_cast<OptionButton&>(control);
-    if (!option.Value) {
-      option.Value = true;  // fires Click
-      return true;
-    }
-  }
-  Fire(control, "Click");
+  if (button == kLeftButton && inside) user::FinishClick(control);
   return true;
 }
 

@@ -24,14 +24,17 @@ SpinWidget::SpinWidget(SpinButton& spin, Stage& stage, QWidget* parent) : Contro
   repeat_.setSingleShot(true);
   connect(&repeat_, &QTimer::timeout, this, [this] {
     if (!held_) return;
-    if (inside_) Step();
+    if (inside_) Turn(up_);
     if (held_) repeat_.start(kNextRepeat);
   });
 }
 
+bool SpinWidget::IsSideBySide() const {
+  return width() > height() * 3 / 2;
+}
+
 QRect SpinWidget::ArrowRect(bool up) const {
-  const bool sideBySide = width() > height() * 3 / 2;
-  if (sideBySide) {
+  if (IsSideBySide()) {
     const int middle = width() / 2;
     return up ? QRect(middle, 0, width() - middle, height()) : QRect(0, 0, middle, height());
   }
@@ -39,10 +42,9 @@ QRect SpinWidget::ArrowRect(bool up) const {
   return up ? QRect(0, 0, width(), middle) : QRect(0, middle, width(), height() - middle);
 }
 
-/// One turn. Its handlers may switch the button off, or take it away.
-void SpinWidget::Step() {
+/// Its handlers may switch the button off, or take it away.
+void SpinWidget::Turn(bool up) {
   Control* const control = control_;
-  const bool up = up_;
   if (control == nullptr ||
       !Do([control, up] { return user::Spin(static_cast<SpinButton&>(*control), up); })) {
     Stop();
@@ -55,11 +57,6 @@ void SpinWidget::TellTurned() {
   if (control_ == nullptr || !QAccessible::isActive()) return;
   QAccessibleValueChangeEvent event(this, AccessibleValue(*control_));
   QAccessible::updateAccessibility(&event);
-}
-
-void SpinWidget::Turn(bool up) {
-  up_ = up;
-  Step();
 }
 
 void SpinWidget::Stop() {
@@ -75,7 +72,7 @@ void SpinWidget::mousePressEvent(QMouseEvent* event) {
   up_ = ArrowRect(true).contains(event->position().toPoint());
   repeat_.start(kFirstRepeat);
   update();
-  Step();
+  Turn(up_);
 }
 
 void SpinWidget::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -93,8 +90,7 @@ void SpinWidget::mouseMoveEvent(QMouseEvent* event) {
 void SpinWidget::wheelEvent(QWheelEvent* event) {
   event->accept();
   const int turns = WheelTurns(*event, wheel_);
-  up_ = turns > 0;
-  for (int i = 0; i < std::abs(turns) && control_ != nullptr; ++i) Step();
+  for (int i = 0; i < std::abs(turns) && control_ != nullptr; ++i) Turn(turns > 0);
 }
 
 void SpinWidget::hideEvent(QHideEvent* event) {
@@ -122,12 +118,11 @@ void SpinWidget::PaintArrow(QPainter& painter, bool up) const {
   face.state.setFlag(held_ && up == up_ ? QStyle::State_Sunken : QStyle::State_Raised);
   style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &face, &painter, this);
 
-  const bool sideBySide = width() > height() * 3 / 2;
   const double size = std::min({half.width() * 0.5, half.height() * 0.5, 7 * stage_->zoom.Factor()});
   const QPointF middle = QRectF(half).center();
   const double away = up ? 1 : -1;  // the way that the arrow points
   QPolygonF arrow;
-  if (sideBySide) {
+  if (IsSideBySide()) {
     arrow << QPointF(size * away / 2, 0) << QPointF(-size * away / 2, -size * 0.7)
           << QPointF(-size * away / 2, size * 0.7);
   } else {

@@ -14,7 +14,7 @@ class SpinWidget : public ControlWidget<QWidget> {
 
   /// The half of the button that holds an arrow.
   QRect ArrowRect(bool up) const;
-  /// One turn that the mouse did not ask for.
+  /// One turn, whoever asks for it.
   void Turn(bool up);
 
  protected:
@@ -28,13 +28,14 @@ class SpinWidget : public ControlWidget<QWidget> {
   void changeEvent(QEvent* event) override;
 
  private:
-  void Step();
+  bool IsSideBySide() const;
   void TellTurned();
   void Stop();
   void PaintArrow(QPainter& painter, bool up) const;
   QColor ArrowColour() const;
 
   QTimer repeat_;
+  // The arrow that the mouse holds, which the wheel and keys turn past.
   bool held_ = false;
   bool up_ = false;
   bool inside_ = false;

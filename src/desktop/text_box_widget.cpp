@@ -1,10 +1,10 @@
 #include "desktop/text_box_widget.h"
 
 #include "desktop/dropped_file.h"
+#include "desktop/keys.h"
 #include "desktop/text_ends.h"
 
 #include <QDragEnterEvent>
-#include <QFocusEvent>
 
 namespace veldrin {
 
@@ -20,106 +20,94 @@ bool BelongsToMenu(QEvent* event, bool selected, bool canUndo) {
   return left;
 }
 
-Qt::Alignment AlignmentOf(Align align) {
-  if (align == Align::Right) return Qt::AlignRight | Qt::AlignVCenter;
-  if (align == Align::Centre) return Qt::AlignHCenter | Qt::AlignVCenter;
-  return Qt::AlignLeft | Qt::AlignVCenter;
-}
-
 }  // namespace
 
-LineBoxWidget::LineBoxWidget(TextBox& box, Stage& stage, QWidget* parent)
-    : ControlWidget(box, stage, parent) {
-  setAlignment(AlignmentOf(box.look.align));
+template <class Base>
+TextBoxWidget<Base>::TextBoxWidget(TextBox& box, Stage& stage, QWidget* parent)
+    : ControlWidget<Base>(box, stage, parent) {
   // Screen readers write without what Qt calls editing.
-  connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (control_ == nullptr || stage_->applying > 0 || text == ToWidgetText(Record().Text)) return;
-    Do([&, control = control_] { return user::EnterText(*control, ToSlotText(text)); });
-    if (control_ != nullptr) TakeText();
-  });
-  connect(this, &QLineEdit::selectionChanged, this, [this] { selectedByItself_ = false; });
+  this->connect(this, &Base::textChanged, this, [this] { EnterText(); });
 }
 
-void LineBoxWidget::Take(std::string_view slot) {
+template <class Base>
+void TextBoxWidget<Base>::Take(std::string_view slot) {
   if (slot == "Text") {
     TakeText();
   } else {
-    ControlWidget::Take(slot);
+    ControlWidget<Base>::Take(slot);
   }
 }
 
-/// A box that shows the text already keeps its cursor, and what can be taken back.
-void LineBoxWidget::TakeText() {
-  const Applying applying(*stage_);
-  const QString wanted = ToWidgetText(Record().Text);
-  if (text() != wanted) setText(wanted);
+template <class Base>
+QString TextBoxWidget<Base>::Wanted() const {
+  return ToWidgetText(static_cast<const TextBox&>(*this->control_).Text);
 }
 
-Shown LineBoxWidget::WhatShows() const {
-  Shown shown = ControlWidget::WhatShows();
-  shown.text = ToSlotText(text());
+/// A text area tells of every step of an input method; nothing is written while it composes.
+template <class Base>
+void TextBoxWidget<Base>::EnterText() {
+  if (this->control_ == nullptr || this->stage_->applying > 0) return;
+  const QString text = Written();
+  if (text == Wanted()) return;
+  this->Do([&, control = this->control_] { return user::EnterText(*control, ToSlotText(text)); });
+  if (this->control_ != nullptr) TakeText();
+}
+
+/// A box that shows the text already keeps its cursor, and what can be taken back.
+template <class Base>
+void TextBoxWidget<Base>::TakeText() {
+  const Applying applying(*this->stage_);
+  const QString wanted = Wanted();
+  if (Written() != wanted) Write(wanted);
+}
+
+template <class Base>
+Shown TextBoxWidget<Base>::WhatShows() const {
+  Shown shown = ControlWidget<Base>::WhatShows();
+  shown.text = ToSlotText(Written());
   return shown;
+}
+
+template <class Base>
+void TextBoxWidget<Base>::dragEnterEvent(QDragEnterEvent* event) {
+  event->ignore();
+  if (!CarriesFiles(*event->mimeData())) ControlWidget<Base>::dragEnterEvent(event);
+}
+
+LineBoxWidget::LineBoxWidget(TextBox& box, Stage& stage, QWidget* parent)
+    : TextBoxWidget(box, stage, parent) {
+  setAlignment(TextAlignment());
+  connect(this, &QLineEdit::selectionChanged, this, [this] { selectedByItself_ = false; });
 }
 
 bool LineBoxWidget::event(QEvent* event) {
   if (BelongsToMenu(event, hasSelectedText() && !selectedByItself_, isUndoAvailable())) return true;
-  return ControlWidget::event(event);
-}
-
-void LineBoxWidget::dragEnterEvent(QDragEnterEvent* event) {
-  event->ignore();
-  if (!CarriesFiles(*event->mimeData())) ControlWidget::dragEnterEvent(event);
+  return TextBoxWidget::event(event);
 }
 
 void LineBoxWidget::focusInEvent(QFocusEvent* event) {
-  ControlWidget::focusInEvent(event);
-  const Qt::FocusReason reason = event->reason();
-  const bool byProgram = reason == Qt::OtherFocusReason;  // Tab and Enter go through the program as well
-  if (!byProgram && reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) return;
+  TextBoxWidget::focusInEvent(event);
+  if (!IsByKeyboard(*event)) return;
   selectAll();
   selectedByItself_ = true;
 }
 
 TextAreaWidget::TextAreaWidget(TextBox& box, Stage& stage, QWidget* parent)
-    : ControlWidget(box, stage, parent) {
+    : TextBoxWidget(box, stage, parent) {
   setTabChangesFocus(true);
-  connect(this, &QPlainTextEdit::textChanged, this, [this] {
-    if (control_ == nullptr || stage_->applying > 0) return;
-    const QString text = toPlainText();
-    if (text == ToWidgetText(Record().Text)) return;  // an input method composes
-    Do([&, control = control_] { return user::EnterText(*control, ToSlotText(text)); });
-    if (control_ != nullptr) TakeText();
-  });
 }
 
-void TextAreaWidget::Take(std::string_view slot) {
-  if (slot == "Text") {
-    TakeText();
-  } else {
-    ControlWidget::Take(slot);
-  }
-}
-
-void TextAreaWidget::TakeText() {
-  const Applying applying(*stage_);
-  const QString wanted = ToWidgetText(Record().Text);
-  if (toPlainText() != wanted) setPlainText(wanted);
-}
-
-Shown TextAreaWidget::WhatShows() const {
-  Shown shown = ControlWidget::WhatShows();
-  shown.text = ToSlotText(toPlainText());
-  return shown;
+/// What Qt calls the plain text has a common blank for one that does not break.
+QString TextAreaWidget::Written() const {
+  QString text = document()->toRawText();
+  text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+  text.replace(QChar::LineSeparator, QLatin1Char('\n'));
+  return text;
 }
 
 bool TextAreaWidget::event(QEvent* event) {
   if (BelongsToMenu(event, textCursor().hasSelection(), document()->isUndoAvailable())) return true;
-  return ControlWidget::event(event);
-}
-
-void TextAreaWidget::dragEnterEvent(QDragEnterEvent* event) {
-  event->ignore();
-  if (!CarriesFiles(*event->mimeData())) ControlWidget::dragEnterEvent(event);
+  return TextBoxWidget::event(event);
 }
 
 }  // namespace veldrin

@@ -15,39 +15,49 @@
 
 namespace veldrin {
 
-class LineBoxWidget : public ControlWidget<QLineEdit> {
+/// What both have in common.
+template <class Base>
+class TextBoxWidget : public ControlWidget<Base> {
+ public:
+  TextBoxWidget(TextBox& box, Stage& stage, QWidget* parent);
+
+  void Take(std::string_view slot) override;
+  Shown WhatShows() const override;
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+
+  virtual QString Written() const = 0;
+  virtual void Write(const QString& text) = 0;
+
+ private:
+  QString Wanted() const;
+  void EnterText();
+  void TakeText();
+};
+
+class LineBoxWidget : public TextBoxWidget<QLineEdit> {
  public:
   LineBoxWidget(TextBox& box, Stage& stage, QWidget* parent);
 
-  void Take(std::string_view slot) override;
-  Shown WhatShows() const override;
-
  protected:
   bool event(QEvent* event) override;
-  void dragEnterEvent(QDragEnterEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  QString Written() const override { return text(); }
+  void Write(const QString& text) override { setText(text); }
 
  private:
-  const TextBox& Record() const { return static_cast<const TextBox&>(*control_); }
-  void TakeText();
-
   bool selectedByItself_ = false;
 };
 
-class TextAreaWidget : public ControlWidget<QPlainTextEdit> {
+class TextAreaWidget : public TextBoxWidget<QPlainTextEdit> {
  public:
   TextAreaWidget(TextBox& box, Stage& stage, QWidget* parent);
 
-  void Take(std::string_view slot) override;
-  Shown WhatShows() const override;
-
  protected:
   bool event(QEvent* event) override;
-  void dragEnterEvent(QDragEnterEvent* event) override;
-
- private:
-  const TextBox& Record() const { return static_cast<const TextBox&>(*control_); }
-  void TakeText();
+  QString Written() const override;
+  void Write(const QString& text) override { setPlainText(text); }
 };
 
 }  // namespace veldrin

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace veldrin {
 namespace {
@@ -20,11 +21,6 @@ class ButtonWidgetTest : public WidgetsTest {
   }
 
   QImage PictureOf(const Control& control) { return WidgetOf(control).grab().toImage(); }
-
-  void FocusOn(Control& control) {
-    SetFocus(control);
-    Settle();
-  }
 };
 
 TEST_F(ButtonWidgetTest, FocusIsSeenAtEveryZoom) {
@@ -40,6 +36,57 @@ TEST_F(ButtonWidgetTest, FocusIsSeenAtEveryZoom) {
     FocusOn(form->Text1);
     EXPECT_EQ(Differences(before, PictureOf(form->Command1)), 0) << factor;
   }
+}
+
+TEST_F(ButtonWidgetTest, ButtonThatItsOwnPressHidesIsUpWhenItIsShownAgain) {
+  reactions["Command1.MouseDown"] = [this] { form->Command1.Visible = false; };
+  Press(form->Command1);
+  form->Command1.Visible = true;
+  Settle();
+  EXPECT_FALSE(WidgetOf<QPushButton>(form->Command1).isDown());
+  reactions["Option1(2).MouseDown"] = [this] { form->Option1[2].Visible = false; };
+  Press(form->Option1[2]);
+  form->Option1[2].Visible = true;
+  Settle();
+  EXPECT_FALSE(WidgetOf<QRadioButton>(form->Option1[2]).isDown());
+}
+
+TEST_F(ButtonWidgetTest, ButtonWhoseWindowGoesAtItsPressIsUpWhenTheWindowComesBack) {
+  reactions["Command1.MouseDown"] = [this] { form->Hide(); };
+  Press(form->Command1);
+  form->Show();
+  Settle();
+  EXPECT_FALSE(WidgetOf<QPushButton>(form->Command1).isDown());
+}
+
+TEST_F(ButtonWidgetTest, ButtonThatIsHiddenWhileItIsHeldIsUpWhenItIsShownAgain) {
+  Press(form->Command1);
+  EXPECT_TRUE(WidgetOf<QPushButton>(form->Command1).isDown());
+  form->Command1.Visible = false;
+  form->Command1.Visible = true;
+  Settle();
+  EXPECT_FALSE(WidgetOf<QPushButton>(form->Command1).isDown());
+  FocusOn(form->Command1);
+  events.clear();
+  Click(form->Command1);
+  EXPECT_EQ(events, (Events{"Command1.MouseDown", "Command1.MouseUp", "Command1.Click"}));
+}
+
+TEST_F(ButtonWidgetTest, ButtonThatItsOwnPressSwitchesOffIsUpWhenItIsOnAgain) {
+  reactions["Command1.MouseDown"] = [this] { form->Command1.Enabled = false; };
+  Press(form->Command1);
+  form->Command1.Enabled = true;
+  Settle();
+  EXPECT_FALSE(WidgetOf<QPushButton>(form->Command1).isDown());
+}
+
+TEST_F(ButtonWidgetTest, ButtonThatIsOutOfReachByThePressIsNotDown) {
+  Click(form->Text1);
+  reactions["Text1.LostFocus"] = [this] { form->Command1.Enabled = false; };
+  Press(form->Command1);
+  form->Command1.Enabled = true;
+  Settle();
+  EXPECT_FALSE(WidgetOf<QPushButton>(form->Command1).isDown());
 }
 
 TEST_F(ButtonWidgetTest, ScrollBarThatIsOffLooksOff) {

@@ -59,6 +59,7 @@ TEST(FittedText, WhatHangsBelowTheLineStaysInATightRoom) {
 TEST(FittedText, ALowRoomMakesATextAsSmallAsItTakes) {
   const QSize room(400, 20);
   const QRect ink = InkOf("(x1000rpm)", room, Arial(37));
+  ASSERT_FALSE(ink.isEmpty());
   EXPECT_TRUE(QRect(QPoint(0, 0), room).contains(ink)) << ink.top() << ".." << ink.bottom();
 }
 
@@ -74,6 +75,7 @@ TEST(FittedText, AWideTextIsDrawnSmallerBeforeItIsCut) {
 TEST(FittedText, ATextFarTooWideIsCutWithinItsRoom) {
   const QSize room(60, 24);
   const QRect ink = InkOf("A text that is much wider than its room", room, Arial(20));
+  EXPECT_GT(ink.width(), room.width() / 2) << "as much as there is room for is drawn";
   EXPECT_LE(ink.right(), room.width() + 1);
 }
 

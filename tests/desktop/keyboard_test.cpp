@@ -3,7 +3,6 @@
 
 #include <QClipboard>
 #include <QComboBox>
-#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTableWidget>
@@ -52,6 +51,68 @@ TEST_F(KeyboardTest, SpaceAndEnterPressAButtonWithTheEventsOfTheMouse) {
   events.clear();
   Key(Qt::Key_Return);
   EXPECT_EQ(events.back(), "Command1.Click");
+}
+
+TEST_F(KeyboardTest, MenuKeyAndShiftF10PressAButtonWithTheRightOne) {
+  for (Control* const button :
+       {static_cast<Control*>(&form->Command1), static_cast<Control*>(&form->Option1[2])}) {
+    const std::string name = button->IndexedName();
+    Click(*button);
+    events.clear();
+    Key(Qt::Key_Menu);
+    EXPECT_EQ(events, (Events{name + ".MouseDown", name + ".MouseUp"}));
+    events.clear();
+    Key(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(events, (Events{name + ".KeyDown", name + ".MouseDown", name + ".MouseUp"}));
+    events.clear();
+    Key(Qt::Key_F10);
+    Key(Qt::Key_Menu, Qt::ControlModifier);
+    EXPECT_EQ(std::count(events.begin(), events.end(), name + ".MouseDown"), 0);
+  }
+}
+
+TEST_F(KeyboardTest, HeldMenuKeyPressesOnce) {
+  Click(form->Command1);
+  events.clear();
+  Key(Qt::Key_Menu);
+  QKeyEvent again(QEvent::KeyPress, Qt::Key_Menu, Qt::NoModifier, {}, true);
+  QApplication::sendEvent(&WidgetOf(form->Command1), &again);
+  EXPECT_EQ(std::count(events.begin(), events.end(), "Command1.MouseDown"), 1);
+}
+
+TEST_F(KeyboardTest, KeysOfShortcutsPressNothing) {
+  form->Option1[1].Value = true;
+  for (Control* const button :
+       {static_cast<Control*>(&form->Command1), static_cast<Control*>(&form->Option1[2])}) {
+    FocusOn(*button);
+    events.clear();
+    for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+      for (const auto modifier :
+           {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
+        Key(key, modifier);
+        QKeyEvent up(QEvent::KeyRelease, key, modifier);
+        QApplication::sendEvent(&WidgetOf(*button), &up);
+      }
+    }
+    EXPECT_EQ(events, Events(12, button->IndexedName() + ".KeyDown"));
+    EXPECT_FALSE(form->Option1[2].Value);
+  }
+  Key(Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_TRUE(form->Option1[2].Value);
+}
+
+TEST_F(KeyboardTest, EveryKeyThatWritesFiresItsEvent) {
+  Click(form->Text1);
+  for (const auto& [key, modifiers, text] :
+       std::initializer_list<std::tuple<int, Qt::KeyboardModifiers, QString>>{
+           {Qt::Key_Minus, Qt::NoModifier, "-"},
+           {Qt::Key_Exclam, Qt::ShiftModifier, "!"},
+           {Qt::Key_Udiaeresis, Qt::NoModifier, "ü"},
+           {Qt::Key_unknown, Qt::NoModifier, "雨"}}) {
+    events.clear();
+    Key(key, modifiers, text);
+    EXPECT_EQ(events, (Events{"Text1.KeyDown", "Text1.Change"})) << text.toStdString();
+  }
 }
 
 TEST_F(KeyboardTest, KeyThatMovesTheFocusDoesNothingElse) {
@@ -117,13 +178,10 @@ TEST_F(KeyboardTest, ProgramThatEmptiesABoxAtAChangeHasItsWay) {
 TEST_F(KeyboardTest, InputMethodBringsJapaneseAndNothingBeforeItIsSettled) {
   Click(form->Text3);
   events.clear();
-  QInputMethodEvent composing("あめ", {});
-  QApplication::sendEvent(&WidgetOf(form->Text3), &composing);
+  Compose("", "あめ");
   EXPECT_EQ(form->Text3.Text.get(), "");
   EXPECT_EQ(events, Events{});
-  QInputMethodEvent settled;
-  settled.setCommitString("雨");
-  QApplication::sendEvent(&WidgetOf(form->Text3), &settled);
+  Compose("雨", "");
   EXPECT_EQ(form->Text3.Text.get(), "雨");
   EXPECT_EQ(events, Events{"Text3.Change"});
 }

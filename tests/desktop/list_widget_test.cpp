@@ -58,6 +58,14 @@ class ListWidgetTest : public ::testing::Test {
     QApplication::sendEvent(&target, &event);
   }
 
+  void ClickTwice(int row) {
+    const QPoint point = PointOf(row);
+    Mouse(QEvent::MouseButtonPress, point, Qt::LeftButton);
+    Mouse(QEvent::MouseButtonRelease, point, Qt::LeftButton);
+    Mouse(QEvent::MouseButtonDblClick, point, Qt::LeftButton);
+    Mouse(QEvent::MouseButtonRelease, point, Qt::LeftButton);
+  }
+
   SimulatedMachine simulated;
   Stage stage;
   DesktopWindows windows{stage};
@@ -65,6 +73,7 @@ class ListWidgetTest : public ::testing::Test {
   std::unique_ptr<Program> program = std::make_unique<Program>(machine);
   std::shared_ptr<ListForm> form = std::make_shared<ListForm>(program->desk);
   int clicks = 0;
+  std::vector<std::string> opened;
 };
 
 TEST_F(ListWidgetTest, AClickPicks) {
@@ -114,6 +123,23 @@ TEST_F(ListWidgetTest, AButtonThatGoesUpBesideTheListLeavesTheBarOnWhatIsPicked)
   EXPECT_EQ(List().currentRow(), 0);
   EXPECT_EQ(List().selectedItems().size(), 1);
   EXPECT_EQ(List().row(List().selectedItems().front()), 0);
+}
+
+TEST_F(ListWidgetTest, ADoubleClickClicksOnceAndOpens) {
+  form->File1.DblClick.Bind([this](int) { opened.push_back(form->File1.FileName); });
+  ClickTwice(1);
+  EXPECT_EQ(opened, std::vector<std::string>{"b.nx4"});
+  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(List().currentRow(), 1);
+}
+
+TEST_F(ListWidgetTest, AListThatItsDoubleClickReadsAgainPicksNothing) {
+  form->File1.DblClick.Bind([this](int) { form->File1.Refresh(); });
+  ClickTwice(2);
+  EXPECT_EQ(form->File1.ListIndex.get(), -1);
+  EXPECT_EQ(form->File1.FileName.get(), "");
+  EXPECT_EQ(List().currentRow(), -1);
+  EXPECT_EQ(clicks, 2);
 }
 
 }  // namespace

@@ -38,6 +38,43 @@ TEST_F(MouseTest, RightButtonDoesNotClick) {
   EXPECT_EQ(events.back(), "Command1.MouseUp");
 }
 
+TEST_F(MouseTest, SecondButtonDoesNotTakeTheReleaseOfTheFirst) {
+  for (Control* const control :
+       {static_cast<Control*>(&form->Command1), static_cast<Control*>(&form->Picture1)}) {
+    FocusOn(form->Command1);
+    events.clear();
+    QWidget& widget = WidgetOf(*control);
+    Mouse(widget, QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton);
+    Mouse(widget, QEvent::MouseButtonPress, {5, 5}, Qt::RightButton);
+    Mouse(widget, QEvent::MouseButtonRelease, {5, 5}, Qt::RightButton);
+    Mouse(widget, QEvent::MouseButtonRelease, {5, 5}, Qt::LeftButton);
+    Mouse(widget, QEvent::MouseButtonRelease, {5, 5}, Qt::LeftButton);  // belongs to no press
+    const std::string name = control->name;
+    EXPECT_EQ(events, (Events{name + ".MouseDown", name + ".MouseDown", name + ".MouseUp", name + ".MouseUp",
+                              name + ".Click"}));
+  }
+}
+
+TEST_F(MouseTest, UnusedWheelIsHandedOnOnce) {
+  struct Counter : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+      if (event->type() == QEvent::Wheel) ++turns;
+      return false;
+    }
+    int turns = 0;
+  } counter;
+  Widget().installEventFilter(&counter);
+  form->Command2.Enabled = false;
+  FocusOn(form->Text1);
+  for (const Control* control : std::initializer_list<const Control*>{
+           &form->Label1, &form->Command1, &form->Command2, &form->Text1, &form->Text3, &form->Combo1,
+           &form->Combo2, &form->Grid1, &form->Option1[1]}) {
+    counter.turns = 0;
+    Wheel(TargetOf(*control), -1);
+    EXPECT_EQ(counter.turns, 1) << control->IndexedName();
+  }
+}
+
 TEST_F(MouseTest, ControlThatIsOffIsNotClickedAndNeitherIsWhatLiesAroundIt) {
   form->Option1[2].Enabled = false;
   Click(form->Option1[2]);

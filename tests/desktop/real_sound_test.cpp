@@ -90,10 +90,18 @@ TEST_F(RealSoundTest, AMissingFileStaysSilent) {
   EXPECT_EQ(QDir(folder.path()).entryList({"paplay.started.*"}).size(), 1);
 }
 
+// A player that came later would find nothing of it.
 TEST_F(RealSoundTest, AMachineWithoutAPlayerStaysSilent) {
+  PutProgram("player", ": > \"$0.started\"\n");
+  Put("aplay", "not a program");
   Put("there.wav", "");
-  Play("there.wav");
-  sound.Beep();
+  Put("later.wav", "");
+  EXPECT_NO_THROW(Play("there.wav"));
+  EXPECT_NO_THROW(sound.Beep());
+  PutPlayer("paplay");
+  Play("later.wav");
+  EXPECT_EQ(ArgumentsOf("paplay"), In("later.wav").toStdString() + "\n");
+  EXPECT_EQ(QDir(folder.path()).entryList({"*.started*"}).size(), 1);
 }
 
 }  // namespace

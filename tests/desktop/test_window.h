@@ -11,6 +11,7 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QTimer>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
@@ -114,6 +115,19 @@ class WidgetsTest : public ::testing::Test {
     QWidget* const target = Widget().focusWidget() != nullptr ? Widget().focusWidget() : &Widget();
     QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
     QApplication::sendEvent(target, &event);
+  }
+
+  /// The focus goes to a control by the program.
+  void FocusOn(Control& control) {
+    SetFocus(control);
+    Settle();
+  }
+
+  /// An input method settles one piece of text and composes the next.
+  void Compose(const QString& settled, const QString& composing) {
+    QInputMethodEvent event(composing, {});
+    event.setCommitString(settled);
+    QApplication::sendEvent(Widget().focusWidget(), &event);
   }
 
   void Type(const QString& text) {
