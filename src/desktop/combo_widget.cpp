@@ -153,10 +153,13 @@ void ComboWidget::paintEvent(QPaintEvent* event) {
   painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
-/// What the keyboard comes to is there to be typed over.
+void ComboWidget::OfferText() {
+  if (isEditable()) lineEdit()->selectAll();
+}
+
 void ComboWidget::focusInEvent(QFocusEvent* event) {
   ControlWidget::focusInEvent(event);
-  if (isEditable() && IsByKeyboard(*event)) lineEdit()->selectAll();
+  if (IsByKeyboard(*event)) OfferText();
 }
 
 /// The wheel over a combo that is not in use is meant for something else.

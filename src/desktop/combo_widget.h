@@ -14,6 +14,7 @@ class ComboWidget : public ControlWidget<QComboBox> {
 
   void Take(std::string_view slot) override;
   void TakeContent() override;
+  void OfferText() override;
   void Settle() override;
   Shown WhatShows() const override;
 

@@ -61,6 +61,9 @@ class ControlView {
   virtual void TakeContent() {}
   /// The zoom, or the units of the parent, changed.
   virtual void Rescale() {}
+  /// The keyboard has come to the control, or to its window that has just come up: what can be written over
+  /// is selected.
+  virtual void OfferText() {}
   /// An event has ended: time for what need not be done at every write.
   virtual void Settle() {}
   virtual Shown WhatShows() const { return {}; }

@@ -270,6 +270,7 @@ void FormWidget::TakeVisible() {
   KeepOnScreen();
   StandBeforeOwner();
   show();
+  if (window_->focus != nullptr && ViewOf(*window_->focus) != nullptr) ViewOf(*window_->focus)->OfferText();
   TakeState();
   Reveal(focusWidget());
 }

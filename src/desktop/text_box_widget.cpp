@@ -85,11 +85,14 @@ bool LineBoxWidget::event(QEvent* event) {
   return TextBoxWidget::event(event);
 }
 
-void LineBoxWidget::focusInEvent(QFocusEvent* event) {
-  TextBoxWidget::focusInEvent(event);
-  if (!IsByKeyboard(*event)) return;
+void LineBoxWidget::OfferText() {
   selectAll();
   selectedByItself_ = true;
+}
+
+void LineBoxWidget::focusInEvent(QFocusEvent* event) {
+  TextBoxWidget::focusInEvent(event);
+  if (IsByKeyboard(*event)) OfferText();
 }
 
 TextAreaWidget::TextAreaWidget(TextBox& box, Stage& stage, QWidget* parent)

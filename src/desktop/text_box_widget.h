@@ -40,6 +40,8 @@ class LineBoxWidget : public TextBoxWidget<QLineEdit> {
  public:
   LineBoxWidget(TextBox& box, Stage& stage, QWidget* parent);
 
+  void OfferText() override;
+
  protected:
   bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;

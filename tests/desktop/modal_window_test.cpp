@@ -3,6 +3,8 @@
 #include "desktop/shown_check.h"
 #include "tests/desktop/test_window.h"
 
+#include <QComboBox>
+#include <QLineEdit>
 #include <QWindow>
 
 namespace veldrin {
@@ -51,6 +53,19 @@ TEST_F(ModalWindowTest, BelongsToTheWindowThatItWasCalledFrom) {
   Close(first);
   second.UnloadWindow();
   first.UnloadWindow();
+}
+
+TEST_F(ModalWindowTest, NameThatHasTheFocusWhenItComesUpIsTypedOver) {
+  TestForm modal(program->desk);
+  modal.Combo1.Text = "*.nx4";
+  SetFocus(modal.Combo1);
+  for (int time = 0; time < 2; ++time) {
+    auto& line = *Open(modal).findChild<QComboBox*>()->lineEdit();
+    EXPECT_EQ(line.selectedText(), "*.nx4");
+    line.deselect();
+    Close(modal);
+  }
+  modal.UnloadWindow();
 }
 
 TEST_F(ModalWindowTest, CannotBePutAwayAlone) {
