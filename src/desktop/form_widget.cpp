@@ -270,7 +270,12 @@ void FormWidget::TakeVisible() {
   KeepOnScreen();
   StandBeforeOwner();
   show();
-  if (window_->focus != nullptr && ViewOf(*window_->focus) != nullptr) ViewOf(*window_->focus)->OfferText();
+  // Becoming the active window takes the selection away again.
+  QTimer::singleShot(0, this, [this] {
+    ControlView* const view =
+        window_ == nullptr || window_->focus == nullptr ? nullptr : ViewOf(*window_->focus);
+    if (view != nullptr) view->OfferText();
+  });
   TakeState();
   Reveal(focusWidget());
 }
