@@ -194,7 +194,7 @@ bool PlacedView::KeyPressed(QKeyEvent& event) {
   }
   if (stage_->keysAlone) return true;
   return OwnKey(event) || ServeEscape(*stage_, control.window, event) ||
-         ServeReach(*stage_, control.window, *Widget(), event);
+         ServeReach(control.window, *Widget(), event);
 }
 
 bool PlacedView::HandOnWheel(QEvent& event) {

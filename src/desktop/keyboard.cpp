@@ -85,7 +85,7 @@ bool ServeEscape(Stage& stage, Window& window, const QKeyEvent& event) {
 
 bool ServeWindowKey(Stage& stage, Window& window, const QWidget& widget, const QKeyEvent& event) {
   return ServeReached(stage, window, widget, event) || ServeTab(stage, window, event) ||
-         ServeEscape(stage, window, event) || ServeReach(stage, window, widget, event);
+         ServeEscape(stage, window, event) || ServeReach(window, widget, event);
 }
 
 }  // namespace veldrin

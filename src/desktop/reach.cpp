@@ -227,7 +227,7 @@ bool ServeReached(Stage& stage, const Window& window, const QWidget& inside, con
   return usable && event.key() == Qt::Key_Escape;
 }
 
-bool ServeReach(const Stage& /*stage*/, const Window& window, const QWidget& inside, const QKeyEvent& event) {
+bool ServeReach(const Window& window, const QWidget& inside, const QKeyEvent& event) {
   if (event.key() != Qt::Key_F6 || (event.modifiers() & ~Qt::ShiftModifier) != 0) return false;
   if (IsListOpen(window)) return true;
   FormWidget* const form = FormAround(inside);

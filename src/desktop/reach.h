@@ -41,6 +41,6 @@ Control* ReachedIn(const QWidget& inside);
 bool ServeReached(Stage& stage, const Window& window, const QWidget& inside, const QKeyEvent& event);
 
 /// F6 and Shift+F6. False for other keys, and where there is nothing to reach.
-bool ServeReach(const Stage& stage, const Window& window, const QWidget& inside, const QKeyEvent& event);
+bool ServeReach(const Window& window, const QWidget& inside, const QKeyEvent& event);
 
 }  // namespace veldrin

@@ -22,14 +22,7 @@ class AboutDragTest : public ::testing::Test {
     QCoreApplication::processEvents();
   }
 
-  ~AboutDragTest() override {
-    simulated.windows.Forget();
-    stage.input.Serve(nullptr);
-    windows.Forget();
-    windows.Settle();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-  }
+  ~AboutDragTest() override { TakeDown(simulated, stage, windows); }
 
   Form10& Form() { return *program->form10; }
   FormWidget& Widget() { return *windows.FormOf(Form()); }

@@ -479,13 +479,7 @@ class DropTest : public ::testing::Test {
     QCoreApplication::processEvents();
   }
 
-  ~DropTest() override {
-    simulated.windows.Forget();
-    stage.input.Serve(nullptr);
-    windows.Forget();
-    windows.Settle();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
+  ~DropTest() override { TakeDown(simulated, stage, windows); }
 
   FormWidget& Widget() { return *windows.FormOf(program->form2); }
   QWidget& WidgetOf(const Control& control) { return *Widget().ViewOf(control)->Widget(); }

@@ -50,6 +50,16 @@ struct TestForm : Window {
   // clang-format on
 };
 
+/// The end of a test with widgets: nothing of them is told to a program that goes before they do.
+inline void TakeDown(SimulatedMachine& simulated, Stage& stage, DesktopWindows& windows) {
+  simulated.windows.Forget();
+  stage.input.Serve(nullptr);
+  windows.Forget();
+  windows.Settle();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+}
+
 /// The window on the screen, with a record of the events that its controls fired.
 class WidgetsTest : public ::testing::Test {
  protected:
@@ -63,14 +73,7 @@ class WidgetsTest : public ::testing::Test {
     events.clear();
   }
 
-  ~WidgetsTest() override {
-    simulated.windows.Forget();
-    stage.input.Serve(nullptr);
-    windows.Forget();
-    windows.Settle();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-  }
+  ~WidgetsTest() override { TakeDown(simulated, stage, windows); }
 
   /// Lets the widgets take over what the program just wrote outside of an event.
   void Settle() { windows.Settle(); }
