@@ -42,9 +42,7 @@ class Planner : public testing::Test {
     std::ofstream(path, std::ios::binary) << text;
     return path.string();
   }
-  static std::string Sample(const char* name) {
-    return (fs::path(__FILE__).parent_path() / "../../share/veldrin/LIST" / name).lexically_normal().string();
-  }
+  static std::string Sample(const char* name) { return (fs::path(VELDRIN_SHARE) / "LIST" / name).string(); }
   static std::string TextOf(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};

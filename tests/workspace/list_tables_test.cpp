@@ -48,7 +48,7 @@ class ListTables : public testing::Test {
   }
 
   static std::string FileText(const char* name) {
-    const auto path = std::filesystem::path(__FILE__).parent_path() / "../../share/veldrin/LIST" / name;
+    const auto path = std::filesystem::path(VELDRIN_SHARE) / "LIST" / name;
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file) << path;
     return {std::istreambuf_iterator<char>(file), {}};
