@@ -1,7 +1,8 @@
-// Fields and lines of a list file as the list reader takes them, with the lines they stand on and with what
-// the reader lets pass in silence. A scanner is a plain value: a copy looks ahead.
+// Fields and lines of a list file as the list reader takes them (runtime/field_scan.h), with the lines they
+// stand on and with what the reader lets pass in silence. A scanner is a plain value: a copy looks ahead.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -31,9 +32,8 @@ class FieldScanner {
   std::string RestOfLine();
 
  private:
-  void Skip();
-  bool AtLineEnd() const;
-  bool SkipLineEnd();
+  /// Moves on, counting lines.
+  void GoTo(std::size_t at);
 
   std::string_view text_;
   std::size_t at_ = 0;

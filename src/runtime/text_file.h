@@ -1,8 +1,5 @@
-// Sequential reading of a text file: fields in the manner of hand-made lists, and whole lines.
-//
-// A field ends at a comma or a line end, which is consumed with it; blanks around it are ignored; a field in
-// double quotes may hold commas and line ends. A line ends at CR LF, CR or LF. Fields and lines may be mixed:
-// each read goes on where the last one ended.
+// Sequential reading of a text file: fields in the manner of hand-made lists, and whole lines, by the rule of
+// field_scan.h. Fields and lines may be mixed: each read goes on where the last one ended.
 #pragma once
 
 #include <cstdint>
@@ -32,9 +29,6 @@ class TextReader {
   std::string Line();
 
  private:
-  void SkipBlanks();
-  bool SkipLineEnd();
-
   std::string text_;
   std::size_t at_ = 0;
 };
