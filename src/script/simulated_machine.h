@@ -17,7 +17,8 @@
 namespace veldrin {
 
 struct SimulatedMachine {
-  SimulatedMachine() = default;
+  SimulatedMachine();
+  ~SimulatedMachine();
   SimulatedMachine(const SimulatedMachine&) = delete;
   SimulatedMachine& operator=(const SimulatedMachine&) = delete;
 

@@ -6,8 +6,8 @@
 namespace veldrin {
 
 struct Form1 : Window {
-  explicit Form1(Desk& theDesk)
-      : Window(theDesk, "Form1", {0, 0, 7500, 1500}, {.back = kBlack}, false, false) {}
+  explicit Form1(Desk& theDesk);
+  ~Form1();
 
   // clang-format off
   Picture      Pic1{"Pic1",     *this, {0, 0, 7500, 1500},     {.back = kDarkBlue}};

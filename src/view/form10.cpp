@@ -9,4 +9,6 @@ Form10::Form10(Desk& theDesk)
   Line2.Visible.Design(false);
 }
 
+Form10::~Form10() = default;
+
 }  // namespace veldrin

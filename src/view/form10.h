@@ -16,6 +16,7 @@ constexpr int kRollPressedImage = 2007;
 
 struct Form10 : Window {
   explicit Form10(Desk& theDesk);
+  ~Form10();
 
   // clang-format off
   Label   Label41      {"Label41",       *this, { 120,   30, 3600,  270}, {.caption = "この「べるどりん君」について", .back = kPale, .transparent = true}};

@@ -63,4 +63,6 @@ Form2::Form2(Desk& theDesk)
   DrawPrinter(Picture28.surface);
 }
 
+Form2::~Form2() = default;
+
 }  // namespace veldrin

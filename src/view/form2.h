@@ -12,6 +12,7 @@ namespace veldrin {
 
 struct Form2 : Window {
   explicit Form2(Desk& theDesk);
+  ~Form2();
 
   // Looks: panels, captions, ...
   static constexpr Look kPanel{.back = kDarkBlue};

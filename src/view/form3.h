@@ -8,6 +8,7 @@ namespace veldrin {
 
 struct Form3 : Window {
   explicit Form3(Desk& theDesk);
+  ~Form3();
 
   // clang-format off
   Label     Label1  {"Label1",   *this, { 150,  150, 3600,  240}, {.caption = "File Name"}};

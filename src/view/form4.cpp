@@ -15,4 +15,6 @@ Form4::Form4(Desk& theDesk)
   }
 }
 
+Form4::~Form4() = default;
+
 }  // namespace veldrin

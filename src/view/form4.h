@@ -8,6 +8,7 @@ namespace veldrin {
 
 struct Form4 : Window {
   explicit Form4(Desk& theDesk);
+  ~Form4();
 
   // clang-format off
   Label      Label3 {"Label3",  *this, {  60,   60,  960, 240}, {.caption = "Select", .fore = kLightGrey, .back = kDarkBlue}};

@@ -15,4 +15,6 @@ Form5::Form5(Desk& theDesk)
   }
 }
 
+Form5::~Form5() = default;
+
 }  // namespace veldrin

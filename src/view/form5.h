@@ -9,6 +9,7 @@ namespace veldrin {
 
 struct Form5 : Window {
   explicit Form5(Desk& theDesk);
+  ~Form5();
 
   // clang-format off
   Label      Label10 {"Label10",  *this, { 120,    0,  855, 240}, {.caption = "SELECT",   .fore = kLightGrey, .back = kDarkBlue}};

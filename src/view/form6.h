@@ -7,11 +7,8 @@
 namespace veldrin {
 
 struct Form6 : Window {
-  explicit Form6(Desk& theDesk)
-      : Window(theDesk, "Form6", {0, 0, 9720, 7400}, {.back = kWhite}), surface(theDesk.machine.metrics) {
-    surface.SetSize(Width, Height);
-    surface.font = {"ＭＳ ゴシック", 9, false, false};
-  }
+  explicit Form6(Desk& theDesk);
+  ~Form6();
 
   Surface surface;
   // clang-format off

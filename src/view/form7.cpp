@@ -31,4 +31,6 @@ ControlArray<ComboBox>::Maker Form7::Choices() {
   };
 }
 
+Form7::~Form7() = default;
+
 }  // namespace veldrin

@@ -8,6 +8,7 @@ namespace veldrin {
 
 struct Form7 : Window {
   explicit Form7(Desk& theDesk);
+  ~Form7();
 
   // clang-format off
   ControlArray<Label>    Label1 {0, 1, Pair("Label1",  { 120,  255, 1170,  285}, "言語",                 {2640,  150, 1815,  480}, {.caption = "一部メニュー等の表記を変更します", .fontSize = 8})};

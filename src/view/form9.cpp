@@ -9,4 +9,6 @@ Form9::Form9(Desk& theDesk) : Window(theDesk, "Form9", {0, 0, 6660, 3195}, {.cap
   }
 }
 
+Form9::~Form9() = default;
+
 }  // namespace veldrin

@@ -7,6 +7,7 @@ namespace veldrin {
 
 struct Form9 : Window {
   explicit Form9(Desk& theDesk);
+  ~Form9();
 
   // clang-format off
   ControlArray<Label>   Label2  {0, 1, Elements<Label>  ("Label2",   *this, [](int i) { return Place{150, 330 + 720.0F * static_cast<float>(i), 720, 255}; }, {}, {"NOW", "AFTER"})};

@@ -54,7 +54,8 @@ struct Hooks {
 };
 
 struct Program {
-  explicit Program(Machine& theMachine) : machine(theMachine), files(theMachine.files), desk(theMachine) {}
+  explicit Program(Machine& theMachine);
+  ~Program();
 
   Machine& machine;
   FileHandles files;

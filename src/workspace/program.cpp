@@ -1,0 +1,9 @@
+#include "workspace/program.h"
+
+namespace veldrin {
+
+Program::Program(Machine& theMachine) : machine(theMachine), files(theMachine.files), desk(theMachine) {}
+
+Program::~Program() = default;
+
+}  // namespace veldrin
