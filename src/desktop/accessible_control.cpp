@@ -7,6 +7,7 @@
 
 #include <QAccessibleWidget>
 #include <QRegularExpression>
+#include <QScrollBar>
 
 #include <limits>
 
@@ -65,6 +66,38 @@ class AccessibleSpin : public QAccessibleWidget, public QAccessibleValueInterfac
   PlacedView* view_;
 };
 
+/// A scroll bar. It tells the control's value, which may lie beyond the end where the thumb stands; what is
+/// set moves the thumb and stays within the ends.
+class AccessibleScrollBar : public QAccessibleWidget, public QAccessibleValueInterface {
+ public:
+  AccessibleScrollBar(QScrollBar& widget, PlacedView& view)
+      : QAccessibleWidget(&widget, QAccessible::ScrollBar), bar_(&widget), view_(&view) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+  }
+
+  QString text(QAccessible::Text what) const override {
+    return what == QAccessible::Value ? QString::number(Value()) : QAccessibleWidget::text(what);
+  }
+
+  QVariant currentValue() const override { return Value(); }
+  void setCurrentValue(const QVariant& value) override { bar_->setValue(value.toInt()); }
+  QVariant maximumValue() const override { return bar_->maximum(); }
+  QVariant minimumValue() const override { return bar_->minimum(); }
+  QVariant minimumStepSize() const override { return bar_->singleStep(); }
+
+ private:
+  int Value() const {
+    const Control* const control = view_->Shows();
+    return control == nullptr ? bar_->value() : static_cast<const ScrollBar*>(control)->Value.get();
+  }
+
+  QScrollBar* bar_;
+  PlacedView* view_;
+};
+
 /// A label or picture that is pressed like a button. Where only the second click does something, both are one
 /// press; what the right button may do there is asked for like a menu.
 class AccessiblePress : public QAccessibleWidget {
@@ -112,6 +145,9 @@ QAccessibleInterface* MakeAccess(const QString& /*className*/, QObject* object) 
   if (view == nullptr || view->Shows() == nullptr) return nullptr;
   auto& widget = *static_cast<QWidget*>(object);
   if (view->Shows()->kind == ControlKind::SpinButton) return new AccessibleSpin(widget, *view);
+  if (view->Shows()->kind == ControlKind::ScrollBar) {
+    return new AccessibleScrollBar(static_cast<QScrollBar&>(widget), *view);
+  }
   if (AnswersClicks(*view->Shows())) return new AccessiblePress(widget, *view);
   return nullptr;
 }

@@ -2,6 +2,7 @@
 
 #include "desktop/wheel.h"
 
+#include <QAccessible>
 #include <QPalette>
 
 #include <algorithm>
@@ -37,12 +38,19 @@ void ScrollBarWidget::Take(std::string_view slot) {
   const auto& bar = static_cast<const ScrollBar&>(*control_);
   if (slot == "Min" || slot == "Max" || slot == "Value") {
     const Applying applying(*stage_);
-    // A new end is told before it pushes the value; the value's own write follows.
+    // A value beyond the ends leaves the thumb at the end, from where the user's next move begins.
     setRange(bar.Min, std::max(bar.Min.get(), bar.Max.get()));
     setValue(bar.Value);
+    if (bar.Value != value()) TellBeyondEnds();
   } else {
     ControlWidget::Take(slot);
   }
+}
+
+/// Screen readers hear of a moved thumb by Qt.
+void ScrollBarWidget::TellBeyondEnds() {
+  QAccessibleValueChangeEvent changed(this, static_cast<const ScrollBar&>(*control_).Value.get());
+  QAccessible::updateAccessibility(&changed);
 }
 
 /// A bar that is off is paler, its arrows most of all.

@@ -1,4 +1,5 @@
-// Scroll bars. The value follows the thumb.
+// Scroll bars. The value follows the thumb where the user moves it; the thumb of a value beyond the ends
+// stands at the end.
 #pragma once
 
 #include "desktop/control_widget.h"
@@ -21,6 +22,9 @@ class ScrollBarWidget : public ControlWidget<QScrollBar> {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  /// The value lies beyond the end where the thumb stands.
+  void TellBeyondEnds();
+
   int wheel_ = 0;
 };
 

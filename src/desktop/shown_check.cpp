@@ -102,7 +102,10 @@ void CheckControl(const Control& control, const ControlView& view, const Stage& 
     checker.CompareShown("Font", FontText(wanted), FontText(*shown.font));
   }
   if (control.kind == ControlKind::OptionButton) checker.Compare<bool>("Value", shown.chosen);
-  if (control.kind == ControlKind::ScrollBar) checker.Compare<int>("Value", shown.value);
+  if (control.kind == ControlKind::ScrollBar) {
+    const int thumb = static_cast<const ScrollBar&>(control).Thumb();
+    if (shown.value != thumb) checker.Tell("Value", ValueText(thumb), ValueText(*shown.value));
+  }
   if (shown.place) {
     const QRect wanted = PixelsInParent(control, stage.zoom);
     if (*shown.place != wanted) checker.Tell("place in pixels", RectText(wanted), RectText(*shown.place));

@@ -52,7 +52,7 @@ void ReadRemarkLine(Program& program, TextReader& reader) {
 }
 
 /// Revolutions beyond the scale raise its end.
-/// Kept: unlike a plan's, they do not lay out the scale anew, so the scroll bar holds them at its old end.
+/// Kept: unlike a plan's, they do not lay out the scale anew, so the scroll bar's thumb stays at its old end.
 void FollowShiftNe(Program& program) {
   Workspace& workspace = program.workspace;
   if (workspace.MaxNe < workspace.ShiftNe) {
@@ -77,7 +77,7 @@ void AppendRest(Program& program, TextReader& reader) {
 
 void PutInForce(Program& program) {
   program.workspace.ModeWord = mode::kReferenceInForce;
-  program.form2.Label43.Caption = "REQ";
+  program.form2.Label43.Caption = kRequestsShown;
   program.form2.Caption = PlanTitle(program, program.form3.File1.FileName.get());
   program.form2.Text3.Text = "";
 }

@@ -40,17 +40,6 @@ void OptionChanged(Control& control) {
   option.Click();
 }
 
-int HeldWithinEnds(Control& control, const int& value) {
-  const auto& bar = As<ScrollBar>(control);
-  return std::max(std::min(value, bar.Max.get()), bar.Min.get());
-}
-
-/// A new end pushes the value with it.
-void EndChanged(Control& control) {
-  auto& bar = As<ScrollBar>(control);
-  bar.Value = bar.Value.get();
-}
-
 void GridShapeChanged(Control& control) {
   As<Grid>(control).Shape();
 }
@@ -203,10 +192,14 @@ ScrollBar::ScrollBar(const char* name, Control& parent, const Place& place, cons
     : PlacedControl(ControlKind::ScrollBar, name, parent, place, look),
       smallChange(range.smallChange),
       largeChange(range.largeChange),
-      Min(*this, "Min", range.min, EndChanged),
-      Max(*this, "Max", range.max, EndChanged),
-      Value(*this, "Value", range.value, FireChange<ScrollBar>, HeldWithinEnds) {
+      Min(*this, "Min", range.min),
+      Max(*this, "Max", range.max),
+      Value(*this, "Value", range.value, FireChange<ScrollBar>) {
   Have(Min, Max, Value);
+}
+
+int ScrollBar::WithinEnds(int value) const {
+  return std::max(std::min(value, Max.get()), Min.get());
 }
 
 TimerControl::TimerControl(const char* name, Control& parent, int interval, bool enabled)

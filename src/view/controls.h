@@ -1,8 +1,8 @@
 // The kinds of controls, each a record of its slots and events.
 //
-// Which write fires what: a label's Caption, the Text of a text box or combo, a scroll bar's Value (also when
-// a new end pushes it), a folder box's Path and a drive box's Drive fire Change; an option that is set and a
-// list's ListIndex fire Click; a file box's FileName fires its DblClick.
+// Which write fires what: a label's Caption, the Text of a text box or combo, a scroll bar's Value, a folder
+// box's Path and a drive box's Drive fire Change; an option that is set and a list's ListIndex fire Click; a
+// file box's FileName fires its DblClick.
 #pragma once
 
 #include "platform/canvas.h"
@@ -105,7 +105,8 @@ struct Range {
   int largeChange;
 };
 
-/// A scroll bar. Its Value is always held within Min and Max.
+/// A scroll bar. Its Value is what was written, also beyond Min and Max, and a new end leaves it; the thumb
+/// alone stays within the ends, and so does what a user does with it.
 struct ScrollBar : PlacedControl {
   ScrollBar(const char* name, Control& parent, const Place& place, const Range& range, const Look& look = {});
 
@@ -115,6 +116,11 @@ struct ScrollBar : PlacedControl {
   Slot<int> Max;
   Slot<int> Value;
   Event Change{*this, "Change"};
+
+  /// The nearest value between the ends; Min where Max lies below it.
+  int WithinEnds(int value) const;
+  /// The value at which the thumb stands.
+  int Thumb() const { return WithinEnds(Value); }
 };
 
 /// Fires Timer every Interval milliseconds while it is enabled and its window is loaded.

@@ -1,6 +1,6 @@
 // Slots: the values of a control that read like values and are written like them.
 //
-// A write goes in this order: the control may hold the value within its bounds (a scroll bar its Value, a
+// A write goes in this order: the control may hold the value within its bounds (a list its ListIndex, a
 // folder box its Path); the slot takes it; whoever shows the window is told; and, only when the value differs
 // from before, the control reacts, which is where change events are fired. All of it happens inside the
 // assignment, so an event's handler runs before the next statement of the writer.

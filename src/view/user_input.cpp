@@ -194,7 +194,7 @@ bool Spin(SpinButton& spin, bool up) {
 
 bool ScrollTo(ScrollBar& bar, int value) {
   if (!Approach(bar)) return false;
-  bar.Value = value;
+  bar.Value = bar.WithinEnds(value);
   return true;
 }
 

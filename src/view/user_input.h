@@ -54,7 +54,7 @@ bool HighlightFolder(FolderBox& box, const std::string& folder);
 bool PickCell(Grid& grid, int row, int column);
 /// The event of one of the two arrows.
 bool Spin(SpinButton& spin, bool up);
-/// Moves a scroll bar, held within its ends.
+/// Moves a scroll bar, held within its ends, also where its value lay beyond them.
 bool ScrollTo(ScrollBar& bar, int value);
 
 /// Outer size and place of a window in twips, and its state.

@@ -130,6 +130,22 @@ TEST_F(AccessibleWidgetsTest, ScrollBarIsMoved) {
   EXPECT_EQ(form->HScroll1.Value.get(), 70);
 }
 
+TEST_F(AccessibleWidgetsTest, ScrollBarTellsAValueBeyondItsEnds) {
+  QAccessibleInterface& bar = AccessOf(form->HScroll1);
+  EXPECT_EQ(bar.role(), QAccessible::ScrollBar);
+  form->HScroll1.Value = 160;
+  EXPECT_EQ(bar.valueInterface()->currentValue().toInt(), 160);
+  EXPECT_EQ(bar.text(QAccessible::Value), "160");
+  EXPECT_EQ(bar.valueInterface()->minimumValue().toInt(), 0);
+  EXPECT_EQ(bar.valueInterface()->maximumValue().toInt(), 100);
+  EXPECT_EQ(bar.valueInterface()->minimumStepSize().toInt(), 5);
+  bar.valueInterface()->setCurrentValue(160);
+  EXPECT_EQ(form->HScroll1.Value.get(), 160);
+  bar.valueInterface()->setCurrentValue(95);
+  EXPECT_EQ(form->HScroll1.Value.get(), 95);
+  EXPECT_EQ(bar.text(QAccessible::Value), "95");
+}
+
 TEST_F(AccessibleWidgetsTest, LabelsAndPicturesThatAnswerClicksArePressed) {
   EXPECT_EQ(AccessOf(form->Label1).role(), QAccessible::Button);
   EXPECT_EQ(NameOf(form->Label1), "Name");

@@ -358,6 +358,17 @@ TEST_F(ReachTest, KeysMoveAScrollBar) {
   }
 }
 
+TEST_F(ReachTest, KeysTowardTheEndLeaveAValueBeyondIt) {
+  Reach("HScroll1");
+  form->HScroll1.Value = 160;
+  for (const auto key : {Qt::Key_Right, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_End}) {
+    Key(key);
+    EXPECT_EQ(form->HScroll1.Value.get(), 160);
+  }
+  Key(Qt::Key_Left);
+  EXPECT_EQ(form->HScroll1.Value.get(), 95);
+}
+
 TEST_F(ReachTest, SpaceClicksEnterClicksTwiceAndTheMenuKeyWithTheRightButton) {
   Reach("Label1");
   Key(Qt::Key_Space, Qt::NoModifier, " ");

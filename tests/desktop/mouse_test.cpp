@@ -161,8 +161,41 @@ TEST_F(MouseTest, WheelTurnsSpinButtonsAndScrollBars) {
 TEST_F(MouseTest, ThumbIsFollowedAndEndsHold) {
   WidgetOf<QScrollBar>(form->HScroll1).setValue(500);
   EXPECT_EQ(form->HScroll1.Value.get(), 100);
-  form->HScroll1.Max = 80;
-  EXPECT_EQ(WidgetOf<QScrollBar>(form->HScroll1).value(), 80);
+}
+
+TEST_F(MouseTest, ThumbOfAValueBeyondTheEndsStandsAtTheEnd) {
+  const auto& bar = WidgetOf<QScrollBar>(form->HScroll1);
+  form->HScroll1.Value = 130;
+  EXPECT_EQ(bar.value(), 100);
+  EXPECT_EQ(Differences(), Events{});
+  form->HScroll1.Value = -30;
+  EXPECT_EQ(bar.value(), 0);
+  EXPECT_EQ(Differences(), Events{});
+}
+
+TEST_F(MouseTest, NewEndMovesTheThumbAloneAndTellsNothing) {
+  const auto& bar = WidgetOf<QScrollBar>(form->HScroll1);
+  form->HScroll1.Max = 30;
+  EXPECT_EQ(bar.value(), 30);
+  EXPECT_EQ(form->HScroll1.Value.get(), 50);
+  EXPECT_EQ(Differences(), Events{});
+  form->HScroll1.Max = 100;
+  EXPECT_EQ(bar.value(), 50);
+  form->HScroll1.Min = 70;
+  EXPECT_EQ(bar.value(), 70);
+  EXPECT_EQ(form->HScroll1.Value.get(), 50);
+  EXPECT_EQ(events, Events{});
+}
+
+TEST_F(MouseTest, BarAtItsEndIsNotMovedFurtherAndComesBackFromTheEnd) {
+  form->HScroll1.Value = 160;
+  events.clear();
+  Wheel(WidgetOf(form->HScroll1), 1);
+  EXPECT_EQ(form->HScroll1.Value.get(), 160);
+  EXPECT_EQ(events, Events{});
+  Wheel(WidgetOf(form->HScroll1), -1);
+  EXPECT_EQ(form->HScroll1.Value.get(), 95);
+  EXPECT_EQ(events, Events{"HScroll1.Change"});
 }
 
 TEST_F(MouseTest, ScrollBarThatTheProgramMovesTellsNothingBack) {

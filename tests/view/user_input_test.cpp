@@ -273,6 +273,38 @@ TEST_F(UserInput, SpinButtonsAndScrollBarsLeaveTheFocus) {
   EXPECT_EQ(window.focus, &window.First);
 }
 
+TEST_F(UserInput, ScrollBarKeepsWhatCodeWritesBeyondItsEnds) {
+  window.Bar.Value = 130;
+  EXPECT_EQ(window.Bar.Value.get(), 130);
+  EXPECT_EQ(window.Bar.Thumb(), 100);
+  window.Bar.Value = 130;
+  EXPECT_EQ(Events(), "Bar.Change");
+  window.Bar.Value = -5;
+  EXPECT_EQ(window.Bar.Value.get(), -5);
+  EXPECT_EQ(window.Bar.Thumb(), 0);
+}
+
+TEST_F(UserInput, NewEndsLeaveTheValueOfAScrollBar) {
+  window.Bar.Max = 40;
+  EXPECT_EQ(window.Bar.Thumb(), 40);
+  window.Bar.Max = 100;
+  window.Bar.Min = 60;
+  EXPECT_EQ(window.Bar.Thumb(), 60);
+  window.Bar.Max = 55;
+  EXPECT_EQ(window.Bar.Thumb(), 60) << "ends that have changed sides";
+  EXPECT_EQ(window.Bar.Value.get(), 50);
+  EXPECT_EQ(Events(), "");
+}
+
+TEST_F(UserInput, ScrollBarBeyondItsEndsIsBroughtWithinThem) {
+  window.Bar.Value = 130;
+  EXPECT_TRUE(user::ScrollTo(window.Bar, 1000));
+  EXPECT_EQ(window.Bar.Value.get(), 100);
+  EXPECT_TRUE(user::ScrollTo(window.Bar, -1));
+  EXPECT_EQ(window.Bar.Value.get(), 0);
+  EXPECT_EQ(Events(), "Bar.Change Bar.Change Bar.Change");
+}
+
 TEST_F(UserInput, WindowsAreSizedMovedAndPutAway) {
   EXPECT_TRUE(user::Resize(window, 5000, 4000));
   EXPECT_EQ(Events(), "Resize");

@@ -567,7 +567,8 @@ TEST_F(PlanFile, RestoreKeepsTheScales) {
   RestorePlan(program);
   EXPECT_EQ(workspace.MaxNe, 14000);
   EXPECT_EQ(workspace.MaxSpeed, 180);
-  EXPECT_EQ(form2.HScroll1.Value.get(), 14000);
+  EXPECT_EQ(form2.HScroll1.Max.get(), 14000);
+  EXPECT_EQ(form2.HScroll1.Value.get(), 15000);
 }
 
 TEST_F(PlanFile, RestoreDoesNotAskAboutSpeedsNorRewriteItsFile) {
