@@ -3,6 +3,7 @@
 #include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
 #include "calc/plan_search.h"
+#include "mainwin/gear_panel_chart.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
@@ -151,15 +152,21 @@ void TakePlan(Program& program) {
   }
 }
 
+/// The combination panel still lists the parts of the plan before. A quick-ratio file that came before any
+/// plan has left the bars, their titles, the remark's and the legend hidden.
 void ShowPlanPanels(Form2& form2) {
-  form2.Picture1.Visible = false;
-  form2.Picture4.Visible = false;
-  form2.Label23.Visible = false;
-  form2.Picture2.Visible = true;
-  form2.Picture3.Visible = true;
-  form2.Picture12.Visible = true;
+  HideAll({&form2.Picture1, &form2.Picture4, &form2.Picture9, &form2.Label23});
+  ShowAll({&form2.Picture2, &form2.Picture3, &form2.Picture12});
   form2.Picture12.BringToFront();
-  form2.Picture15.Visible = true;
+  ShowAll({&form2.Picture15, &form2.Label13, &form2.Picture29, &form2.HScroll1, &form2.HScroll2,
+           &form2.Picture31});
+}
+
+/// No search yields a forbidden pair of 3rd and 4th gear.
+void ForgetForbiddenPair(Form2& form2) {
+  for (const int gear : {3, 4}) {
+    if (form2.Label12[gear].BackColor == kRed) form2.Label12[gear].BackColor = kLightGrey;
+  }
 }
 
 /// The chosen rows and pairs on the main window, without a refresh.
@@ -170,11 +177,12 @@ void ShowChosenRows(Program& program) {
   EnableAll({&form2.Label6, &form2.Label8, &form2.HScroll1, &form2.HScroll2, &form2.Command11});
   form2.Label6.Caption = workspace.PrimaryTable[workspace.PrimaryIndex].Text;
   form2.Label8.Caption = workspace.FinalTable[workspace.FinalIndex].Text;
-  form2.Label43.Caption = "CHG";
+  form2.Label43.Caption = kPlanShown;
   EnableRowSpins(program);
   for (int gear = 1; gear <= kGears; ++gear) {
     form2.Label12[gear].Caption = workspace.GearTable(gear, workspace.PlanIndex[gear]);
   }
+  ForgetForbiddenPair(form2);
   form2.Command11.Visible = true;
   form2.f_rest.Enabled = true;
 }
@@ -230,10 +238,20 @@ void Command2_Click(Program& program) {
   program.form4->UnloadWindow();
 }
 
+/// A quick-ratio or reference file was not followed by a plan of its own: the one before it stands, with
+/// speeds at the file's tyre length and revolutions.
+void KeepPlanAtNewConditions(Program& program) {
+  program.workspace.CallerWord = caller::kScroll;
+  RefreshDisplay(program);
+  program.workspace.CallerWord = caller::kUser;
+}
+
 /// By either button or by closing the window.
 /// Kept: a search that succeeded has emptied `ResultWord` already, so closing does not bring back `Picture1`.
 void Form4_Unload(Program& program) {
   Form2& form2 = program.form2;
+  if (program.workspace.ModeWord == mode::kReferenceInForce) KeepPlanAtNewConditions(program);
+  ShowChartOfMode(program);
   if (program.workspace.ResultWord == result::kFullAuto) form2.Picture1.Visible = true;
   form2.Picture2.Visible = true;
   form2.Picture3.Visible = true;

@@ -29,7 +29,7 @@ void Command11_Click(Program& program) {
   if (workspace.DataChanged == dirty::kYes) workspace.RemarkChanged = dirty::kYes;
   workspace.ReferenceNe = workspace.ShiftNe;
   workspace.CallerWord = caller::kTakeBaseline;
-  RefreshDisplay(program);
+  RefreshPlan(program);
   workspace.CallerWord = caller::kUser;
 }
 

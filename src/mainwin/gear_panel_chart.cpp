@@ -1,6 +1,8 @@
 #include "mainwin/gear_panel_chart.h"
 
 #include "calc/gear_chart.h"
+#include "calc/gear_speed.h"
+#include "runtime/fault.h"
 #include "view/bind.h"
 
 namespace veldrin {
@@ -32,7 +34,15 @@ void Picture9_DblClick(Program& program) {
   program.form2.Picture9.Visible = false;
 }
 
-}  // namespace
+// ---- Plan or requests ----
+
+/// While the decision panel has put another word in the place of the mode, the legend still tells it.
+bool ShowsRequests(const Program& program) {
+  const std::string& word = program.workspace.ModeWord;
+  if (word == mode::kSpeed || word == mode::kRpm || word == mode::kReferenceInForce) return true;
+  if (word == mode::kBasing || word == mode::kChange) return false;
+  return program.form2.Label43.Caption == kRequestsShown;
+}
 
 template <class Speeds>
 bool HasSpeed(const Speeds& speeds) {
@@ -42,15 +52,28 @@ bool HasSpeed(const Speeds& speeds) {
   return false;
 }
 
-// "Request Mode" stands over the chart as long as requests are entered, also while the decision panel has put
-// another word in the place of the mode. A list that was refused leaves no speeds behind, and nothing is
-// drawn.
+}  // namespace
+
+// A list that was refused leaves no speeds behind, and nothing is drawn.
 void RedrawChart(Program& program) {
-  if (program.form2.Label38.Visible) {
-    if (HasSpeed(program.workspace.SpeedRequest)) ChartRequest(program);
-  } else if (HasSpeed(program.workspace.SpeedNow)) {
-    ChartPlan(program);
-  }
+  Guarded([&] {
+    if (ShowsRequests(program)) {
+      if (HasSpeed(program.workspace.SpeedRequest)) ChartRequest(program);
+    } else if (HasSpeed(program.workspace.SpeedNow)) {
+      ChartPlan(program);
+    }
+  });
+}
+
+void ShowChartOfMode(Program& program) {
+  program.form2.Picture31.Visible = true;
+  program.form2.Label43.Caption = ShowsRequests(program) ? kRequestsShown : kPlanShown;
+  RedrawChart(program);
+}
+
+void RefreshPlan(Program& program) {
+  RefreshDisplay(program);
+  if (ShowsRequests(program)) RedrawChart(program);
 }
 
 void AttachGearPanelChart(Program& program) {

@@ -13,9 +13,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr char kPlanShown[] = "CHG";
-constexpr char kRequestsShown[] = "REQ";
-
 // ---- A: from "BASING" to "CHANGE" ----
 
 /// Kept: the label shows the lowest usable row, also where the plan stands at another one, as for a gear
@@ -31,7 +28,7 @@ void ShowFirstRows(Program& program) {
   }
 }
 
-/// The writes bring revolutions beyond the bars' ends to the ends.
+/// Revolutions beyond the bars' ends stand as they are; the thumbs then stand at the ends.
 void ShowScrollBars(Program& program) {
   const Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
@@ -44,6 +41,7 @@ void ShowScrollBars(Program& program) {
   show(form2.HScroll2, ToInt16(workspace.CheckNe));
 }
 
+/// The baseline that the first refresh takes belongs to the revolutions of that refresh.
 /// Kept: the working file is stale from here on, so refreshes never mark this plan as changed until a plan
 /// is read or saved. The refresh of this routine runs before the word is set.
 void MakeFirstPlan(Program& program) {
@@ -56,8 +54,11 @@ void MakeFirstPlan(Program& program) {
   form2.Picture12.BringToFront();
   ShowAll({&form2.Label13, &form2.Picture29});
   form2.Picture15.Visible = false;
+  // Entry by revolutions hides it, and may have been left by a load.
+  form2.Command11.Visible = true;
   EnableAll({&form2.Command11, &form2.Label6, &form2.Label8});
   EnableRowSpins(program);
+  workspace.ReferenceNe = workspace.ShiftNe;
   ShowScrollBars(program);
   RefreshDisplay(program);
   workspace.CallerWord = caller::kUser;

@@ -1,6 +1,6 @@
 #include "mainwin/gear_panel_steps.h"
 
-#include "calc/gear_speed.h"
+#include "mainwin/gear_panel_chart.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"
 #include "workspace/list_tables.h"
@@ -82,13 +82,13 @@ void Spin6_SpinUp(Program& program, int gear) {
 
 /// Label6_Change and Label8_Change.
 void Row_Change(Program& program) {
-  if (program.workspace.CallerWord != caller::kModule1) RefreshDisplay(program);
+  if (program.workspace.CallerWord != caller::kModule1) RefreshPlan(program);
 }
 
 void Label12_Change(Program& program, int) {
   Workspace& workspace = program.workspace;
   if (workspace.CallerWord == caller::kModule1) return;
-  RefreshDisplay(program);
+  RefreshPlan(program);
   if (!program.form2.Picture9.Visible) return;
   workspace.CallerWord = caller::kCombination;
   program.form2.menu_comb.Click();

@@ -166,6 +166,8 @@ void ShowPlanControls(Program& program) {
   ShowAll({&form2.Text6, &form2.Label13, &form2.Picture2, &form2.Picture3, &form2.Picture12, &form2.Picture14,
            &form2.Picture15, &form2.Picture29, &form2.HScroll1, &form2.HScroll2});
   form2.Picture3.BringToFront();
+  // Entry by revolutions, which the plan may take the place of, had hidden it.
+  form2.Command11.Visible = true;
   HideAll({&form2.Picture4, &form2.Picture9, &form2.Picture30, &form2.Label38});
   EnableAll({&form2.Label6, &form2.Label8, &form2.Command11, &form2.Command5, &form2.menu_save,
              &form2.menu_print, &form2.menu_comb, &form2.menu_edit, &form2.HScroll1, &form2.HScroll2});
@@ -200,7 +202,7 @@ void AskWhatToBelieve(Program& program) {
 void ShowPlanMode(Program& program) {
   Form2& form2 = program.form2;
   form2.Picture31.Visible = true;
-  form2.Label43.Caption = "CHG";
+  form2.Label43.Caption = kPlanShown;
   form2.Picture1.Visible = false;
   form2.Command4.Enabled = true;
   form2.f_comp.Enabled = true;

@@ -83,6 +83,10 @@ inline constexpr int kEndMark = 99;
 /// What `Label10` reads without a deviation.
 inline constexpr char kNoDeviation[] = "+-0";
 
+/// Captions of `Label43`: what the chart's solid lines show.
+inline constexpr char kPlanShown[] = "CHG";
+inline constexpr char kRequestsShown[] = "REQ";
+
 /// Captions of the buttons in `Command1`.
 inline constexpr char kAuto[] = "AUTO";
 inline constexpr char kManual[] = "MANUAL";

@@ -40,18 +40,41 @@ TEST_F(GearPanelChart, IsRedrawnAsThePlan) {
 }
 
 TEST_F(GearPanelChart, IsRedrawnAsTheRequestsWhileTheseAreEntered) {
-  program.form2.Label38.Visible = true;
-  workspace.ModeWord = mode::kSpeed;
-  RedrawChart(program);
-  EXPECT_EQ(FirstRay(), 40);
-  workspace.ModeWord = mode::kRpm;
-  RedrawChart(program);
-  EXPECT_EQ(FirstRay(), 40);
+  for (const char* word : {mode::kSpeed, mode::kRpm, mode::kReferenceInForce}) {
+    program.form2.Picture21.surface.Clear();
+    workspace.ModeWord = word;
+    RedrawChart(program);
+    EXPECT_EQ(FirstRay(), 40) << word;
+  }
 }
 
-TEST_F(GearPanelChart, StaysTheRequestsWhileALoadIsBeingDecidedOn) {
-  program.form2.Label38.Visible = true;
-  workspace.ModeWord = mode::kData;
+TEST_F(GearPanelChart, StaysAsItIsWhileALoadIsBeingDecidedOn) {
+  for (const char* word : {mode::kList, mode::kData, mode::kQuickRatio, mode::kReference}) {
+    workspace.ModeWord = word;
+    program.form2.Label43.Caption = kRequestsShown;
+    RedrawChart(program);
+    EXPECT_EQ(FirstRay(), 40) << word;
+    program.form2.Label43.Caption = kPlanShown;
+    RedrawChart(program);
+    EXPECT_EQ(FirstRay(), 20) << word;
+  }
+}
+
+TEST_F(GearPanelChart, LegendFollowsTheMode) {
+  workspace.ModeWord = mode::kReferenceInForce;
+  ShowChartOfMode(program);
+  EXPECT_EQ(program.form2.Label43.Caption.get(), "REQ");
+  EXPECT_EQ(FirstRay(), 40);
+  workspace.ModeWord = mode::kChange;
+  ShowChartOfMode(program);
+  EXPECT_EQ(program.form2.Label43.Caption.get(), "CHG");
+  EXPECT_EQ(FirstRay(), 20);
+  EXPECT_TRUE(program.form2.Picture31.Visible);
+}
+
+TEST_F(GearPanelChart, RequestsThatCannotBeDrawnEndNothing) {
+  workspace.ModeWord = mode::kSpeed;
+  workspace.SpeedRequest[3] = 0;
   RedrawChart(program);
   EXPECT_EQ(FirstRay(), 40);
 }
