@@ -1,7 +1,6 @@
 #include "mainwin/gear_panel_boxes.h"
 
-#include "calc/gear_chart.h"
-#include "calc/gear_speed.h"
+#include "mainwin/gear_panel_chart.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"
@@ -28,7 +27,7 @@ constexpr NumberRange kTyreLength{1.0, 3.0};      // metres
 
 void RefreshForScroll(Program& program) {
   program.workspace.CallerWord = caller::kScroll;
-  RefreshDisplay(program);
+  RefreshPlan(program);
   program.workspace.CallerWord = caller::kUser;
 }
 
@@ -65,23 +64,41 @@ std::optional<double> NumberOf(const Workspace& workspace, const std::string& te
   return number;
 }
 
+void Refuse(Program& program, TextBox& box) {
+  program.machine.sound.Beep();
+  box.Text = "";
+}
+
 /// The number of a box. One with letters or outside the range is refused by a beep and an emptied box.
-/// Kept: an empty box and a text that is no number end the program, and so does leaving a box that a refusal
-/// or a double click has emptied.
+/// Kept: a text that is no number ends the program.
 std::optional<double> ValidNumber(Program& program, TextBox& box, const std::string& text,
                                   const NumberRange& range) {
   if (!HasLetter(text)) {
     const std::optional<double> number = NumberOf(program.workspace, text);
     if (number && *number >= range.lowest && *number <= range.highest) return number;
   }
-  program.machine.sound.Beep();
-  box.Text = "";
+  Refuse(program, box);
+  return std::nullopt;
+}
+
+/// Kept: an empty box is a text without a number like any other, so leaving one that a refusal or a double
+/// click has emptied ends the program.
+std::optional<double> ValidRevolutions(Program& program, TextBox& box) {
+  return ValidNumber(program, box, box.Text, kRevolutions);
+}
+
+/// An empty box is refused as well.
+std::optional<double> ValidTyreLength(Program& program, TextBox& box) {
+  if (!box.Text.get().empty()) {
+    return ValidNumber(program, box, FixDecimal(program.workspace, box.Text), kTyreLength);
+  }
+  Refuse(program, box);
   return std::nullopt;
 }
 
 void ValidateCheckNe(Program& program) {
   Form2& form2 = program.form2;
-  const auto number = ValidNumber(program, form2.Text2, form2.Text2.Text, kRevolutions);
+  const auto number = ValidRevolutions(program, form2.Text2);
   if (!number) return;
   const std::int16_t revolutions = ToInt16(*number);
   program.workspace.CheckNe = revolutions;
@@ -90,7 +107,7 @@ void ValidateCheckNe(Program& program) {
 
 void ValidateShiftNe(Program& program) {
   Form2& form2 = program.form2;
-  const auto number = ValidNumber(program, form2.Text4, form2.Text4.Text, kRevolutions);
+  const auto number = ValidRevolutions(program, form2.Text4);
   if (!number) return;
   program.workspace.ShiftNe = ToInt16(*number);
   form2.HScroll1.Value = program.workspace.ShiftNe;
@@ -100,22 +117,18 @@ void ValidateShiftNe(Program& program) {
 void ValidateTyreLength(Program& program) {
   Workspace& workspace = program.workspace;
   TextBox& box = program.form2.Text3;
-  const auto number = ValidNumber(program, box, FixDecimal(workspace, box.Text), kTyreLength);
+  const auto number = ValidTyreLength(program, box);
   if (!number) return;
   workspace.TyreLength = ToSingle(*number);
   workspace.CallerWord = caller::kUser;
   box.Text = SingleText(workspace, workspace.TyreLength);
-  RefreshDisplay(program);
+  RefreshPlan(program);
 }
 
-/// A reader that hides the panel takes the focus away as well; that is no leaving of the box. Opening the
-/// requests does so too, and their chart is to stand behind the refresh that validates the box.
+/// A reader that hides the panel takes the focus away as well; that is no leaving of the box.
 template <void (*validate)(Program&)>
 void Box_LostFocus(Program& program) {
-  const Workspace& workspace = program.workspace;
-  if (workspace.CallerWord == caller::kModule1) return;
-  validate(program);
-  if (workspace.ModeWord == mode::kSpeed || workspace.ModeWord == mode::kRpm) ChartRequest(program);
+  if (program.workspace.CallerWord != caller::kModule1) validate(program);
 }
 
 void Text2_DblClick(Program& program) {
