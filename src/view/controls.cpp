@@ -20,13 +20,15 @@ void FireChange(Control& control) {
   As<Kind>(control).Change();
 }
 
+/// A panel's surface is as large as the panel.
+void KeepUpSurface(Control& control) {
+  if (control.kind != ControlKind::Picture) return;
+  auto& picture = As<Picture>(control);
+  picture.surface.SetSize(picture.Width, picture.Height);
+}
+
 void SizeChanged(Control& control) {
-  if (control.kind == ControlKind::Window) {
-    As<Window>(control).Resize();
-  } else if (control.kind == ControlKind::Picture) {
-    auto& picture = As<Picture>(control);
-    picture.surface.SetSize(picture.Width, picture.Height);
-  }
+  if (control.kind == ControlKind::Window) As<Window>(control).Resize();
 }
 
 void OptionChanged(Control& control) {
@@ -40,7 +42,7 @@ void OptionChanged(Control& control) {
   option.Click();
 }
 
-void GridShapeChanged(Control& control) {
+void KeepUpShape(Control& control) {
   As<Grid>(control).Shape();
 }
 
@@ -140,8 +142,8 @@ PlacedControl::PlacedControl(ControlKind kind, const char* name, Control& parent
     : Control(kind, name, parent, look),
       Left(*this, "Left", place.left),
       Top(*this, "Top", place.top),
-      Width(*this, "Width", place.width, SizeChanged),
-      Height(*this, "Height", place.height, SizeChanged) {
+      Width(*this, "Width", place.width, SizeChanged, nullptr, KeepUpSurface),
+      Height(*this, "Height", place.height, SizeChanged, nullptr, KeepUpSurface) {
   HavePlaced();
 }
 
@@ -149,8 +151,8 @@ PlacedControl::PlacedControl(const char* name, const Place& place, const Look& l
     : Control(name, look),
       Left(*this, "Left", place.left),
       Top(*this, "Top", place.top),
-      Width(*this, "Width", place.width, SizeChanged),
-      Height(*this, "Height", place.height, SizeChanged) {
+      Width(*this, "Width", place.width, SizeChanged, nullptr, KeepUpSurface),
+      Height(*this, "Height", place.height, SizeChanged, nullptr, KeepUpSurface) {
   HavePlaced();
 }
 
@@ -235,8 +237,8 @@ Line::Line(const char* name, Control& parent, float x1, float y1, float x2, floa
 
 Grid::Grid(const char* name, Control& parent, const Place& place, const Look& look)
     : FocusControl(ControlKind::Grid, name, parent, place, look),
-      Cols(*this, "Cols", 1, GridShapeChanged),
-      Rows(*this, "Rows", 1, GridShapeChanged) {
+      Cols(*this, "Cols", 1, nullptr, nullptr, KeepUpShape),
+      Rows(*this, "Rows", 1, nullptr, nullptr, KeepUpShape) {
   Have(Cols, Rows);
   Shape();
 }

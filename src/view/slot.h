@@ -1,9 +1,11 @@
 // Slots: the values of a control that read like values and are written like them.
 //
 // A write goes in this order: the control may hold the value within its bounds (a list its ListIndex, a
-// folder box its Path); the slot takes it; whoever shows the window is told; and, only when the value differs
-// from before, the control reacts, which is where change events are fired. All of it happens inside the
-// assignment, so an event's handler runs before the next statement of the writer.
+// folder box its Path); the slot takes it; the control keeps up what it has besides its slots (a panel the
+// size of its surface); whoever shows the window is told, and so sees the control as it is from now on; and,
+// only when the value differs from before, the control reacts, which is where other slots follow and change
+// events are fired. All of it happens inside the assignment, so an event's handler runs before the next
+// statement of the writer.
 #pragma once
 
 #include "platform/colour.h"
@@ -26,9 +28,16 @@ class Slot {
  public:
   using Hold = T (*)(Control&, const T&);
   using React = void (*)(Control&);
+  using KeepUp = void (*)(Control&);
 
-  Slot(Control& control, const char* name, T atDesign, React react = nullptr, Hold hold = nullptr)
-      : control_(&control), name_(name), value_(std::move(atDesign)), react_(react), hold_(hold) {}
+  Slot(Control& control, const char* name, T atDesign, React react = nullptr, Hold hold = nullptr,
+       KeepUp keepUp = nullptr)
+      : control_(&control),
+        name_(name),
+        value_(std::move(atDesign)),
+        react_(react),
+        hold_(hold),
+        keepUp_(keepUp) {}
   Slot(const Slot&) = delete;
 
   Slot& operator=(const T& value) {
@@ -47,6 +56,7 @@ class Slot {
   bool Put(const T& value) {
     const bool changed = !(value == value_);
     if (changed) value_ = value;
+    if (changed && keepUp_) keepUp_(*control_);
     TellWritten(*control_, name_, changed);
     return changed;
   }
@@ -60,6 +70,7 @@ class Slot {
   T value_;
   React react_;
   Hold hold_;
+  KeepUp keepUp_;
 };
 
 inline bool operator==(const Slot<std::string>& slot, std::string_view text) {

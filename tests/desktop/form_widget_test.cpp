@@ -1,10 +1,8 @@
 #include "desktop/dropped_file.h"
 #include "desktop/placement.h"
 #include "desktop/shown_check.h"
-#include "program/assemble.h"
 #include "program/event_boundary.h"
-#include "tests/desktop/sample_files.h"
-#include "tests/desktop/test_window.h"
+#include "tests/desktop/main_window.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -463,26 +461,12 @@ TEST(CornerInReach, BringsOthersOntoTheNearestScreen) {
 
 // ---- files that are dropped on the main window ----
 
-/// The program's own main window with a plan in it, on widgets.
-class DropTest : public ::testing::Test {
+class DropTest : public MainWindowTest {
  protected:
   DropTest() {
-    stage.servesTimers = false;
-    simulated.files.AddFile("C:\\VELDRIN\\LIST\\NX4.RAT", kSampleList);
-    simulated.files.AddFile("C:\\VELDRIN\\DAT\\A.nx4", kSamplePlan);
-    stage.input.Serve(program.get());
     stage.fileDropped = [this](const std::string& path) { opened.push_back(path); };
-    StartProgram(*program, "");
-    simulated.clock.Advance(100, [&](TimerControl& timer) { RunEvent(*program, [&] { timer.Timer(); }); });
-    RunEvent(*program, [&] { OpenDroppedFile(*program, "C:\\VELDRIN\\DAT\\A.nx4"); });
-    windows.Settle();
-    QCoreApplication::processEvents();
   }
 
-  ~DropTest() override { TakeDown(simulated, stage, windows); }
-
-  FormWidget& Widget() { return *windows.FormOf(program->form2); }
-  QWidget& WidgetOf(const Control& control) { return *Widget().ViewOf(control)->Widget(); }
   QWidget& Remark() { return *dynamic_cast<QAbstractScrollArea&>(WidgetOf(program->form2.Text6)).viewport(); }
 
   static QMimeData* Files(const QList<QUrl>& urls) {
@@ -510,12 +494,6 @@ class DropTest : public ::testing::Test {
     return event.isAccepted();
   }
 
-  SimulatedMachine simulated;
-  Stage stage;
-  DesktopWindows windows{stage};
-  ScriptWindows scriptWindows{simulated.windows, windows};
-  Machine machine = MachineWith(simulated, scriptWindows);
-  std::unique_ptr<Program> program = AssembleProgram(machine);
   std::unique_ptr<QMimeData> file{Files({QUrl::fromLocalFile("/tmp/a.nx4")})};
   std::unique_ptr<QMimeData> files{
       Files({QUrl::fromLocalFile("/tmp/a.nx4"), QUrl::fromLocalFile("/tmp/b.nx4")})};
