@@ -77,7 +77,7 @@ struct Form2 : Window {
   Picture    Picture13{"Picture13", *this,     { 120,    0, 4935,  975}, kPanel};
   Button     Command2 {"Command2",  Picture13, {  45,   60,  990,  375}, {.caption = "Mode"}};
   Button     Command3 {"Command3",  Picture13, {  45,  540,  990,  375}, {.caption = "Load"}};
-  Picture    Picture28{"Picture28", Picture13, {2160,  120,  720,  720}, {.border = true, .spoken = "Print"}};
+  Picture    Picture28{"Picture28", Picture13, {2160,  120,  720,  720}, {.back = kDarkBlue, .border = true, .spoken = "Print"}};
   Label      Label5   {"Label5",    Picture13, {2895,  135,  735,  225}, Titled("Primary", kTitle)};
   Label      Label6   {"Label6",    Picture13, {3660,  105,  810,  300}, kRow};
   SpinButton Spin4    {"Spin4",     Picture13, {4515,   75,  300,  360}, kGreyArrows};
@@ -215,7 +215,7 @@ struct Form2 : Window {
   ControlArray<Label> Label33{1, 6, Elements<Label>("Label33", Picture9, GearColumn(2760, 1065, 285), kPart)};
 
   // Lists to pick from, and the question of the decision panel.
-  ControlArray<Picture> Picture23{1, 6, Elements<Picture>("Picture23", *this, GearColumn(4880, 465, 380, 1260), {.border = true, .visible = false})};
+  ControlArray<Picture> Picture23{1, 6, Elements<Picture>("Picture23", *this, GearColumn(4880, 465, 380, 1260), {.back = kDarkBlue, .border = true, .visible = false})};
   ControlArray<Grid> Grid2{1, 6, [this](int gear) { return std::make_unique<Grid>("Grid2", Picture23[gear], Place{0, 0, 435, 350}, kBox); }};
   Picture Picture24    {"Picture24",     *this,     {3780,  900, 1155, 3250}, kHiddenPanel};
   Grid    Grid1        {"Grid1",         Picture24, {   0,    0, 1155, 3250}, kBox};
