@@ -37,6 +37,7 @@ ComboWidget::ComboWidget(Control& control, Stage& stage, QWidget* parent)
     setModel(new EntryModel(this));
     setEditable(true);
     setCompleter(nullptr);
+    lineEdit()->installEventFilter(this);
     // When editing ends, Qt picks the entry that the text is the same as; the user has picked nothing.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     connect(lineEdit(), &QLineEdit::textEdited, this, &ComboWidget::EnterText);
@@ -155,6 +156,16 @@ void ComboWidget::paintEvent(QPaintEvent* event) {
 
 void ComboWidget::OfferText() {
   if (isEditable()) lineEdit()->selectAll();
+}
+
+/// The line takes the pointer's presses itself. The focus comes first, as to every control; the press puts
+/// the cursor where it met the text.
+bool ComboWidget::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress && control_ != nullptr &&
+      !Do([control = control_] { return user::Focus(*control); })) {
+    return true;
+  }
+  return ControlWidget::eventFilter(watched, event);
 }
 
 void ComboWidget::focusInEvent(QFocusEvent* event) {

@@ -23,6 +23,7 @@ class ComboWidget : public ControlWidget<QComboBox> {
   void TakeFont() override;
   void TakeColours() override;
   void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 

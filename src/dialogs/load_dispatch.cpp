@@ -40,7 +40,7 @@ void OpenListChooser(Program& program) {
   SetTitle(program, ChooserRole::LoadList);
   SetUpChooserBoxes(program, {kListPattern}, program.workspace.ListPath);
   OfferCancel(program);
-  program.form3.ShowModal();
+  ShowChooser(program, program.form3.File1);
 }
 
 void OpenDataChooser(Program& program) {
@@ -49,7 +49,7 @@ void OpenDataChooser(Program& program) {
   SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);
   OfferCancel(program);
   program.form3.Command3.Visible = false;
-  program.form3.ShowModal();
+  ShowChooser(program, program.form3.File1);
 }
 
 void OpenQuickRatioChooser(Program& program) {
@@ -57,7 +57,7 @@ void OpenQuickRatioChooser(Program& program) {
   SetTitle(program, ChooserRole::QuickRatio);
   SetUpChooserBoxes(program, {kAnyPattern}, program.workspace.DataPath);
   ShowChooserPrompt(program, 10);
-  program.form3.ShowModal();
+  ShowChooser(program, program.form3.File1);
 }
 
 void OpenReferenceChooser(Program& program) {
@@ -67,14 +67,14 @@ void OpenReferenceChooser(Program& program) {
   OfferCancel(program);
   program.form3.Command3.Visible = false;
   ShowChooserPrompt(program, 28);
-  program.form3.ShowModal();
+  ShowChooser(program, program.form3.File1);
 }
 
 void OpenSaveChooser(Program& program) {
   SetTitle(program, ChooserRole::Save);
   SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);
   OfferCancel(program);
-  program.form3.ShowModal();
+  ShowChooser(program, program.form3.Combo1);
 }
 
 void OpenDeleteChooser(Program& program) {
@@ -82,7 +82,7 @@ void OpenDeleteChooser(Program& program) {
   SetUpChooserBoxes(program, {DataPattern(program.workspace)}, program.workspace.DataPath);
   program.form3.Command2.Caption = "CANCEL";
   program.form3.Command1.Caption = "Delete";
-  program.form3.ShowModal();
+  ShowChooser(program, program.form3.Combo1);
 }
 
 void AttachLoadDispatch(Program& program) {

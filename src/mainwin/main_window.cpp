@@ -3,6 +3,7 @@
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/chooser_setup.h"
 #include "workspace/control_states.h"
 #include "workspace/language.h"
 #include "workspace/paths.h"
@@ -105,7 +106,7 @@ void Form2_Unload(Program& program) {
 /// Lets the chooser come up again from outside its own OK.
 void Timer2_Timer(Program& program) {
   program.form2.Timer2.Enabled = false;
-  program.form3.ShowModal();
+  ShowChooser(program, program.form3.File1);
 }
 
 void Timer3_Timer(Program& program) {

@@ -38,4 +38,9 @@ void OfferCancel(Program& program) {
   program.form3.Command2.Enabled = true;
 }
 
+void ShowChooser(Program& program, Control& hands) {
+  SetFocus(hands);
+  program.form3.ShowModal();
+}
+
 }  // namespace veldrin

@@ -26,4 +26,9 @@ void ShowChooserPrompt(Program& program, int message);
 /// `Command2` reads "CANCEL" and can be pressed.
 void OfferCancel(Program& program);
 
+/// Shows the chooser modally, with the focus on the box that the user's hands are at in its role: `Combo1`
+/// where a name is typed, `File1` where a file is picked. Returns when the chooser hides; at once where it is
+/// up already and has only taken another role.
+void ShowChooser(Program& program, Control& hands);
+
 }  // namespace veldrin

@@ -1,5 +1,6 @@
 #include "workspace/history_reopen.h"
 
+#include "workspace/chooser_setup.h"
 #include "workspace/control_states.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
@@ -33,7 +34,7 @@ void OpenBesideChooser(Program& program, const std::string& path) {
   Guarded([&] { box.Path = BoxFolder(files, path); });
   Guarded([&] { box.FileName = LastPartOf(files.Rules(), path); });
   OpenAnyFile(program, path);
-  if (workspace.ResultWord == result::kNotGood) program.form3.ShowModal();
+  if (workspace.ResultWord == result::kNotGood) ShowChooser(program, program.form3.File1);
   workspace.CallerWord = caller::kUser;
 }
 

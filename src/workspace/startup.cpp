@@ -83,10 +83,10 @@ void SetUpDataChooser(Program& program) {
 }
 
 /// Sets the chooser up and shows it until it hides, so that what the opener wrote on it stays.
-void ShowChooser(Program& program, void (*setUp)(Program&)) {
+void ShowChooserAtStart(Program& program, void (*setUp)(Program&)) {
   program.workspace.CallerWord = caller::kForm1Timer;
   setUp(program);
-  program.form3.ShowModal();
+  ShowChooser(program, program.form3.File1);
   program.workspace.CallerWord = caller::kUser;
 }
 
@@ -100,7 +100,7 @@ void StartWithoutFile(Program& program, bool machineLoaded) {
     HandOverToMainWindow(program);
     return;
   }
-  ShowChooser(program, SetUpListChooser);
+  ShowChooserAtStart(program, SetUpListChooser);
   program.form1.UnloadWindow();
 }
 
@@ -110,7 +110,7 @@ void StartWithFile(Program& program, bool machineLoaded) {
   OpenAnyFile(program, std::string(workspace.CommandFile));
   if (machineLoaded && workspace.ResultWord == result::kNotGood) {
     HandOverToMainWindow(program);
-    ShowChooser(program, SetUpDataChooser);
+    ShowChooserAtStart(program, SetUpDataChooser);
   } else if (!machineLoaded && workspace.ResultWord == result::kOk) {
     HandOverToMainWindow(program);
   } else {
@@ -141,7 +141,7 @@ void SecondTick(Program& program) {
     // Kept: no list was loaded, so the plan is read against empty tables and refused.
     OpenAnyFile(program, file);
     program.form1.UnloadWindow();
-    ShowChooser(program, SetUpListChooser);
+    ShowChooserAtStart(program, SetUpListChooser);
   } else if (word == result::kAnother) {
     const PathRules rules = program.machine.files.Rules();
     OpenAnyFile(program, JoinPath(rules, workspace.ListPath, workspace.MachineName + ".RAT"));
@@ -151,7 +151,7 @@ void SecondTick(Program& program) {
     HandOverToMainWindow(program);
   } else {
     // Kept: a plan whose speeds differ was read, and the list chooser comes up all the same.
-    ShowChooser(program, SetUpListChooser);
+    ShowChooserAtStart(program, SetUpListChooser);
     program.form1.UnloadWindow();
   }
 }

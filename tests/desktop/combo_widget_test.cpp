@@ -31,6 +31,35 @@ class ComboWidgetTest : public WidgetsTest {
   long Count(const std::string& event) const { return std::count(events.begin(), events.end(), event); }
 };
 
+TEST_F(ComboWidgetTest, AClickIntoTheTextGivesTheFocusAndTheCursor) {
+  Type("abcd");
+  FocusOn(form->Command1);
+  events.clear();
+  ASSERT_FALSE(Line().hasFocus());
+  Line().setCursorPosition(2);
+  const QPoint behindTwo = Line().inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+  Line().setCursorPosition(0);
+  Mouse(Line(), QEvent::MouseButtonPress, behindTwo);
+  Mouse(Line(), QEvent::MouseButtonRelease, behindTwo);
+  EXPECT_EQ(form->focus, &form->Combo1);
+  EXPECT_TRUE(Combo().hasFocus());
+  EXPECT_EQ(events, (Events{"Command1.LostFocus", "Combo1.GotFocus"}));
+  EXPECT_FALSE(Line().hasSelectedText());
+  EXPECT_EQ(Line().cursorPosition(), 2);
+  Type("x");
+  EXPECT_EQ(Text(), "abxcd");
+}
+
+TEST_F(ComboWidgetTest, AClickIntoTheTextOfAWindowThatDoesNotAnswerDoesNothing) {
+  Type("abcd");
+  FocusOn(form->Command1);
+  form->Enabled = false;
+  Mouse(Line(), QEvent::MouseButtonPress, QPoint(1, 5));
+  Mouse(Line(), QEvent::MouseButtonRelease, QPoint(1, 5));
+  EXPECT_EQ(form->focus, &form->Command1);
+  form->Enabled = true;
+}
+
 TEST_F(ComboWidgetTest, TypingInTheMiddleStaysThere) {
   Type("abcd");
   Line().setCursorPosition(1);
