@@ -4,7 +4,7 @@
 #pragma once
 
 #include "desktop/real_boxes.h"
-#include "desktop/real_code_pages.h"
+#include "platform/system_code_pages.h"
 #include "desktop/real_files.h"
 #include "desktop/real_instances.h"
 #include "desktop/real_pictures.h"

@@ -135,10 +135,20 @@ std::optional<std::string> EncodeWestern(std::string_view text) {
   return bytes;
 }
 
+std::optional<std::string> DecodeInPage(const CodePages& pages, int page, std::string_view bytes) {
+  if (page == kUtf8Page) {
+    if (!IsValidUtf8(bytes)) return std::nullopt;
+    return std::string(bytes.substr(bytes.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0));
+  }
+  if (page == kWesternPage) return DecodeWestern(bytes);
+  if (!pages.decode) return std::nullopt;
+  return pages.decode(page, bytes);
+}
+
 std::string TextEncoding::Decode(const std::string& path, std::string_view bytes) {
   const Form form = FormOf(bytes);
   forms_[Folded(path)] = form;
-  return DecodeForm(form, bytes);
+  return DecodeInPage(pages_, form.page, bytes).value_or(std::string());
 }
 
 std::string TextEncoding::Encode(const std::string& path, std::string_view text) const {
@@ -148,7 +158,7 @@ std::string TextEncoding::Encode(const std::string& path, std::string_view text)
   // A page serves only when the bytes read back the same: not for a character that has but a likeness in it,
   // nor for bytes that would pass for UTF-8.
   const std::optional<std::string> bytes = EncodePage(form.page, text);
-  if (bytes && DecodeForm(FormOf(*bytes), *bytes) == text) return *bytes;
+  if (bytes && DecodeInPage(pages_, FormOf(*bytes).page, *bytes) == text) return *bytes;
   if (pages_.systemPage == kUtf8Page) return std::string(text);
   return EncodeWithGaps(pages_.systemPage, text);
 }
@@ -158,25 +168,13 @@ TextEncoding::Form TextEncoding::FormOf(std::string_view bytes) const {
     return {kUtf8Page, bytes.starts_with(kByteOrderMark)};
   const int foreign = pages_.japanese ? kJapanesePage : kWesternPage;
   const int page = pages_.systemPage == kUtf8Page ? foreign : pages_.systemPage;
-  return {DecodePage(page, bytes) ? page : kWesternPage, false};
-}
-
-std::optional<std::string> TextEncoding::DecodePage(int page, std::string_view bytes) const {
-  if (page == kWesternPage) return DecodeWestern(bytes);
-  if (!pages_.decode) return std::nullopt;
-  return pages_.decode(page, bytes);
+  return {DecodeInPage(pages_, page, bytes) ? page : kWesternPage, false};
 }
 
 std::optional<std::string> TextEncoding::EncodePage(int page, std::string_view text) const {
   if (page == kWesternPage) return EncodeWestern(text);
   if (!pages_.encode) return std::nullopt;
   return pages_.encode(page, text);
-}
-
-std::string TextEncoding::DecodeForm(Form form, std::string_view bytes) const {
-  if (form.mark) bytes.remove_prefix(kByteOrderMark.size());
-  if (form.page == kUtf8Page) return std::string(bytes);
-  return DecodePage(form.page, bytes).value_or(std::string());
 }
 
 std::string TextEncoding::EncodeWithGaps(int page, std::string_view text) const {

@@ -44,6 +44,10 @@ std::string DecodeWestern(std::string_view bytes);
 /// UTF-8 in code page 1252; nothing when a character is not in it or `text` is no UTF-8.
 std::optional<std::string> EncodeWestern(std::string_view text);
 
+/// `bytes` of `page` as UTF-8, a byte order mark of UTF-8 left out; nothing when they are no text of the
+/// page, or the page is unknown.
+std::optional<std::string> DecodeInPage(const CodePages& pages, int page, std::string_view bytes);
+
 /// Texts on their way from and to the disk. Raises nothing.
 class TextEncoding {
  public:
@@ -64,9 +68,7 @@ class TextEncoding {
   };
 
   Form FormOf(std::string_view bytes) const;
-  std::optional<std::string> DecodePage(int page, std::string_view bytes) const;
   std::optional<std::string> EncodePage(int page, std::string_view text) const;
-  std::string DecodeForm(Form form, std::string_view bytes) const;
   std::string EncodeWithGaps(int page, std::string_view text) const;
 
   CodePages pages_;

@@ -1,6 +1,6 @@
 #include "desktop/real_files.h"
 
-#include "desktop/real_code_pages.h"
+#include "platform/system_code_pages.h"
 #include "runtime/fault.h"
 #include "tests/desktop/child_process.h"
 #include "tests/desktop/scratch_folder.h"

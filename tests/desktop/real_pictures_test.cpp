@@ -1,6 +1,6 @@
 #include "desktop/real_pictures.h"
 
-#include "desktop/real_code_pages.h"
+#include "platform/system_code_pages.h"
 #include "runtime/fault.h"
 
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #include "desktop/real_shell.h"
 
-#include "desktop/real_code_pages.h"
 #include "desktop/real_files.h"
+#include "platform/system_code_pages.h"
 #include "runtime/fault.h"
 #include "tests/desktop/scratch_folder.h"
 

@@ -1,7 +1,7 @@
 #include "desktop/real_sound.h"
 
-#include "desktop/real_code_pages.h"
 #include "desktop/real_files.h"
+#include "platform/system_code_pages.h"
 #include "tests/desktop/scratch_folder.h"
 
 #include <QDir>

@@ -246,5 +246,17 @@ TEST(TextEncoding, MachineWithoutConversionsStillReadsEverything) {
   EXPECT_EQ(encoding.Encode(kPath, text), kRainBytes);
 }
 
+TEST(DecodeInPage, TakesThePageByItsWord) {
+  const CodePages pages = Pages(kWesternPage, false);
+  EXPECT_EQ(DecodeInPage(pages, kJapanesePage, kRainBytes), kRain);
+  EXPECT_EQ(DecodeInPage(pages, kUtf8Page, kRain), kRain);
+  EXPECT_EQ(DecodeInPage(pages, kUtf8Page, std::string("\xEF\xBB\xBF") + kRain), kRain);
+  EXPECT_EQ(DecodeInPage(pages, kUtf8Page, kRainBytes), std::nullopt);
+  EXPECT_EQ(DecodeInPage(pages, kWesternPage, "caf\xE9"), "café");
+  EXPECT_EQ(DecodeInPage(pages, kJapanesePage, "\xFF"), std::nullopt);
+  EXPECT_EQ(DecodeInPage(pages, 437, "a"), std::nullopt) << "a page that the machine does not know";
+  EXPECT_EQ(DecodeInPage(CodePages(), kJapanesePage, "a"), std::nullopt) << "a machine that converts nothing";
+}
+
 }  // namespace
 }  // namespace veldrin

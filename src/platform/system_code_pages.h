@@ -1,4 +1,5 @@
-// What the system knows of code pages: Windows by its own conversions, the others by iconv.
+// What the system knows of code pages: Windows by its own conversions, the others by iconv, where there is
+// one.
 #pragma once
 
 #include "platform/text_encoding.h"

@@ -1,12 +1,13 @@
-#include "desktop/real_code_pages.h"
+#include "platform/system_code_pages.h"
+
+#include <array>
 
 #ifdef _WIN32
 #include <windows.h>
-#else
+#elif __has_include(<iconv.h>)
 #include <iconv.h>
+#define VELDRIN_ICONV
 #endif
-
-#include <array>
 
 namespace veldrin {
 
@@ -51,11 +52,7 @@ std::optional<std::string> EncodePage(int page, std::string_view text) {
   return FromWide(static_cast<UINT>(page), *wide);
 }
 
-int SystemPage() {
-  return static_cast<int>(GetACP());
-}
-
-#else
+#elif defined(VELDRIN_ICONV)
 
 /// A conversion of the C library.
 class Conversion {
@@ -105,11 +102,25 @@ std::optional<std::string> EncodePage(int page, std::string_view text) {
   return Conversion(NameOf(page), "UTF-8").Convert(text);
 }
 
-int SystemPage() {
-  return kUtf8Page;
+#else
+
+std::optional<std::string> DecodePage(int /*page*/, std::string_view /*bytes*/) {
+  return std::nullopt;
+}
+
+std::optional<std::string> EncodePage(int /*page*/, std::string_view /*text*/) {
+  return std::nullopt;
 }
 
 #endif
+
+int SystemPage() {
+#ifdef _WIN32
+  return static_cast<int>(GetACP());
+#else
+  return kUtf8Page;
+#endif
+}
 
 }  // namespace
 
