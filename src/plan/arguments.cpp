@@ -1,13 +1,16 @@
 #include "plan/arguments.h"
 
 #include "plan/list_remarks.h"
+#include "platform/text_encoding.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
+#include "runtime/text.h"
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
 #include <map>
+#include <string_view>
 
 namespace veldrin {
 
@@ -32,6 +35,10 @@ double Number(const std::string& option, const std::string& text, double lowest,
            ShortestText(highest));
   }
   return value;
+}
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
 }
 
 int WholeNumber(const std::string& option, const std::string& text, int lowest, int highest) {
@@ -96,6 +103,20 @@ void ReadFormat(const std::string& text, PlanArguments& result) {
   }
 }
 
+/// utf-8, or cpN with the number of a code page.
+void ReadEncoding(const std::string& text, PlanArguments& result) {
+  constexpr int kHighestPage = 65535;
+  const std::string name = LowerCase(text);
+  int page = 0;
+  if (name == "utf-8" || name == "utf8") {
+    page = kUtf8Page;
+  } else if (name.starts_with("cp") && std::all_of(name.begin() + 2, name.end(), IsDigit)) {
+    Guarded([&] { page = ParseInt32(name.substr(2)); });
+  }
+  if (page < 1 || page > kHighestPage) Refuse("--encoding: " + Quoted(text) + " is neither utf-8 nor cpN");
+  result.page = page;
+}
+
 using Reader = std::function<void(const std::string& text, PlanArguments& result)>;
 
 /// The options that take a value.
@@ -104,6 +125,7 @@ const std::map<std::string, Reader>& Readers() {
       {"--speed", ReadSpeeds},
       {"--manual", ReadManual},
       {"--format", ReadFormat},
+      {"--encoding", ReadEncoding},
       {"--main", [](const std::string& text,
                     PlanArguments& result) { result.mainGear = WholeNumber("--main", text, 1, kGears); }},
       {"--min-plan",
@@ -121,6 +143,8 @@ const std::map<std::string, Reader>& Readers() {
   };
   return readers;
 }
+
+constexpr std::string_view kCheckFile = "--check=";
 
 /// Reads the words one by one and keeps which options were given.
 class ArgumentReader {
@@ -141,9 +165,7 @@ class ArgumentReader {
 
   void ReadWord(const std::string& word) {
     if (onlyPaths_ || !word.starts_with("-")) {
-      if (!result_.listPath.empty()) Refuse("a second list, " + Quoted(word));
-      if (word.empty()) Refuse("the list's name is empty");
-      result_.listPath = word;
+      TakeList(word);
     } else if (word == "--") {
       onlyPaths_ = true;
     } else if (word == "--help" || word == "-h") {
@@ -152,15 +174,25 @@ class ArgumentReader {
       result_.action = PlanAction::Version;
     } else if (word == "--check") {
       result_.action = PlanAction::Check;
+    } else if (word.starts_with(kCheckFile)) {
+      result_.action = PlanAction::Check;
+      TakeList(word.substr(kCheckFile.size()));
     } else {
       ReadOption(word);
     }
+  }
+
+  void TakeList(const std::string& path) {
+    if (!result_.listPath.empty()) Refuse("a second list, " + Quoted(path));
+    if (path.empty()) Refuse("the list's name is empty");
+    result_.listPath = path;
   }
 
   /// "--option value" or "--option=value".
   void ReadOption(const std::string& word) {
     const std::size_t equals = word.find('=');
     const std::string option = word.substr(0, equals);
+    if (option == "--help" || option == "--version") Refuse(option + " takes no value");
     const auto found = Readers().find(option);
     if (found == Readers().end()) Refuse("unknown option " + Quoted(option) + "; --help tells all");
     const bool isGiven = std::find(given_.begin(), given_.end(), option) != given_.end();
@@ -183,7 +215,9 @@ class ArgumentReader {
     if (IsToldApart()) return;
     if (result_.listPath.empty()) Refuse("no list is named; --help tells more");
     if (result_.action == PlanAction::Check) {
-      if (!given_.empty()) Refuse("--check and " + given_.front() + " do not go together");
+      for (const std::string& option : given_) {
+        if (option != "--encoding") Refuse("--check and " + option + " do not go together");
+      }
       return;
     }
     if (!IsGiven("--speed")) Refuse("--speed is missing; --help tells more");

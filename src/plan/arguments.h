@@ -29,6 +29,7 @@ struct PlanArguments {
   std::optional<float> tyreLength;
   std::int16_t minPlan = 1;
   PlanFormat format = PlanFormat::Table;
+  std::optional<int> page;  // code page of the list; nothing for what the system says
 
   bool HasManual() const;
 };

@@ -22,10 +22,14 @@ inline constexpr char kPlanHelp[] =
                       csv: one line for each gear of each plan, with the columns plan, primary, final, gear,
                       pair, request, speed, step, ne_after; the last two are empty in gear 1
                       json: one object; what gear 1 does not have is null
+  --encoding NAME     how the list is written: utf-8, or cpN with the number of a code page, such as cp932 or
+                      cp1252. Default what the windows take: the system's code page; where that is UTF-8,
+                      UTF-8 and, for what is none, cp932 on a Japanese system and cp1252 elsewhere
   --check LIST.RAT    reads a list strictly and names every fault with its line
 
 "step" is the speed above the gear below, "ne_after" the revolutions after changing up into the gear. Numbers
-are written with a point. A list is checked strictly before a search. Lists are UTF-8 or code page 1252.
+are written with a point. A list is checked strictly before a search. An option's value may also stand behind
+"=", as in --main=6 and --check=LIST.RAT.
 
 Exit status: 0 plans were found, or the list is fine; 1 no plan was found; 2 the command line or the list is
 wrong, or more than 30 plans meet the speeds.

@@ -1,5 +1,7 @@
 // veldrin-plan: the search for plans on the console.
 #include "plan/planner.h"
+#include "plan/system_country.h"
+#include "platform/system_code_pages.h"
 
 #include <iostream>
 #include <string>
@@ -7,7 +9,8 @@
 
 int main(int count, char** words) {
   const std::vector<std::string> arguments(words + (count > 0 ? 1 : 0), words + count);
-  const int status = veldrin::RunPlanner(arguments, std::cout, std::cerr);
+  const veldrin::CodePages pages = veldrin::SystemCodePages(veldrin::IsJapaneseSystem());
+  const int status = veldrin::RunPlanner(arguments, pages, std::cout, std::cerr);
   std::cout.flush();
   if (std::cout) return status;
   std::cerr << "veldrin-plan: the output cannot be written\n";

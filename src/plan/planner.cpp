@@ -4,17 +4,14 @@
 #include "plan/arguments.h"
 #include "plan/help.h"
 #include "plan/list_check.h"
+#include "plan/list_file.h"
+#include "plan/machine.h"
 #include "plan/plan_output.h"
-#include "platform/text_encoding.h"
 #include "runtime/fault.h"
-#include "runtime/text_file.h"
 #include "workspace/list_tables.h"
 
-#include <array>
 #include <filesystem>
-#include <fstream>
 #include <optional>
-#include <system_error>
 
 namespace veldrin {
 
@@ -24,67 +21,25 @@ constexpr int kDone = 0;
 constexpr int kNoPlanFound = 1;
 constexpr int kBadInput = 2;
 
-constexpr float kDefaultTyreLength = 1.9F;
-constexpr std::int16_t kDefaultShiftNe = 13000;
-constexpr std::size_t kLargestList = 1 << 20;  // bytes; what is larger is no list
-
-std::filesystem::path PathOf(const std::string& text) {
-  return std::filesystem::path(text);
-}
-
-/// The file's text; nothing, and a line on `errors`, when it cannot be had.
-std::optional<std::string> ReadList(const std::string& path, std::ostream& errors) {
-  std::error_code ignored;
-  if (std::filesystem::is_directory(PathOf(path), ignored)) {
-    errors << path << ": is a folder\n";
-    return {};
-  }
-  std::ifstream file(PathOf(path), std::ios::binary);
-  if (!file) {
-    errors << path << ": cannot be read\n";
-    return {};
-  }
-  std::string bytes;
-  std::array<char, 16384> part;
-  do {
-    file.read(part.data(), part.size());
-    bytes.append(part.data(), static_cast<std::size_t>(file.gcount()));
-  } while (file && bytes.size() <= kLargestList);
-  if (file.bad()) {
-    errors << path << ": cannot be read\n";
-    return {};
-  }
-  if (bytes.size() > kLargestList) {
-    errors << path << ": too large for a machine list\n";
-    return {};
-  }
-  return TextEncoding(CodePages{}).Decode(path, bytes);
+std::optional<std::string> ReadList(const PlanArguments& arguments, const CodePages& pages,
+                                    std::ostream& errors) {
+  std::string mistake;
+  std::optional<std::string> text = ReadListFile(arguments.listPath, pages, arguments.page, mistake);
+  if (!text) errors << arguments.listPath << ": " << mistake << '\n';
+  return text;
 }
 
 ListRemarks CheckFile(const std::string& path, const std::string& text) {
-  return CheckList(text, PathOf(path).stem().string());
+  return CheckList(text, std::filesystem::path(path).stem().string());
 }
 
 void WriteRemark(std::ostream& errors, const std::string& path, const ListRemark& remark) {
   errors << path << ':' << remark.line << ": " << (remark.warning ? "warning: " : "") << remark.text << '\n';
 }
 
-/// Fills the tables as the program's window does.
-Workspace ReadMachine(const std::string& text) {
-  Workspace workspace;
-  workspace.TyreLength = kDefaultTyreLength;
-  workspace.ShiftNe = kDefaultShiftNe;
-  TextReader reader(text);
-  reader.Field();  // the tag
-  ReadListTables(reader, workspace, [] {});
-  BuildFinalTable(workspace);
-  SortTables(workspace);
-  return workspace;
-}
-
-int Check(const PlanArguments& arguments, std::ostream& out, std::ostream& errors) {
+int Check(const PlanArguments& arguments, const CodePages& pages, std::ostream& out, std::ostream& errors) {
   const std::string& path = arguments.listPath;
-  const std::optional<std::string> text = ReadList(path, errors);
+  const std::optional<std::string> text = ReadList(arguments, pages, errors);
   if (!text) return kBadInput;
   const ListRemarks remarks = CheckFile(path, *text);
   for (const ListRemark& remark : remarks.InOrder()) WriteRemark(errors, path, remark);
@@ -134,9 +89,9 @@ std::string FaultText(int number) {
   }
 }
 
-int Search(const PlanArguments& arguments, std::ostream& out, std::ostream& errors) {
+int Search(const PlanArguments& arguments, const CodePages& pages, std::ostream& out, std::ostream& errors) {
   const std::string& path = arguments.listPath;
-  const std::optional<std::string> text = ReadList(path, errors);
+  const std::optional<std::string> text = ReadList(arguments, pages, errors);
   if (!text) return kBadInput;
   for (const ListRemark& remark : CheckFile(path, *text).InOrder()) {
     if (remark.warning) continue;
@@ -162,10 +117,14 @@ int Search(const PlanArguments& arguments, std::ostream& out, std::ostream& erro
 
 }  // namespace
 
-int RunPlanner(const std::vector<std::string>& words, std::ostream& out, std::ostream& errors) {
+int RunPlanner(const std::vector<std::string>& words, const CodePages& pages, std::ostream& out,
+               std::ostream& errors) {
   std::string mistake;
   const std::optional<PlanArguments> arguments = ReadArguments(words, mistake);
-  if (!arguments) {
+  if (arguments && arguments->page && !IsKnownPage(pages, *arguments->page)) {
+    mistake = "--encoding: cp" + std::to_string(*arguments->page) + " is not known here";
+  }
+  if (!mistake.empty()) {
     errors << "veldrin-plan: " << mistake << '\n';
     return kBadInput;
   }
@@ -177,9 +136,9 @@ int RunPlanner(const std::vector<std::string>& words, std::ostream& out, std::os
       out << "veldrin-plan " << VELDRIN_VERSION << '\n';
       return kDone;
     case PlanAction::Check:
-      return Check(*arguments, out, errors);
+      return Check(*arguments, pages, out, errors);
     case PlanAction::Search:
-      return Search(*arguments, out, errors);
+      return Search(*arguments, pages, out, errors);
   }
   return kBadInput;
 }

@@ -13,14 +13,19 @@ using Words = std::vector<std::string>;
 
 constexpr char kSpeeds[] = "60,80,100,120,140,160";
 
-/// The arguments of a search with these words more; a mistake fails the test.
-PlanArguments Read(const Words& more = {}) {
-  Words words = {"NX4.RAT", "--speed", kSpeeds};
-  words.insert(words.end(), more.begin(), more.end());
+/// A mistake fails the test.
+PlanArguments ReadAll(const Words& words) {
   std::string mistake;
   const std::optional<PlanArguments> arguments = ReadArguments(words, mistake);
   EXPECT_TRUE(arguments) << mistake;
   return arguments.value_or(PlanArguments());
+}
+
+/// The arguments of a search with these words more.
+PlanArguments Read(const Words& more = {}) {
+  Words words = {"NX4.RAT", "--speed", kSpeeds};
+  words.insert(words.end(), more.begin(), more.end());
+  return ReadAll(words);
 }
 
 std::string Mistake(const Words& words) {
@@ -79,6 +84,43 @@ TEST(Arguments, ListMayStandAnywhereAndMayBeginWithAMinus) {
   EXPECT_EQ(ReadArguments({"--speed", kSpeeds, "--", "-A.RAT"}, mistake)->listPath, "-A.RAT");
 }
 
+TEST(Arguments, EncodingsAreNamedByTheirPages) {
+  EXPECT_FALSE(Read().page);
+  EXPECT_EQ(Read({"--encoding", "utf-8"}).page, 65001);
+  EXPECT_EQ(Read({"--encoding=UTF8"}).page, 65001);
+  EXPECT_EQ(Read({"--encoding=cp932"}).page, 932);
+  EXPECT_EQ(Read({"--encoding", "CP1252"}).page, 1252);
+}
+
+TEST(Arguments, CheckMayTakeItsFileLikeAnOption) {
+  std::string mistake;
+  const auto check = ReadArguments({"--check=A.RAT"}, mistake);
+  ASSERT_TRUE(check) << mistake;
+  EXPECT_EQ(check->action, PlanAction::Check);
+  EXPECT_EQ(check->listPath, "A.RAT");
+  EXPECT_EQ(ReadArguments({"--check=-A=B.RAT"}, mistake)->listPath, "-A=B.RAT");
+  EXPECT_EQ(ReadArguments({"--check=A.RAT", "--encoding", "cp932"}, mistake)->page, 932);
+  EXPECT_EQ(ReadArguments({"--encoding=cp932", "--check", "A.RAT"}, mistake)->page, 932);
+  EXPECT_EQ(Mistake({"--check="}), "the list's name is empty");
+  EXPECT_EQ(Mistake({"--check=A.RAT", "B.RAT"}), "a second list, \"B.RAT\"");
+  EXPECT_EQ(Mistake({"--check=A.RAT", "--encoding=cp932", "--main=1"}),
+            "--check and --main do not go together");
+}
+
+TEST(Arguments, EveryOptionTakesItsValueBehindTheSignAsWell) {
+  const PlanArguments arguments =
+      ReadAll({"--speed=60,80,100,120,140,160", "--main=6", "--min-plan=2", "--shift-ne=12000", "--tyre=2",
+               "--format=csv", "--encoding=utf-8", "A.RAT"});
+  EXPECT_EQ(arguments.speed[6], 160);
+  EXPECT_EQ(arguments.mainGear, 6);
+  EXPECT_EQ(arguments.minPlan, 2);
+  EXPECT_EQ(arguments.shiftNe, 12000);
+  EXPECT_EQ(arguments.tyreLength, 2);
+  EXPECT_EQ(arguments.format, PlanFormat::Csv);
+  EXPECT_EQ(arguments.page, 65001);
+  EXPECT_EQ(arguments.listPath, "A.RAT");
+}
+
 TEST(Arguments, OtherActions) {
   std::string mistake;
   EXPECT_EQ(ReadArguments({"--help"}, mistake)->action, PlanAction::Help);
@@ -133,6 +175,14 @@ TEST(Arguments, MistakesAreTold) {
       {{"--tyre", "3.01"}, "--tyre: 3.01 is out of range, 1 to 3"},
       {{"--tyre", "1,9"}, "--tyre: \"1,9\" is no number"},
       {{"--format", "xml"}, "--format: \"xml\" is none of table, csv and json"},
+      {{"--encoding", "latin"}, "--encoding: \"latin\" is neither utf-8 nor cpN"},
+      {{"--encoding", "cp"}, "--encoding: \"cp\" is neither utf-8 nor cpN"},
+      {{"--encoding", "cp-932"}, "--encoding: \"cp-932\" is neither utf-8 nor cpN"},
+      {{"--encoding", "cp0"}, "--encoding: \"cp0\" is neither utf-8 nor cpN"},
+      {{"--encoding", "cp65536"}, "--encoding: \"cp65536\" is neither utf-8 nor cpN"},
+      {{"--encoding=cp932", "--encoding=cp932"}, "--encoding is given twice"},
+      {{"--help=search"}, "--help takes no value"},
+      {{"--version=2"}, "--version takes no value"},
       {{"--manual", "3"}, "--manual: \"3\" is not of the form G=-A+B"},
       {{"--manual", "3=2+3"}, "--manual: \"3=2+3\" is not of the form G=-A+B"},
       {{"--manual", "3=-2"}, "--manual: \"3=-2\" is not of the form G=-A+B"},

@@ -3,6 +3,7 @@
 
 #include "calc/plan_search.h"
 #include "plan/list_check.h"
+#include "platform/system_code_pages.h"
 #include "runtime/text_file.h"
 #include "tests/calc/plain_search.h"
 #include "tests/plan/sample_list.h"
@@ -52,7 +53,7 @@ class Planner : public testing::Test {
   int Run(const Words& words) {
     std::ostringstream outStream;
     std::ostringstream errorStream;
-    const int status = RunPlanner(words, outStream, errorStream);
+    const int status = RunPlanner(words, pages, outStream, errorStream);
     out = outStream.str();
     errors = errorStream.str();
     return status;
@@ -64,6 +65,7 @@ class Planner : public testing::Test {
   }
   int ErrorLines() const { return static_cast<int>(std::count(errors.begin(), errors.end(), '\n')); }
 
+  CodePages pages = SystemCodePages(false);
   std::string out;
   std::string errors;
 
@@ -282,6 +284,70 @@ TEST_F(Planner, CheckOfAFineListSaysSo) {
     EXPECT_EQ(Run({"--check", Sample(name)}), 0) << errors;
     EXPECT_EQ(errors, "");
   }
+}
+
+// "PLAIN" in full-width letters and pairs "1速" to "6速", in code page 932.
+constexpr char kJapaneseList[] =
+    "LIST\n\x82\x6F\x82\x6B\x82\x60\x82\x68\x82\x6D\nFINAL-DRIVE\n20,99\nFINAL-DRIVEN\n20,99\n"
+    "ROWS,1,PRIMARY\n20,60\n99\n-\n-\n1\x91\xAC,40,100,2\x91\xAC,60,100,3\x91\xAC,80,100,"
+    "4\x91\xAC,100,100,5\x91\xAC,120,100,6\x91\xAC,140,100\nM34-ARRAY\n0\nTYRE_L=1\nSHIFT_NE=5000\n";
+
+TEST_F(Planner, JapaneseListsAreReadInTheSystemsPage) {
+  const std::string path = File("ＰＬＡＩＮ.RAT", kJapaneseList);
+  const std::string fine = path + ": fine: machine ＰＬＡＩＮ, 1 primary, 1 final and 1 gear rows\n";
+  pages = SystemCodePages(true);
+  EXPECT_EQ(Run({"--check", path}), 0);
+  EXPECT_EQ(out, fine);
+  EXPECT_EQ(errors, "");
+  EXPECT_EQ(Search(path, "40,60,80,100,120,140"), 0);
+  EXPECT_TRUE(out.starts_with("ＰＬＡＩＮ   tyre 1 m")) << out;
+  EXPECT_TRUE(out.find("  6TH   6速 ") != std::string::npos) << out;
+  // A system that works in the page itself, as Windows does.
+  pages.japanese = false;
+  pages.systemPage = kJapanesePage;
+  EXPECT_EQ(Run({"--check", path}), 0);
+  EXPECT_EQ(out, fine);
+  EXPECT_EQ(errors, "");
+}
+
+TEST_F(Planner, EncodingGoesBeforeTheSystemsPage) {
+  const std::string path = File("ＰＬＡＩＮ.RAT", kJapaneseList);
+  EXPECT_EQ(Run({"--check", path}), 0);
+  EXPECT_TRUE(out.find("machine ‚o‚k‚`‚h‚m,") != std::string::npos)
+      << "as 1252, as the windows would: " << out;
+  EXPECT_EQ(Run({"--check=" + path, "--encoding=cp932"}), 0);
+  EXPECT_EQ(out, path + ": fine: machine ＰＬＡＩＮ, 1 primary, 1 final and 1 gear rows\n");
+  EXPECT_EQ(errors, "");
+  EXPECT_EQ(Search(path, "40,60,80,100,120,140", {"--encoding", "cp932", "--format=csv"}), 0);
+  EXPECT_TRUE(out.find("\n1,20-60,20-20,6,6速,140,140,") != std::string::npos) << out;
+  pages = SystemCodePages(true);
+  EXPECT_EQ(Run({"--check", path, "--encoding=cp1252"}), 0);
+  EXPECT_TRUE(out.find("machine ‚o‚k‚`‚h‚m,") != std::string::npos) << out;
+}
+
+TEST_F(Planner, AnEncodingThatTheListIsNotInIsRefused) {
+  const std::string path = File("PLAIN.RAT", kJapaneseList);
+  for (const Words& words : {Words{"--check", path}, Words{path, "--speed=60,80,100,120,140,160"}}) {
+    Words encoded = words;
+    encoded.push_back("--encoding=utf-8");
+    EXPECT_EQ(Run(encoded), 2);
+    EXPECT_EQ(errors, path + ": is no text in the encoding given\n");
+    EXPECT_EQ(out, "");
+  }
+  const std::string broken = File("BROKEN.RAT", std::string(kJapaneseList) + "\x82");
+  EXPECT_EQ(Run({"--check", broken, "--encoding=cp932"}), 2);
+  EXPECT_EQ(errors, broken + ": is no text in the encoding given\n");
+  EXPECT_EQ(Run({"--check", path, "--encoding=cp9"}), 2);
+  EXPECT_EQ(errors, "veldrin-plan: --encoding: cp9 is not known here\n");
+}
+
+TEST_F(Planner, AByteOrderMarkIsNoPartOfTheList) {
+  const std::string path = File("TEST.RAT", "\xEF\xBB\xBF" + SampleList().Text());
+  for (const char* encoding : {"--encoding=utf-8", "--encoding=UTF8"}) {
+    EXPECT_EQ(Run({"--check", path, encoding}), 0) << errors;
+    EXPECT_EQ(errors, "");
+  }
+  EXPECT_EQ(Run({"--check", path}), 0) << errors;
 }
 
 TEST_F(Planner, HelpAndVersion) {
