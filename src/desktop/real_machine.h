@@ -4,7 +4,6 @@
 #pragma once
 
 #include "desktop/real_boxes.h"
-#include "platform/system_code_pages.h"
 #include "desktop/real_files.h"
 #include "desktop/real_instances.h"
 #include "desktop/real_pictures.h"
@@ -14,6 +13,7 @@
 #include "desktop/real_sound.h"
 #include "desktop/real_system.h"
 #include "platform/machine.h"
+#include "platform/system_code_pages.h"
 
 namespace veldrin {
 

@@ -1,6 +1,6 @@
 #include "plan/arguments.h"
 
-#include "plan/list_remarks.h"
+#include "plan/check/list_remarks.h"
 #include "platform/text_encoding.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
@@ -78,7 +78,6 @@ void ReadSpeeds(const std::string& text, PlanArguments& result) {
 
 /// G=-A+B
 void ReadManual(const std::string& text, PlanArguments& result) {
-  constexpr int kWidest = 21;
   const std::size_t equals = text.find("=-");
   const std::size_t plus = text.find('+', equals == std::string::npos ? 0 : equals);
   if (equals == std::string::npos || plus == std::string::npos) {
@@ -86,8 +85,8 @@ void ReadManual(const std::string& text, PlanArguments& result) {
   }
   const int gear = WholeNumber("--manual", text.substr(0, equals), 1, kGears);
   if (result.manual[gear]) Refuse("--manual: gear " + std::to_string(gear) + " is given twice");
-  const int below = WholeNumber("--manual", text.substr(equals + 2, plus - equals - 2), 1, kWidest);
-  const int above = WholeNumber("--manual", text.substr(plus + 1), 1, kWidest);
+  const int below = WholeNumber("--manual", text.substr(equals + 2, plus - equals - 2), 1, kWidestBound);
+  const int above = WholeNumber("--manual", text.substr(plus + 1), 1, kWidestBound);
   result.manual[gear] = ManualBounds{static_cast<std::int16_t>(below), static_cast<std::int16_t>(above)};
 }
 

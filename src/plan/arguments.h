@@ -13,7 +13,9 @@ namespace veldrin {
 enum class PlanAction { Search, Check, Help, Version };
 enum class PlanFormat { Table, Csv, Json };
 
-/// The bounds of a gear set to MANUAL, in km/h.
+inline constexpr std::int16_t kWidestBound = 21;  // km/h
+
+/// The bounds of a gear set to MANUAL, in km/h, 1 to kWidestBound.
 struct ManualBounds {
   std::int16_t minus = 0;
   std::int16_t plus = 0;

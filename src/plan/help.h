@@ -25,14 +25,15 @@ inline constexpr char kPlanHelp[] =
   --encoding NAME     how the list is written: utf-8, or cpN with the number of a code page, such as cp932 or
                       cp1252. Default what the windows take: the system's code page; where that is UTF-8,
                       UTF-8 and, for what is none, cp932 on a Japanese system and cp1252 elsewhere
-  --check LIST.RAT    reads a list strictly and names every fault with its line
+  --check LIST.RAT    reads a list strictly and names every fault with its line; what the program ignores,
+                      takes in its own way or will do badly with is a warning
 
 "step" is the speed above the gear below, "ne_after" the revolutions after changing up into the gear. Numbers
-are written with a point. A list is checked strictly before a search. An option's value may also stand behind
-"=", as in --main=6 and --check=LIST.RAT.
+are read and written with a point. A list is checked strictly before a search. An option's value may also
+stand behind "=", as in --main=6 and --check=LIST.RAT.
 
-Exit status: 0 plans were found, or the list is fine; 1 no plan was found; 2 the command line or the list is
-wrong, or more than 30 plans meet the speeds.
+Exit status: 0 plans were found, or the list has no fault; 1 no plan was found; 2 the command line or the list
+is wrong, or more than 30 plans meet the speeds.
 )";
 
 }  // namespace veldrin

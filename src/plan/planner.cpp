@@ -1,12 +1,12 @@
 #include "plan/planner.h"
 
-#include "calc/plan_search.h"
 #include "plan/arguments.h"
+#include "plan/check/list_check.h"
 #include "plan/help.h"
-#include "plan/list_check.h"
 #include "plan/list_file.h"
 #include "plan/machine.h"
 #include "plan/plan_output.h"
+#include "plan/plan_run.h"
 #include "runtime/fault.h"
 #include "workspace/list_tables.h"
 
@@ -50,19 +50,6 @@ int Check(const PlanArguments& arguments, const CodePages& pages, std::ostream& 
   return kDone;
 }
 
-bool RunSearch(const PlanArguments& arguments, Workspace& workspace) {
-  const Blink silent = [](int) {};
-  if (!arguments.HasManual()) return SearchAuto(workspace, arguments.mainGear, silent);
-  Table<bool, 1, kGears> manual;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    manual[gear] = arguments.manual[gear].has_value();
-    const ManualBounds bounds = arguments.manual[gear].value_or(ManualBounds{1, 1});
-    workspace.ToleranceMinus[gear] = bounds.minus;
-    workspace.TolerancePlus[gear] = bounds.plus;
-  }
-  return SearchMixed(workspace, manual, silent);
-}
-
 void WritePlans(std::ostream& out, PlanFormat format, const Workspace& workspace,
                 const std::vector<FoundPlan>& plans) {
   switch (format) {
@@ -78,10 +65,16 @@ void WritePlans(std::ostream& out, PlanFormat format, const Workspace& workspace
   }
 }
 
-std::string FaultText(int number) {
+std::string TooManyPlans(const PlanArguments& arguments, const Workspace& machine) {
+  const std::string option = NarrowingOption(arguments, machine);
+  return "more than " + std::to_string(kPlanLimit) + " plans meet these speeds; " +
+         (option.empty() ? "ask for others" : "try " + option);
+}
+
+std::string FaultText(int number, const PlanArguments& arguments, const Workspace& machine) {
   switch (number) {
     case kFaultSubscript:
-      return "more than 30 plans meet these speeds; ask for narrower ones";
+      return TooManyPlans(arguments, machine);
     case kFaultDivisionByZero:
       return "a division by zero in the speeds";
     default:
@@ -101,14 +94,17 @@ int Search(const PlanArguments& arguments, const CodePages& pages, std::ostream&
   Workspace workspace = ReadMachine(*text);
   workspace.ShiftNe = arguments.shiftNe.value_or(workspace.ShiftNe);
   workspace.TyreLength = arguments.tyreLength.value_or(workspace.TyreLength);
-  workspace.MinPlan = arguments.minPlan;
-  workspace.SpeedRequest = arguments.speed;
+  if (workspace.GearRows > kGearRowLimit) {
+    errors << path << ": " << workspace.GearRows << " gear rows are announced, a search looks at "
+           << kGearRowLimit << " at most\n";
+    return kBadInput;
+  }
   try {
     const bool found = RunSearch(arguments, workspace);
     WritePlans(out, arguments.format, workspace, found ? FoundPlans(workspace) : std::vector<FoundPlan>());
     if (found) return kDone;
   } catch (const RuntimeFault& fault) {
-    errors << path << ": " << FaultText(fault.number) << '\n';
+    errors << path << ": " << FaultText(fault.number, arguments, workspace) << '\n';
     return kBadInput;
   }
   errors << path << ": no plan found\n";

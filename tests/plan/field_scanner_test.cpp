@@ -1,5 +1,5 @@
 // The scanner against the reader of the program: the same fields and lines from every text, and their places.
-#include "plan/field_scanner.h"
+#include "plan/check/field_scanner.h"
 
 #include "runtime/text_file.h"
 

@@ -1,52 +1,14 @@
-// The strict reading: every fault with its line, one line a case.
-#include "plan/list_check.h"
+// The strict reading: every fault with its line, one line a case. What the program takes is a warning.
+#include "plan/check/list_check.h"
 
-#include "tests/plan/sample_list.h"
+#include "tests/plan/damaged_list.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
-#include <vector>
 
 namespace veldrin {
 namespace {
-
-using Lines = std::vector<std::string>;
-
-/// The remarks as "line: text", warnings with a "w" in front.
-Lines Remarks(const std::string& text, const std::string& name = "TEST") {
-  Lines lines;
-  for (const ListRemark& remark : CheckList(text, name).InOrder()) {
-    lines.push_back((remark.warning ? "w" : "") + std::to_string(remark.line) + ": " + remark.text);
-  }
-  return lines;
-}
-
-struct Damage {
-  std::function<void(SampleList& list)> damage;
-  Lines remarks;
-};
-
-void Expect(const std::vector<Damage>& cases) {
-  for (const Damage& c : cases) {
-    SampleList list;
-    c.damage(list);
-    for (const char* lineEnd : {"\n", "\r\n"})
-      EXPECT_EQ(Remarks(list.Text(lineEnd)), c.remarks) << list.Text();
-  }
-}
-
-/// A line becomes another text.
-std::function<void(SampleList&)> Put(int line, const std::string& text) {
-  return [line, text](SampleList& list) { list[line] = text; };
-}
-std::function<void(SampleList&)> Erase(int line) {
-  return [line](SampleList& list) { list.Erase(line); };
-}
-std::function<void(SampleList&)> Insert(int line, const std::string& text) {
-  return [line, text](SampleList& list) { list.Insert(line, text); };
-}
 
 TEST(CheckList, SampleIsFine) {
   Expect({{[](SampleList&) {}, {}}});
@@ -62,7 +24,7 @@ TEST(CheckList, TagAndName) {
       {Put(2, "TEST2"), {"w2: the name \"TEST2\" differs from the file's, so plan files will not find it"}},
       {Put(2, ""), {"2: the machine's name is missing"}},
       {Erase(2), {"2: the machine's name is missing"}},
-      {Put(2, "\"TEST\" 2"), {"2: text behind the closing quotation mark of \"TEST\""}},
+      {Put(2, "\"TEST\" 2"), {"w2: text behind the closing quotation mark of \"TEST\" is ignored"}},
   });
 }
 
@@ -83,7 +45,7 @@ TEST(CheckList, Sizes) {
       {Put(4, "99"), {"4: the FINAL-DRIVE list holds no size"}},
       {Put(4, "14,x,99"), {"4: \"x\" is no number"}},
       {Put(4, "14,,99"), {"4: \"\" is no number"}},
-      {Put(4, "14.5,15,99"), {"4: 14.5 is not a whole number"}},
+      {Put(4, "14.5,15,99"), {"w4: 14.5 is not a whole number; it is read as 14"}},
       {Put(4, "14,40000,99"), {"4: 40000 is out of range, -32768 to 32767"}},
       {Put(4, "14,0,99"), {"4: 0 teeth: at least 1 is needed"}},
       {Put(4, "14,-3,99"), {"4: -3 teeth: at least 1 is needed"}},
@@ -111,7 +73,7 @@ TEST(CheckList, NumberOfGearRows) {
       {Put(7, "GEAR-ROWS,two,PRIMARY"), {"7: \"two\" is no number"}},
       {Put(7, "GEAR-ROWS,1,PRIMARY"),
        {"14: 2 gear rows, but 1 are announced",
-        "15: the matrix goes on; 1 numbers are needed for 1 gear rows"}},
+        "w15: the matrix goes on; 1 numbers are needed for 1 gear rows, the others are ignored"}},
   });
 }
 
@@ -135,6 +97,14 @@ TEST(CheckList, Primaries) {
   list[8] = "20,60,21,60,22,60,23,60,24,60,25,60,26,60,27,60";
   list.Erase(9);
   EXPECT_EQ(Remarks(list.Text()), Lines{"9: the end mark 99 of the primary list is missing"});
+  // The program takes one field for the mark, whatever it holds.
+  list.Insert(9, "END");
+  EXPECT_EQ(Remarks(list.Text()), Lines{"w9: \"END\" is taken for the end mark of the full primary list"});
+  list[9] = "gear 1, gear 2";
+  list.Erase(10);
+  EXPECT_EQ(Remarks(list.Text()),
+            (Lines{"w9: \"gear 1\" is taken for the end mark of the full primary list",
+                   "w9: what stands behind the end mark counts as the first of the two free lines"}));
 }
 
 TEST(CheckList, GearRows) {
@@ -149,48 +119,65 @@ TEST(CheckList, GearRows) {
       {Insert(13, "1C,15,28,2C,18,27,3C,20,25,4C,25,27,5C,24,23,6C,27,24"),
        {"15: 3 gear rows, but 2 are announced"}},
       {Put(13, "1A,15,28,99,99,99,3B,20,25,4B,25,27,5B,24,23,6B,27,24"),
-       {"13: gear 1, row 2: \"1A\" stands in row 1 already"}},
+       {"w13: gear 1, row 2: \"1A\" stands in row 1 already"}},
       {Put(13, "1-B,15,28,99,99,99,3B,20,25,4B,25,27,5B,24,23,6B,27,24"),
-       {"13: gear 1, row 2: \"1-B\" holds \"-\", which parts the gears in plan files"}},
+       {"w13: gear 1, row 2: \"1-B\" holds \"-\", which parts the gears in plan files"}},
       {Put(13, "1B,0,28,99,99,99,3B,20,25,4B,25,0,5B,24,23,6B,27,24"),
        {"13: 0 teeth: at least 1 is needed", "13: 0 teeth: at least 1 is needed"}},
       {Put(13, "1B,15,28,99,0,0,3B,20,25,4B,25,27,5B,24,23,6B,27,24"), {}},
-      {Put(13, "1B,15,28,99,,99,3B,20,25,4B,25,27,5B,24,23,6B,27,24"), {"13: \"\" is no number"}},
+      {Put(13, "1B,15,28,99,,99,3B,20,25,4B,25,27,5B,24,23,6B,27,24"),
+       {"w13: \"\" is no number, but is not used"}},
       {Put(13, "1B,15,28,,18,27,3B,20,25,4B,25,27,5B,24,23,6B,27,24"),
-       {"13: gear 2, row 2: the text is empty"}},
+       {"w13: gear 2, row 2: the text is empty"}},
       {Put(13, "1B,15,2B,99,99,99,3B,20,25,4B,25,27,5B,24,23,6B,27,24"), {"13: \"2B\" is no number"}},
       {Put(12, "1A,14,29,99,99,99,3A,19,24,4A,22,24,5A,26,25,6A,23,21"),
-       {"12: gear 2 has no pair in any row"}},
+       {"w12: gear 2 has no pair in any row: no search finds a plan, and the first plan has the empty place "
+        "of "
+        "row 1, \"99\", and counts with its 99 over 99 teeth"}},
       {Put(13, "1B\n15,28,99,99,99,3B,20,25\n4B,25,27,5B,24,23,6B,27,24"), {}},
   });
+}
+
+TEST(CheckList, MoreGearRowsThanTheTablesHold) {
+  SampleList list = TallList();
+  EXPECT_EQ(Remarks(list.Text()),
+            Lines{"w7: 11 gear rows, of which the program reads 10; it ends where it looks for the next"});
+  list.Erase(14);
+  EXPECT_EQ(Remarks(list.Text()), Lines{"7: 11 gear rows; 1 to 10 are possible"});
+}
+
+TEST(CheckList, QuotationMarks) {
+  Expect({
+      {Put(3, "\"FINAL-DRIVE\" x"),
+       {"w3: text behind the closing quotation mark of \"FINAL-DRIVE\" is ignored"}},
+      {Put(4, "\"14\"x,15,99"), {"w4: text behind the closing quotation mark of \"14\" is ignored"}},
+  });
+  SampleList open;
+  open[2] = "\"TEST";
+  EXPECT_EQ(Remarks(open.Text()).back(), "13: expected FINAL-DRIVE, found \"25\"") << "up to the next mark";
+  open[13] = "1B,15,28,99,99,99,3B,20,25,4B,25,27,5B,24,23,6B,27,24";
+  EXPECT_EQ(Remarks(open.Text())[0], "2: a quotation mark is not closed");
+  EXPECT_EQ(Remarks(open.Text()).back(), "18: the file ends where FINAL-DRIVE is expected");
+  SampleList list;
+  list.Erase(18);
+  list.Erase(17);
+  list[16] = "0,\"99";
+  std::string text = list.Text();
+  EXPECT_EQ(Remarks(text).back(), "16: \"99?\" is no number") << text;
+  text.pop_back();
+  EXPECT_EQ(Remarks(text), Lines{"w16: a quotation mark is not closed"}) << "the number is read all the same";
 }
 
 TEST(CheckList, Matrix) {
   Expect({
       {Put(16, "0"), {"17: the matrix ends after 3 numbers; 4 numbers are needed for 2 gear rows"}},
-      {Put(16, "0,0,0"), {"16: the matrix goes on; 4 numbers are needed for 2 gear rows"}},
+      {Put(16, "0,0,0"),
+       {"w16: the matrix goes on; 4 numbers are needed for 2 gear rows, the others are ignored"}},
       {Put(16, "0,0,"), {}},
-      {Insert(17, "0,0"), {"17: the matrix goes on; 4 numbers are needed for 2 gear rows"}},
+      {Insert(17, "0,0"),
+       {"w17: the matrix goes on; 4 numbers are needed for 2 gear rows, the others are ignored"}},
       {Put(16, "0,x"), {"16: \"x\" is no number"}},
-      {Put(15, "0,0,0,0,SHIFT_NE=12000"), {}},
-  });
-}
-
-TEST(CheckList, KeyLines) {
-  Expect({
-      {Put(17, "a remark without the sign"), {}},
-      {Put(17, ""), {}},
-      {Put(17, "TYRE_L= 3 "), {}},
-      {Put(17, "TYRE_L=3.01"), {"17: TYRE_L: 3.01 is out of range, 1 to 3"}},
-      {Put(17, "TYRE_L=1,95"), {"17: TYRE_L: \"1,95\" is no number"}},
-      {Put(17, "TYRE_L="), {"17: TYRE_L: \"\" is no number"}},
-      {Put(17, "TYRE_L =1.95"), {"17: unknown key \"TYRE_L \""}},
-      {Put(17, "TYRE=1.95"), {"17: unknown key \"TYRE\""}},
-      {Put(17, "MAX_SPEED=340"), {}},
-      {Put(17, "MAX_SPEED=341"), {"17: MAX_SPEED: 341 is out of range, 100 to 340"}},
-      {Put(18, "SHIFT_NE=24000.4"), {"18: SHIFT_NE: 24000.4 is out of range, 5000 to 24000"}},
-      {Put(18, "CHECK_NE=4999"), {"18: CHECK_NE: 4999 is out of range, 5000 to 24000"}},
-      {Put(18, "MAX_NE=x"), {"18: MAX_NE: \"x\" is no number"}},
+      {Put(15, "0,0,0,0,SHIFT_NE=12000"), {"w18: SHIFT_NE stands in line 15 already; the later line holds"}},
   });
 }
 
@@ -203,8 +190,8 @@ TEST(CheckList, TellsEveryFaultInTheOrderOfTheLines) {
   list[18] = "SHIFT_NE=1";
   EXPECT_EQ(Remarks(list.Text()),
             (Lines{"4: \"x\" is no number", "8: 0 teeth: at least 1 is needed",
-                   "12: gear 6, row 1: \"6-A\" holds \"-\", which parts the gears in plan files",
-                   "17: unknown key \"TYRE\"", "18: SHIFT_NE: 1 is out of range, 5000 to 24000"}));
+                   "w12: gear 6, row 1: \"6-A\" holds \"-\", which parts the gears in plan files",
+                   "w17: unknown key \"TYRE\"", "w18: SHIFT_NE: 1 is out of range, 5000 to 24000"}));
 }
 
 TEST(CheckList, FilesThatAreNoText) {
@@ -217,6 +204,9 @@ TEST(CheckList, FilesThatAreNoText) {
             Lines{"1: no text file: it holds control characters"});
   EXPECT_EQ(Remarks("\xFF\xFE"), Lines{"1: no machine list: it begins with \"\xFF\xFE\" and not with LIST"});
   EXPECT_EQ(Remarks(SampleList().Text() + "\x1A"), Lines{});
+  SampleList list;
+  list[10] = "a heading\f";
+  EXPECT_EQ(Remarks(list.Text()), Lines{"w10: a control character"}) << "the program reads it all the same";
 }
 
 TEST(CheckList, TruncatedListsEndWhereTheyEnd) {
@@ -231,6 +221,10 @@ TEST(CheckList, TruncatedListsEndWhereTheyEnd) {
   EXPECT_EQ(cutBehind(2), Lines{"2: the file ends where FINAL-DRIVE is expected"});
   EXPECT_EQ(cutBehind(3),
             Lines{"3: the file ends where the end mark 99 of the FINAL-DRIVE list is expected"});
+  list[4] = "11,12,13,14,15,16,17,18,19,20";
+  EXPECT_EQ(cutBehind(4), Lines{"4: the file ends where FINAL-DRIVEN is expected"})
+      << "a full list has no mark";
+  list[4] = "14,15,99";
   EXPECT_EQ(cutBehind(4), Lines{"4: the file ends where FINAL-DRIVEN is expected"});
   EXPECT_EQ(cutBehind(6), Lines{"6: the file ends where GEAR-ROWS is expected"});
   EXPECT_EQ(cutBehind(7), Lines{"7: the file ends where the end mark 99 of the primary list is expected"});

@@ -14,6 +14,17 @@ class SampleList {
   void Erase(int line) { lines_.erase(lines_.begin() + (line - 1)); }
   void Insert(int line, const std::string& text) { lines_.insert(lines_.begin() + (line - 1), text); }
 
+  /// A gear row whose pairs bear the number `row` (2..9): the higher, the taller.
+  static std::string GearRow(int row) {
+    std::string text;
+    const char* const driven[] = {"130", "100", "86", "76", "68", "62"};
+    for (int gear = 1; gear <= 6; ++gear) {
+      const std::string number = std::to_string(gear) + "." + std::to_string(row);
+      text += (gear > 1 ? "," : "") + number + ",7" + std::to_string(row) + "," + driven[gear - 1];
+    }
+    return text;
+  }
+
   std::string Text(const std::string& lineEnd = "\n") const {
     std::string text;
     for (const std::string& line : lines_) text += line + lineEnd;
@@ -42,5 +53,16 @@ class SampleList {
       "SHIFT_NE=12500",                                              // 18
   };
 };
+
+/// Eleven gear rows are announced, and the ten that the tables hold are there.
+inline SampleList TallList() {
+  SampleList list;
+  list[7] = "GEAR-ROWS,11,PRIMARY";
+  list.Erase(16);
+  list[15] = "0,0,0,0,0,0,0,0,0,0";
+  for (int row = 2; row <= 10; ++row) list[15] += "\n0,0,0,0,0,0,0,0,0,0";
+  for (int row = 9; row >= 2; --row) list.Insert(14, SampleList::GearRow(row));
+  return list;
+}
 
 }  // namespace veldrin

@@ -1,11 +1,12 @@
-#include "plan/list_remarks.h"
+#include "plan/check/list_remarks.h"
 
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
+#include "workspace/words.h"
+#include "workspace/workspace.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace veldrin {
 
@@ -19,6 +20,7 @@ void ListRemarks::Warn(int line, std::string text) {
 }
 
 std::optional<int> ListRemarks::WholeNumber(const ScannedField& field) {
+  WarnOfQuotes(field);
   double value = 0;
   const int fault = Guarded([&] { value = ParseNumber(field.text); });
   if (fault == kFaultTypeMismatch) {
@@ -30,9 +32,8 @@ std::optional<int> ListRemarks::WholeNumber(const ScannedField& field) {
     Fault(field.line, field.text + " is out of range, -32768 to 32767");
     return {};
   }
-  if (value != std::floor(value)) {
-    Fault(field.line, field.text + " is not a whole number");
-    return {};
+  if (value != whole) {
+    Warn(field.line, field.text + " is not a whole number; it is read as " + std::to_string(whole));
   }
   return whole;
 }
@@ -46,9 +47,25 @@ std::optional<int> ListRemarks::Teeth(const ScannedField& field) {
   return teeth;
 }
 
+void ListRemarks::UnusedNumber(const ScannedField& field) {
+  WarnOfQuotes(field);
+  if (!IsNumber(field.text)) Warn(field.line, Quoted(field.text) + " is no number, but is not used");
+}
+
 void ListRemarks::CheckQuotes(const ScannedField& field) {
   if (field.unclosed) Fault(field.line, "a quotation mark is not closed");
-  if (field.dropsText) Fault(field.line, "text behind the closing quotation mark of " + Quoted(field.text));
+  if (field.dropsText) {
+    Warn(field.line, "text behind the closing quotation mark of " + Quoted(field.text) + " is ignored");
+  }
+}
+
+/// A number that swallows the file shows as none; one before the file's end is read all the same.
+void ListRemarks::WarnOfQuotes(const ScannedField& field) {
+  if (field.unclosed) {
+    Warn(field.line, "a quotation mark is not closed");
+  } else {
+    CheckQuotes(field);
+  }
 }
 
 std::vector<ListRemark> ListRemarks::InOrder() const {
@@ -61,6 +78,15 @@ std::vector<ListRemark> ListRemarks::InOrder() const {
 void ListRemarks::Append(const ListRemarks& others) {
   remarks_.insert(remarks_.end(), others.remarks_.begin(), others.remarks_.end());
   faults_ += others.faults_;
+}
+
+bool IsEndMark(const ScannedField& field) {
+  std::int16_t value = 0;
+  return Guarded([&] { value = ParseInt16(field.text); }) == 0 && value == kEndMark;
+}
+
+bool IsNumber(const std::string& text) {
+  return Guarded([&] { ParseNumber(text); }) != kFaultTypeMismatch;
 }
 
 std::string Quoted(const std::string& text) {

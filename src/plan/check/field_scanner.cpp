@@ -1,4 +1,4 @@
-#include "plan/field_scanner.h"
+#include "plan/check/field_scanner.h"
 
 #include "runtime/field_scan.h"
 

@@ -2,7 +2,7 @@
 // kind of a file is unknown; this names every fault with its line.
 #pragma once
 
-#include "plan/list_remarks.h"
+#include "plan/check/list_remarks.h"
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,5 @@
-#include "plan/gear_check.h"
+#include "plan/check/gear_check.h"
 
-#include "runtime/conversion.h"
-#include "runtime/fault.h"
 #include "runtime/text.h"
 #include "workspace/workspace.h"
 
@@ -16,10 +14,6 @@ namespace {
 constexpr int kFieldsOfACell = 3;
 constexpr int kFieldsOfARow = kGears * kFieldsOfACell;
 
-bool IsNumber(const std::string& text) {
-  return Guarded([&] { ParseNumber(text); }) == 0;
-}
-
 std::string PlaceName(int gear, int row) {
   return "gear " + std::to_string(gear) + ", row " + std::to_string(row);
 }
@@ -33,8 +27,8 @@ class CellChecker {
              const ScannedField& driven) {
     remarks_.CheckQuotes(text);
     if (text.text == kNoPair) {
-      remarks_.WholeNumber(drive);
-      remarks_.WholeNumber(driven);
+      remarks_.UnusedNumber(drive);
+      remarks_.UnusedNumber(driven);
       return;
     }
     CheckText(gear, row, text);
@@ -42,26 +36,22 @@ class CellChecker {
     remarks_.Teeth(driven);
   }
 
-  /// Gears none of whose cells held a pair, told at the line of the first row.
-  void CheckColumns(int line) {
-    for (int gear = 1; gear <= kGears; ++gear) {
-      if (rowOfText_[gear].empty())
-        remarks_.Fault(line, "gear " + std::to_string(gear) + " has no pair in any row");
-    }
-  }
-
  private:
   void CheckText(int gear, int row, const ScannedField& field) {
     const std::string place = PlaceName(gear, row) + ": ";
-    if (field.text.empty()) remarks_.Fault(field.line, place + "the text is empty");
+    if (field.text.empty()) remarks_.Warn(field.line, place + "the text is empty");
     if (Contains(field.text, "-")) {
-      remarks_.Fault(field.line,
-                     place + Quoted(field.text) + " holds \"-\", which parts the gears in plan files");
+      remarks_.Warn(field.line,
+                    place + Quoted(field.text) + " holds \"-\", which parts the gears in plan files");
+    }
+    if (field.text.find_first_of("\r\n") != std::string::npos) {
+      remarks_.Warn(field.line,
+                    place + Quoted(field.text) + " holds a line end, so plan files lose the pair");
     }
     const auto [same, isNew] = rowOfText_[gear].emplace(field.text, row);
     if (!isNew) {
-      remarks_.Fault(field.line, place + Quoted(field.text) + " stands in row " +
-                                     std::to_string(same->second) + " already");
+      remarks_.Warn(field.line, place + Quoted(field.text) + " stands in row " +
+                                    std::to_string(same->second) + " already");
     }
   }
 
@@ -71,8 +61,7 @@ class CellChecker {
 
 /// Reads the rows as the program does, one field after the other, wherever the lines end. False when the
 /// keyword does not stand where the rows end.
-bool CheckAsFields(FieldScanner scanner, int rows, ListRemarks& remarks) {
-  const int firstLine = scanner.Line();
+bool CheckAsFields(FieldScanner scanner, int rows, ListRemarks& remarks, ListPlaces& places) {
   CellChecker cells(remarks);
   for (int row = 1; row <= rows; ++row) {
     for (int gear = 1; gear <= kGears; ++gear) {
@@ -89,10 +78,10 @@ bool CheckAsFields(FieldScanner scanner, int rows, ListRemarks& remarks) {
           return false;
         }
       }
+      if (gear == 1) places.gearRow[row] = fields[0].line;
       cells.Check(gear, row, fields[0], fields[1], fields[2]);
     }
   }
-  cells.CheckColumns(firstLine);
   if (scanner.AtEnd()) {
     remarks.Fault(scanner.Line(), std::string("the file ends where ") + kMatrixKeyword + " is expected");
     return false;
@@ -106,10 +95,8 @@ bool CheckAsFields(FieldScanner scanner, int rows, ListRemarks& remarks) {
 
 /// Reads one row to a line, so that a field too few or too many is told where it is.
 void CheckAsLines(FieldScanner scanner, int rows, ListRemarks& remarks) {
-  const int firstLine = scanner.Line();
   CellChecker cells(remarks);
   int row = 0;
-  bool allRead = true;
   while (!scanner.AtEnd()) {
     std::vector<ScannedField> fields;
     while (fields.empty() || !fields.back().endsLine) fields.push_back(scanner.Field());
@@ -127,7 +114,6 @@ void CheckAsLines(FieldScanner scanner, int rows, ListRemarks& remarks) {
       remarks.Fault(first.line,
                     "gear row " + std::to_string(row) + ": text, driving and driven teeth of six gears are " +
                         std::to_string(kFieldsOfARow) + " fields, found " + std::to_string(count));
-      allRead = false;
       continue;
     }
     for (int gear = 1; gear <= kGears; ++gear) {
@@ -135,7 +121,6 @@ void CheckAsLines(FieldScanner scanner, int rows, ListRemarks& remarks) {
       cells.Check(gear, row, fields.at(k), fields.at(k + 1), fields.at(k + 2));
     }
   }
-  if (allRead) cells.CheckColumns(firstLine);
 }
 
 /// Whether some line before the matrix holds exactly one row.
@@ -165,39 +150,23 @@ bool FindMatrix(FieldScanner& scanner) {
   return false;
 }
 
-bool CheckGears(FieldScanner& scanner, int rows, ListRemarks& remarks) {
-  const FieldScanner atRows = scanner;
-  const bool found = FindMatrix(scanner);
-  ListRemarks asFields;
-  ListRemarks asLines;
-  if (!CheckAsFields(atRows, rows, asFields) && found && HasARowOnALine(atRows)) {
-    CheckAsLines(atRows, rows, asLines);
+bool GearRowsFit(FieldScanner scanner, int rows) {
+  for (int k = 0; k < rows * kFieldsOfARow; ++k) {
+    if (scanner.AtEnd() || scanner.Field().text == kMatrixKeyword) return false;
   }
-  remarks.Append(asLines.Faults() > 0 ? asLines : asFields);
-  return found;
+  return rows > 0 && scanner.Field().text == kMatrixKeyword;
 }
 
-void CheckMatrix(FieldScanner& scanner, int rows, ListRemarks& remarks) {
-  const int needed = rows * rows;
-  const std::string size =
-      std::to_string(needed) + " numbers are needed for " + std::to_string(rows) + " gear rows";
-  bool lineEnded = true;
-  for (int k = 0; k < needed; ++k) {
-    const FieldScanner before = scanner;
-    const ScannedField field = scanner.Field();
-    const bool missing = before.AtEnd() || Contains(field.text, "=");
-    if (missing) {
-      remarks.Fault(field.line, "the matrix ends after " + std::to_string(k) + " numbers; " + size);
-      scanner = before;
-      return;
-    }
-    remarks.WholeNumber(field);
-    lineEnded = field.endsLine;
+bool CheckGears(SectionReader& list, int rows) {
+  const FieldScanner atRows = list.scanner;
+  const bool found = FindMatrix(list.scanner);
+  ListRemarks asFields;
+  ListRemarks asLines;
+  if (!CheckAsFields(atRows, rows, asFields, list.places) && found && HasARowOnALine(atRows)) {
+    CheckAsLines(atRows, rows, asLines);
   }
-  FieldScanner ahead = scanner;
-  const ScannedField next = ahead.Field();
-  const bool more = lineEnded ? IsNumber(next.text) : !next.text.empty() && !Contains(next.text, "=");
-  if (more) remarks.Fault(next.line, "the matrix goes on; " + size);
+  list.remarks.Append(asLines.Faults() > 0 ? asLines : asFields);
+  return found;
 }
 
 }  // namespace veldrin

@@ -1,0 +1,20 @@
+// A search with the arguments of a command line.
+#pragma once
+
+#include "plan/arguments.h"
+#include "workspace/workspace.h"
+
+#include <string>
+
+namespace veldrin {
+
+/// Searches the machine's plans as the arguments ask for. True when there are some; they stand in `PlanList`.
+/// Raises what the searches raise: fault 9 for more plans than the list holds.
+bool RunSearch(const PlanArguments& arguments, Workspace& machine);
+
+/// An option with a value under which a search that found more plans than the list holds finds some that fit,
+/// such as "--main 3", and which options have to go for it; empty when there is none. It is tried out, so it
+/// helps. Raises nothing.
+std::string NarrowingOption(const PlanArguments& arguments, const Workspace& machine);
+
+}  // namespace veldrin

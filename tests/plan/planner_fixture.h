@@ -1,0 +1,72 @@
+// The planner as a whole: files on the disk, what it prints, and its exit status.
+#pragma once
+
+#include "plan/planner.h"
+#include "platform/system_code_pages.h"
+#include "tests/plan/sample_list.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace veldrin {
+
+namespace fs = std::filesystem;
+
+using Words = std::vector<std::string>;
+
+/// At 5000 rev/min and 1 m gear g of this list runs 20 + 20 g km/h with its one pair.
+inline constexpr char kPlainList[] =
+    "LIST\nPLAIN\nFINAL-DRIVE\n20,99\nFINAL-DRIVEN\n20,99\nROWS,1,PRIMARY\n20,60\n99\n-\n-\n"
+    "1A,40,100,\"2,A\",60,100,3\"A,80,100,変速,100,100,5A,120,100,6A,140,100\nM34-ARRAY\n0\n"
+    "TYRE_L=1\nSHIFT_NE=5000\n";
+
+class Planner : public testing::Test {
+ protected:
+  Planner() { fs::create_directories(folder_); }
+  ~Planner() override { fs::remove_all(folder_); }
+
+  std::string File(const std::string& name, const std::string& text) {
+    const fs::path path = folder_ / name;
+    std::ofstream(path, std::ios::binary) << text;
+    return path.string();
+  }
+  static std::string Sample(const char* name) { return (fs::path(VELDRIN_SHARE) / "LIST" / name).string(); }
+  static std::string TextOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+  /// Runs the planner; what it prints stands in `out` and `errors`.
+  int Run(const Words& words) {
+    std::ostringstream outStream;
+    std::ostringstream errorStream;
+    const int status = RunPlanner(words, pages, outStream, errorStream);
+    out = outStream.str();
+    errors = errorStream.str();
+    return status;
+  }
+  int Search(const std::string& path, const std::string& speeds, const Words& more = {}) {
+    Words words = {path, "--speed", speeds};
+    words.insert(words.end(), more.begin(), more.end());
+    return Run(words);
+  }
+  int ErrorLines() const { return static_cast<int>(std::count(errors.begin(), errors.end(), '\n')); }
+
+  CodePages pages = SystemCodePages(false);
+  std::string out;
+  std::string errors;
+
+  const fs::path folder_ =
+      fs::path(testing::TempDir()) /
+      (std::string("veldrin-plan-") + std::to_string(reinterpret_cast<std::uintptr_t>(this)) +
+       testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+}  // namespace veldrin
