@@ -48,6 +48,9 @@ void ShowNoPlan(Program& program) {
   DisableSpin(form2.Spin5);
   HideAll({&form2.Label38, &form2.Label13, &form2.Text6, &form2.Picture1, &form2.Picture2, &form2.Picture3,
            &form2.Picture4, &form2.Picture9, &form2.Picture12, &form2.Picture30, &form2.Picture31});
+  // What they list is the machine's that was.
+  for (int gear = 1; gear <= kGears; ++gear) form2.Picture23[gear].Visible = false;
+  form2.Picture24.Visible = false;
   form2.Text6.Text = "";
   form2.Picture21.surface.Clear();
   form2.Picture28.MousePointer = kPointerNoDrop;
