@@ -139,6 +139,7 @@ void LoadQuickRatioFile(Program& program) {
     AppendRest(program, reader);
   }
   PutInForce(program);
+  FillRequestBoxes(program);
   ShowConditions(program);
   program.form2.Text6.Visible = true;
   LeaveChooser(program);

@@ -25,10 +25,12 @@ constexpr NumberRange kTyreLength{1.0, 3.0};      // metres
 
 // ---- Scroll bars ----
 
+/// Readers move the bars too, and go on after a fault: the word must not outlast it.
 void RefreshForScroll(Program& program) {
   program.workspace.CallerWord = caller::kScroll;
-  RefreshPlan(program);
+  const int fault = Guarded([&] { RefreshPlan(program); });
   program.workspace.CallerWord = caller::kUser;
+  if (fault != 0) Raise(fault);
 }
 
 void HScroll1_Change(Program& program) {

@@ -242,7 +242,18 @@ void SpinButton2_SpinUp(Program& program, int gear) {
 void CopyBaselineToRequests(Program& program) {
   program.workspace.CallerWord = caller::kCopyRequests;
   for (int gear = 1; gear <= kGears; ++gear) TakeBaselineAsRequest(program, gear);
+  ShowRequestSteps(program);
   program.workspace.CallerWord = caller::kUser;
+}
+
+void FillRequestBoxes(Program& program) {
+  Workspace& workspace = program.workspace;
+  workspace.CallerWord = caller::kCopyRequests;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    program.form2.Text1[gear].Text = SingleText(workspace, workspace.SpeedRequest[gear]);
+  }
+  ShowRequestSteps(program);
+  workspace.CallerWord = caller::kUser;
 }
 
 void AttachGearPanelRequests(Program& program) {

@@ -8,8 +8,12 @@
 
 namespace veldrin {
 
-/// The baseline speeds, rounded half to even, become the requests and go to the boxes. Raises nothing.
+/// The baseline speeds, rounded half to even, become the requests and go to the boxes, with their steps.
+/// Raises nothing.
 void CopyBaselineToRequests(Program& program);
+
+/// The requests as they stand go to the boxes, with their steps. Raises nothing.
+void FillRequestBoxes(Program& program);
 
 /// Binds `Text1`, `Command1`, `Option1`, `Spin1`, `Spin3`, `Command10`, the up arrow of `Command6`,
 /// `SpinButton1`, `SpinButton2` and `Label34`.
