@@ -49,6 +49,16 @@ TEST_F(WindowsTest, EveryWrittenSlotIsShownAtOnce) {
   EXPECT_EQ(Differences(), Events{});
 }
 
+TEST_F(WindowsTest, ThumbOfAValueBeyondTheEndsIsShownAsItShouldBe) {
+  for (const int value : {130, -30}) {
+    form->HScroll1.Value = value;
+    EXPECT_EQ(Differences(), Events{}) << value;
+  }
+  form->HScroll1.Value = 50;
+  form->HScroll1.Max = 30;
+  EXPECT_EQ(Differences(), Events{});
+}
+
 TEST_F(WindowsTest, WidgetThatWasTamperedWithIsFound) {
   WidgetOf<QLabel>(form->Label1).setText("tampered");
   WidgetOf(form->Text1).hide();
