@@ -139,13 +139,4 @@ void RefreshDisplay(Program& program) {
   if (!flagStays) AdvanceDirtyFlag(program);
 }
 
-void ShowBaseline(Program& program, int gear) {
-  Workspace& workspace = program.workspace;
-  ShowSpeed(workspace, program.form2.Label2[gear], workspace.SpeedBaseline[gear]);
-  if (gear < 2) return;
-  const float step = ToSingle(workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1]);
-  workspace.SpeedStepBaseline[gear - 1] = step;
-  ShowStep(workspace, program.form2.Label39[gear - 1], step);
-}
-
 }  // namespace veldrin

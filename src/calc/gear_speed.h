@@ -30,8 +30,4 @@ double GearSpeed(const Workspace& workspace, double speedBeforeGear, int gear, i
 /// Raises fault 11 (or 6) where a speed or `ShiftNe` of 0 is a divisor, 9 for rows outside the tables.
 void RefreshDisplay(Program& program);
 
-/// The baseline's columns, which the refresh does not write: `Label2` of a gear, and from 2nd gear up
-/// `SpeedStepBaseline` and `Label39` of the step to it. Raises fault 6 for a step beyond 32 bits.
-void ShowBaseline(Program& program, int gear);
-
 }  // namespace veldrin

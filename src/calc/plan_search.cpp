@@ -2,6 +2,7 @@
 
 #include "view/bind.h"
 #include "workspace/control_states.h"
+#include "workspace/decision_panel.h"
 #include "workspace/language.h"
 
 #include <algorithm>
@@ -64,14 +65,9 @@ void ShowSuccess(Program& program) {
   Form2& form2 = program.form2;
   program.workspace.ResultWord = result::kNone;
   form2.Label23.ForeColor = kMagenta;
-  form2.Label23.Caption = Message(program.workspace, 12);
+  form2.Label23.Caption = Message(program.workspace, kFoundMessage);
   EnableAll({&form2.menu_file, &form2.menu_f, &form2.menu_opt});
   program.machine.windows.Repaint(form2.Label23);
-}
-
-void ShowFailurePanel(Program& program) {
-  program.form2.Picture20.BringToFront();
-  program.form2.Picture20.Visible = true;
 }
 
 /// A quick-ratio or reference file asked for speeds that this machine cannot reach.
@@ -152,7 +148,7 @@ void PlanSearchAuto(Program& program) {
     ShowSuccess(program);
     return;
   }
-  ShowFailurePanel(program);
+  AskQuestion(program, Question::NoPlanFound, PanelTexts::KeepThoseOfSearch);
   program.form2.Command8.Enabled = false;
   program.form2.Label23.Visible = false;
   program.workspace.ResultWord = result::kNoPlan;
@@ -167,16 +163,17 @@ void PlanSearchMixed(Program& program) {
     return;
   }
   program.workspace.ResultWord = result::kNone;
-  ShowFailurePanel(program);
-  SetQuestion(program, 14, 19, 23);
+  AskQuestion(program, Question::NoPlanFound);
   program.form2.Label23.Visible = false;
   program.workspace.ResultWord = result::kNoPlan;
 }
 
 void StartSearch(Program& program) {
   Form2& form2 = program.form2;
+  // Its plan, or its own question, comes in the place of what is asked now.
+  DropQuestion(program);
   HideAll({&form2.Picture2, &form2.Picture3, &form2.Picture4, &form2.Picture12, &form2.Picture30});
-  form2.Label23.Caption = Message(program.workspace, 11);
+  form2.Label23.Caption = Message(program.workspace, kSearchingMessage);
   form2.Label23.Visible = true;
   DisableAll({&form2.Command2, &form2.Command3, &form2.Command4, &form2.Command5});
   form2.Picture28.MousePointer = kPointerNoDrop;

@@ -3,6 +3,7 @@
 #include "dialogs/load_dispatch.h"
 #include "runtime/text.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/decision_panel.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
 #include "workspace/paths.h"
@@ -15,8 +16,6 @@
 namespace veldrin {
 
 namespace {
-
-constexpr int kReservedMessage = 9;
 
 /// The typed name, with the machine's extension behind it unless it has that.
 /// Kept: a name with another extension gets a second one.
@@ -53,7 +52,10 @@ bool WritePlan(Program& program) {
     RestorePlan(program);
     program.files.Close(Handle::Plan);
   });
-  if (fault == 0) return true;
+  if (fault == 0) {
+    DropQuestion(program);  // the changes that it asked about are saved
+    return true;
+  }
   program.files.Abandon(Handle::Plan);
   program.workspace.DataChanged = dirty::kYes;
   ShowChooserPrompt(program, kUnknownKindMessage);
@@ -132,7 +134,7 @@ void FirstOk(Program& program) {
   workspace.DataPath = workspace.TempDir;
   if (TargetIsReserved(program)) {
     program.form3.Command1.Enabled = false;
-    ShowChooserPrompt(program, kReservedMessage);
+    ShowChooserPrompt(program, kReservedTargetMessage);
     return;
   }
   // A name with a folder in it is not among the folder's names, but its file may be there all the same.

@@ -7,6 +7,8 @@
 #include "dialogs/reference_file.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/chooser_setup.h"
+#include "workspace/decision_panel.h"
 #include "workspace/language.h"
 #include "workspace/list_tables.h"
 #include "workspace/machine_list.h"
@@ -102,21 +104,31 @@ void LoadList(Program& program) {
 void ReadConfirmedList(Program& program) {
   ClearMachine(program.workspace);
   ReadMachineList(program);
+  program.chooser.waitingList.clear();
   program.form2.Text6.Text = "";
   program.form3.Label4.Caption = "";
   program.form3.Label4.Visible = false;
 }
 
+bool AsksForChangeOfMachine(const Program& program) {
+  const Label& prompt = program.form3.Label4;
+  return prompt.Visible && prompt.Caption == Message(program.workspace, kMachineChangeMessage);
+}
+
+/// Kept: a question that a change of the name has dropped leaves its list open, and the next OK fails on
+/// that.
 void LoadData(Program& program) {
   Workspace& workspace = program.workspace;
-  const Label& prompt = program.form3.Label4;
+  const std::string path = ChosenPath(program, program.form3.File1.FileName);
   workspace.DataPath = workspace.TempDir;
-  if (prompt.Visible && prompt.Caption == Message(workspace, kMachineChangeMessage)) {
-    ReadConfirmedList(program);
-    return;
+  if (AsksForChangeOfMachine(program)) {
+    if (EqualsIgnoringCase(path, program.chooser.waitingList)) return ReadConfirmedList(program);
+    // Another file, or one of the same name elsewhere, was picked under the question.
+    ForgetWaitingList(program);
+    program.form3.Label4.Visible = false;
   }
   workspace.CallerWord = caller::kForm3DataLoad;
-  OpenAnyFile(program, ChosenPath(program, program.form3.File1.FileName));
+  OpenAnyFile(program, path);
 }
 
 /// OK. The folder chosen is kept in the variable of the temporary folder, which who needs that reads anew.
@@ -174,6 +186,7 @@ void Command2_Click(Program& program) {
   form3.File1.Visible = true;
   form3.Label1.Visible = true;
   CancelPendingLoad(program);
+  EndAnsweredLoad(program);
   form3.Hide();
   program.form2.Show();
 }

@@ -1,7 +1,7 @@
 #include "dialogs/load_dispatch.h"
 
 #include "workspace/chooser_setup.h"
-#include "workspace/control_states.h"
+#include "workspace/decision_panel.h"
 #include "workspace/language.h"
 
 namespace veldrin {
@@ -16,12 +16,8 @@ bool MustAsk(const Program& program) {
   return program.workspace.QuickQuit != kYesWord && program.workspace.DataChanged == dirty::kYes;
 }
 
-/// The safe key press is the discarding answer, so it has the focus.
 void Ask(Program& program, const char* modeWord) {
-  Form2& form2 = program.form2;
-  SetQuestion(program, 16, 21, 25);
-  DisableAll({&form2.Command7, &form2.Command11, &form2.HScroll1, &form2.HScroll2});
-  RaiseDecisionPanel(program);
+  AskQuestion(program, Question::LoadWithChanges);
   program.workspace.ModeWord = modeWord;
 }
 
@@ -56,7 +52,7 @@ void OpenQuickRatioChooser(Program& program) {
   if (MustAsk(program)) return Ask(program, mode::kQuickRatio);
   SetTitle(program, ChooserRole::QuickRatio);
   SetUpChooserBoxes(program, {kAnyPattern}, program.workspace.DataPath);
-  ShowChooserPrompt(program, 10);
+  ShowChooserPrompt(program, kQuickRatioPromptMessage);
   ShowChooser(program, program.form3.File1);
 }
 
@@ -66,7 +62,7 @@ void OpenReferenceChooser(Program& program) {
   SetUpChooserBoxes(program, {kAnyPattern}, program.workspace.DataPath);
   OfferCancel(program);
   program.form3.Command3.Visible = false;
-  ShowChooserPrompt(program, 28);
+  ShowChooserPrompt(program, kReferencePromptMessage);
   ShowChooser(program, program.form3.File1);
 }
 

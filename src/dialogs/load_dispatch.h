@@ -2,6 +2,7 @@
 // one of its roles. There is no role variable: the role is the window's title, one of the messages below.
 #pragma once
 
+#include "workspace/language.h"
 #include "workspace/program.h"
 
 namespace veldrin {
@@ -9,12 +10,12 @@ namespace veldrin {
 /// The chooser's roles by the messages of their titles.
 enum class ChooserRole : int {
   None = 0,
-  LoadList = 1,
-  LoadData = 2,
-  Save = 3,
-  Delete = 4,
-  QuickRatio = 5,
-  Reference = 27,
+  LoadList = kListTitleMessage,
+  LoadData = kDataTitleMessage,
+  Save = kSaveTitleMessage,
+  Delete = kDeleteTitleMessage,
+  QuickRatio = kQuickRatioTitleMessage,
+  Reference = kReferenceTitleMessage,
 };
 
 /// The role that the chooser's title names.

@@ -1,7 +1,6 @@
 #include "mainwin/gear_panel.h"
 
 #include "calc/gear_speed.h"
-#include "mainwin/decision_panel.h"
 #include "mainwin/gear_panel_boxes.h"
 #include "mainwin/gear_panel_chart.h"
 #include "mainwin/gear_panel_lists.h"
@@ -9,6 +8,7 @@
 #include "mainwin/gear_panel_requests.h"
 #include "mainwin/gear_panel_steps.h"
 #include "view/bind.h"
+#include "workspace/decision_panel.h"
 #include "workspace/plan_file.h"
 
 #include <string>
@@ -45,7 +45,9 @@ void f_comp_Click(Program& program) {
   program.form2.Command4.MouseUp(kLeftButton);
 }
 
+/// A save that the user starts is followed by nothing: what an answer of long ago wanted to follow is void.
 void Command5_Click(Program& program) {
+  if (!SavesForAnswer(program)) program.workspace.PendingAction = pending::kNone;
   program.hooks.OpenSaveChooser();
 }
 
@@ -70,12 +72,17 @@ void menu_qr_Click(Program& program) {
   program.hooks.OpenQuickRatioChooser();
 }
 
-/// Without a plan in the working file there is nothing to restore: nothing is said, and changes stay changes.
+/// Without a plan of this machine in the working file there is nothing to restore: nothing is said, and
+/// changes stay changes. With them goes the question that is asked about them.
 void Restore(Program& program) {
   Workspace& workspace = program.workspace;
   const std::string dataChanged = workspace.DataChanged;
   const std::string remarkChanged = workspace.RemarkChanged;
-  if (Guarded([&] { RestorePlan(program); }) == 0) return;
+  bool restored = false;
+  if (Guarded([&] { restored = RestorePlan(program); }) == 0) {
+    if (restored) DropQuestion(program);
+    return;
+  }
   workspace.CallerWord = caller::kUser;
   workspace.DataChanged = dataChanged;
   workspace.RemarkChanged = remarkChanged;

@@ -3,7 +3,7 @@
 //   gear_panel_modes     which panel stands where     gear_panel_boxes   running conditions and remark
 //   gear_panel_requests  speeds, tolerances           gear_panel_chart   the pointer on the chart
 //   gear_panel_steps     arrows of the plan           gear_panel_state   states set alike by several
-//   gear_panel_lists     lists to pick from           decision_panel     questions and their answers
+//   gear_panel_lists     lists to pick from
 //
 // `CallerWord` tells the Change events who is writing; what it holds back stands at the top of each unit.
 #pragma once

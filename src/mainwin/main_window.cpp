@@ -4,7 +4,7 @@
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/chooser_setup.h"
-#include "workspace/control_states.h"
+#include "workspace/decision_panel.h"
 #include "workspace/language.h"
 #include "workspace/paths.h"
 #include "workspace/settings.h"
@@ -103,10 +103,11 @@ void Form2_Unload(Program& program) {
 
 // ---- Timers ----
 
-/// Lets the chooser come up again from outside its own OK.
+/// Lets the chooser come up again from outside its own OK. The load that an answer wanted ends with it.
 void Timer2_Timer(Program& program) {
   program.form2.Timer2.Enabled = false;
   ShowChooser(program, program.form3.File1);
+  EndAnsweredLoad(program);
 }
 
 void Timer3_Timer(Program& program) {
@@ -165,7 +166,7 @@ void Form2_Load(Program& program) {
   Workspace& workspace = program.workspace;
   Guarded([&] { LoadLanguage(program); });
   // After a first search without a plan these are what the panel still holds.
-  SetQuestion(program, 14, 19, 23);
+  SetQuestionTexts(program, Question::NoPlanFound);
   if (CountryCode(program, 0) == kJapan) SetJapaneseFonts(program.form2);
   if (!workspace.FirstInstance) program.form2.menu_opt.Visible = false;
   Guarded([&] { program.hooks.BuildExtensionMenu(); });
@@ -185,8 +186,7 @@ void Form2_QueryUnload(Program& program, int reason) {
   form2.WindowState = static_cast<int>(WindowState::Normal);
   form2.Timer3.Enabled = true;
   if (reason == static_cast<int>(CloseReason::SessionEnd)) ShowSessionEndBox(program);
-  SetQuestion(program, 15, 20, 24);
-  RaiseDecisionPanel(program);
+  AskQuestion(program, Question::QuitWithChanges);
 }
 
 void AttachMainWindow(Program& program) {

@@ -13,6 +13,7 @@
 #include "dialogs/settings_dialog.h"
 #include "mainwin/combination.h"
 #include "mainwin/gear_panel.h"
+#include "mainwin/gear_panel_chart.h"
 #include "mainwin/layout.h"
 #include "mainwin/main_window.h"
 #include "mainwin/report.h"
@@ -26,6 +27,7 @@ std::unique_ptr<Program> AssembleProgram(Machine& machine) {
   program->hooks.ChartScale = [&p = *program] { ChartScale(p); };
   program->hooks.ChartPlan = [&p = *program] { ChartPlan(p); };
   program->hooks.RefreshDisplay = [&p = *program] { RefreshDisplay(p); };
+  program->hooks.RefreshPlan = [&p = *program] { RefreshPlan(p); };
   AttachStartup(*program);
   AttachPlanSearch(*program);
   AttachMainWindow(*program);

@@ -59,6 +59,11 @@ std::string CallAddToHistory(ScriptWorld& world, const Arguments& arguments) {
   return "";
 }
 
+std::string CallRestorePlan(ScriptWorld& world, const Arguments& /*arguments*/) {
+  RestorePlan(world.Running());
+  return "";
+}
+
 struct Operation {
   const char* name;
   std::size_t arguments;
@@ -75,7 +80,7 @@ constexpr Operation kOperations[] = {
     {"ChartScale",     0, "",                       Plain<ChartScale>},
     {"ChartPlan",      0, "",                       Plain<ChartPlan>},
     {"ChartRequest",   0, "",                       Plain<ChartRequest>},
-    {"RestorePlan",    0, "",                       Plain<RestorePlan>},
+    {"RestorePlan",    0, "",                       CallRestorePlan},
     {"AddToHistory",   1, "PATH",                   CallAddToHistory},
 };
 // clang-format on

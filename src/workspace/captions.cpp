@@ -1,5 +1,6 @@
 #include "workspace/captions.h"
 
+#include "runtime/conversion.h"
 #include "runtime/text.h"
 
 namespace veldrin {
@@ -26,6 +27,15 @@ void ShowSpeed(const Workspace& workspace, Label& label, float speed) {
 void ShowStep(const Workspace& workspace, Label& label, float step) {
   label.Caption = FormatSingle(workspace, step, "##.#");
   AlignCaption(kStepColumn, label);
+}
+
+void ShowBaseline(Program& program, int gear) {
+  Workspace& workspace = program.workspace;
+  ShowSpeed(workspace, program.form2.Label2[gear], workspace.SpeedBaseline[gear]);
+  if (gear < 2) return;
+  const float step = ToSingle(workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1]);
+  workspace.SpeedStepBaseline[gear - 1] = step;
+  ShowStep(workspace, program.form2.Label39[gear - 1], step);
 }
 
 }  // namespace veldrin

@@ -1,8 +1,7 @@
 // Speeds as the columns show them: by format, then padded so that the decimal point stands in a fixed place.
 #pragma once
 
-#include "view/controls.h"
-#include "workspace/workspace.h"
+#include "workspace/program.h"
 
 namespace veldrin {
 
@@ -19,5 +18,9 @@ void ShowSpeed(const Workspace& workspace, Label& label, float speed);
 
 /// A step between two gears in km/h by "##.#", aligned.
 void ShowStep(const Workspace& workspace, Label& label, float step);
+
+/// The baseline's columns, which a refresh does not write: `Label2` of a gear, and from 2nd gear up
+/// `SpeedStepBaseline` and `Label39` of the step to it. Raises fault 6 for a step beyond 32 bits.
+void ShowBaseline(Program& program, int gear);
 
 }  // namespace veldrin

@@ -12,6 +12,7 @@ std::string DataPattern(const Workspace& workspace) {
 void SetUpChooserBoxes(Program& program, const std::vector<std::string>& patterns,
                        const std::string& folder) {
   Form3& form3 = program.form3;
+  ForgetWaitingList(program);
   form3.Combo2.Clear();
   for (const std::string& pattern : patterns) form3.Combo2.AddItem(pattern);
   form3.Combo2.ListIndex = static_cast<int>(patterns.size()) - 1;
@@ -24,6 +25,13 @@ void SetUpChooserBoxes(Program& program, const std::vector<std::string>& pattern
   form3.File1.Pattern = kAnyPattern;
   form3.File1.Pattern = patterns.back();
   form3.Command1.Enabled = false;
+}
+
+void ForgetWaitingList(Program& program) {
+  if (program.chooser.waitingList.empty()) return;
+  program.chooser.waitingList.clear();
+  program.files.Close(Handle::Reader);
+  program.form2.Timer2.Enabled = false;
 }
 
 void ShowChooserPrompt(Program& program, int message) {

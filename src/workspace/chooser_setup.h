@@ -17,8 +17,13 @@ std::string DataPattern(const Workspace& workspace);
 
 /// Fills `Combo2` with the patterns, the last of them picked and in `Combo1`, disables OK, and points the
 /// boxes at the folder; one that cannot be had leaves them where they are. The pattern goes over "*.*", so
-/// that the list is rebuilt even where it is the same as before. Raises nothing.
+/// that the list is rebuilt even where it is the same as before. A question that an earlier opening has left
+/// is over. Raises nothing.
 void SetUpChooserBoxes(Program& program, const std::vector<std::string>& patterns, const std::string& folder);
+
+/// Ends the question for a change of machine, wherever it stands: its list is closed, and the chooser does
+/// not come up again by itself. Raises nothing.
+void ForgetWaitingList(Program& program);
 
 /// Shows a message on the prompt line, in front.
 void ShowChooserPrompt(Program& program, int message);

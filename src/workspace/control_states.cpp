@@ -1,7 +1,5 @@
 #include "workspace/control_states.h"
 
-#include "workspace/language.h"
-
 namespace veldrin {
 
 namespace {
@@ -54,18 +52,6 @@ void EnableRowSpins(Program& program) {
 void EnableRestore(Program& program, bool enabled) {
   program.form2.Command7.Enabled = enabled;
   program.form2.f_rest.Enabled = enabled;
-}
-
-void SetQuestion(Program& program, int question, int left, int right) {
-  program.form2.Label17.Caption = Message(program.workspace, question);
-  program.form2.Command8.Caption = Message(program.workspace, left);
-  program.form2.Command9.Caption = Message(program.workspace, right);
-}
-
-void RaiseDecisionPanel(Program& program) {
-  program.form2.Picture20.Visible = true;
-  program.form2.Picture20.BringToFront();
-  SetFocus(program.form2.Command9);
 }
 
 }  // namespace veldrin

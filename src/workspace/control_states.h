@@ -27,10 +27,4 @@ void EnableRowSpins(Program& program);
 /// Restore, as button and as menu entry.
 void EnableRestore(Program& program, bool enabled);
 
-/// The three texts of the decision panel by their messages: a question and its two answers.
-void SetQuestion(Program& program, int question, int left, int right);
-
-/// Puts the decision panel in front, with the focus on the right answer, the discarding one.
-void RaiseDecisionPanel(Program& program);
-
 }  // namespace veldrin

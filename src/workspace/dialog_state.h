@@ -41,6 +41,11 @@ struct CompareState {
   Table<CompareSlotRecord, 0, kCompareSlots - 1> CompareSlot;
 };
 
+struct ChooserState {
+  /// Path of the list that was picked for a plan and stands open until the change of machine is confirmed.
+  std::string waitingList;
+};
+
 struct SettingsDialogState {
   std::string ValidationResult;
 };

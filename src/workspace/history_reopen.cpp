@@ -1,7 +1,7 @@
 #include "workspace/history_reopen.h"
 
 #include "workspace/chooser_setup.h"
-#include "workspace/control_states.h"
+#include "workspace/decision_panel.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 #include "workspace/paths.h"
@@ -49,8 +49,9 @@ void OpenThroughChooser(Program& program, const std::string& path) {
 }
 
 void OpenEntry(Program& program, const std::string& path) {
+  ForgetWaitingList(program);
   Form3& form3 = program.form3;
-  const std::string& dataRole = Message(program.workspace, 2);
+  const std::string& dataRole = Message(program.workspace, kDataTitleMessage);
   const bool inDataRole = form3.Caption == dataRole;
   form3.Caption = dataRole;
   if (inDataRole && SelectedPath(program) == path) {
@@ -64,8 +65,7 @@ void OpenEntry(Program& program, const std::string& path) {
 }
 
 void AskForChanges(Program& program, int index) {
-  SetQuestion(program, 17, 21, 25);
-  RaiseDecisionPanel(program);
+  AskQuestion(program, Question::HistoryLoadWithChanges);
   program.workspace.PendingHistoryIndex = static_cast<std::int16_t>(index);
 }
 

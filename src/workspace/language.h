@@ -14,11 +14,39 @@ namespace veldrin {
 /// Messages that are in use; the table has room for 30.
 inline constexpr int kMessages = 28;
 
-// Numbers of those that several units show or look for.
+// Messages by what they are for. Titles of the chooser, by which it knows its role:
+inline constexpr int kListTitleMessage = 1;
+inline constexpr int kDataTitleMessage = 2;
+inline constexpr int kSaveTitleMessage = 3;
+inline constexpr int kDeleteTitleMessage = 4;
+inline constexpr int kQuickRatioTitleMessage = 5;
+inline constexpr int kReferenceTitleMessage = 27;
+// Its prompt line:
 inline constexpr int kUnknownKindMessage = 6;
 inline constexpr int kMachineChangeMessage = 7;
 inline constexpr int kOverwriteMessage = 8;
+inline constexpr int kReservedTargetMessage = 9;
+inline constexpr int kQuickRatioPromptMessage = 10;
 inline constexpr int kMissingFileMessage = 26;
+inline constexpr int kReferencePromptMessage = 28;
+// The banner of the search:
+inline constexpr int kSearchingMessage = 11;
+inline constexpr int kFoundMessage = 12;
+// Questions of the decision panel:
+inline constexpr int kSpeedsDifferMessage = 13;
+inline constexpr int kNoPlanFoundMessage = 14;
+inline constexpr int kQuitWithChangesMessage = 15;
+inline constexpr int kLoadWithChangesMessage = 16;
+inline constexpr int kHistoryLoadWithChangesMessage = 17;
+// Its answers:
+inline constexpr int kRecalculateBySpeedMessage = 18;
+inline constexpr int kRecalculateByFullAutoMessage = 19;
+inline constexpr int kSaveAndQuitMessage = 20;
+inline constexpr int kSaveAndLoadMessage = 21;
+inline constexpr int kReadPlanMessage = 22;
+inline constexpr int kEnterRequestsAgainMessage = 23;
+inline constexpr int kQuitWithoutSavingMessage = 24;
+inline constexpr int kLoadWithoutSavingMessage = 25;
 
 /// Sets `TitlePrefix`, `ChangedMark` and `IsJapanese` by the system's country. `instanceNumber` counts from 1
 /// and shows in the Japanese title alone. Raises nothing.

@@ -2,6 +2,7 @@
 
 #include "runtime/text.h"
 #include "workspace/control_states.h"
+#include "workspace/decision_panel.h"
 #include "workspace/history_menu.h"
 #include "workspace/language.h"
 #include "workspace/list_tables.h"
@@ -62,7 +63,8 @@ void ShowNoPlan(Program& program) {
 
 /// The file asked for a list and a plan was wanted: it stays open until the user confirms the change of
 /// machine with a second OK, for which the chooser is shown again from outside its own OK.
-void AskForChangeOfMachine(Program& program) {
+void AskForChangeOfMachine(Program& program, const std::string& path) {
+  program.chooser.waitingList = path;
   program.form3.Label4.Caption = Message(program.workspace, kMachineChangeMessage);
   program.workspace.ResultWord = result::kAnotherList;
   program.form3.Label4.Visible = true;
@@ -119,7 +121,7 @@ bool OpenByTag(Program& program, const std::string& path) {
   const std::string tag = program.files.Reader(Handle::Reader).Field();
   if (tag.starts_with("LIST")) {
     if (program.workspace.CallerWord == caller::kForm3DataLoad) {
-      AskForChangeOfMachine(program);
+      AskForChangeOfMachine(program, path);
     } else {
       ReadMachineList(program);
     }
@@ -184,6 +186,7 @@ void ReadMachineList(Program& program) {
   workspace.FinalIndex = 1;
   form2.Label6.Caption = workspace.PrimaryTable[1].Text;
   form2.Label8.Caption = workspace.FinalTable[1].Text;
+  DropQuestion(program);  // its plan has gone
   ShowNoPlan(program);
   workspace.ModeWord = mode::kBasing;
   workspace.DataChanged = dirty::kZero;

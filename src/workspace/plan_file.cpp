@@ -5,6 +5,7 @@
 #include "workspace/captions.h"
 #include "workspace/control_states.h"
 #include "workspace/decimal.h"
+#include "workspace/decision_panel.h"
 #include "workspace/language.h"
 #include "workspace/list_tables.h"
 #include "workspace/paths.h"
@@ -129,15 +130,11 @@ void ShowRows(Program& program) {
 }
 
 void ShowGears(Program& program) {
-  Workspace& workspace = program.workspace;
+  const Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
   for (int gear = 1; gear <= kGears; ++gear) {
-    ShowSpeed(workspace, form2.Label2[gear], workspace.SpeedBaseline[gear]);
+    ShowBaseline(program, gear);
     form2.Label12[gear].Caption = workspace.GearTable(gear, workspace.PlanIndex[gear]);
-    if (gear < 2) continue;
-    const float step = ToSingle(workspace.SpeedBaseline[gear] - workspace.SpeedBaseline[gear - 1]);
-    workspace.SpeedStepBaseline[gear - 1] = step;
-    ShowStep(workspace, form2.Label39[gear - 1], step);
   }
 }
 
@@ -187,15 +184,9 @@ void RefreshAfterReading(Program& program) {
 
 /// The stored speeds belong to other tables: the user chooses between them and the stored plan.
 void AskWhatToBelieve(Program& program) {
-  Form2& form2 = program.form2;
-  form2.Picture20.Visible = true;
-  form2.Picture20.BringToFront();
-  SetQuestion(program, 13, 18, 22);
-  // A box that loses the focus because it is disabled here has not been left by the user.
+  // A box that loses the focus because the question disables it has not been left by the user.
   program.workspace.CallerWord = caller::kModule1;
-  DisableAll({&form2.Command11, &form2.Text2, &form2.Text3, &form2.Text4, &form2.Text6, &form2.HScroll1,
-              &form2.HScroll2});
-  for (int gear = 1; gear <= kGears; ++gear) DisableAll({&form2.Label12[gear], &form2.Spin6[gear]});
+  AskQuestion(program, Question::SpeedsDiffer);
   program.workspace.CallerWord = caller::kUser;
 }
 
@@ -208,6 +199,25 @@ void ShowPlanMode(Program& program) {
   form2.f_comp.Enabled = true;
   form2.Label12[3].BackColor = kLightGrey;
   form2.Label12[4].BackColor = kLightGrey;
+}
+
+/// A file that was refused half-way leaves behind what was read of it. The boxes, the bars and the columns
+/// show what is in force then.
+void ShowWhatIsInForce(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  workspace.CallerWord = caller::kInit;
+  form2.Text3.Text = SingleText(workspace, workspace.TyreLength);
+  form2.Text4.Text = std::to_string(workspace.ShiftNe);
+  form2.HScroll1.Value = workspace.ShiftNe;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    if (workspace.SpeedBaseline[gear] != 0) Guarded([&] { ShowBaseline(program, gear); });
+  }
+  const bool planOnShow = !workspace.ModeWord.empty() && workspace.ModeWord != mode::kBasing;
+  // What was read is no change of the user's.
+  workspace.CallerWord = caller::kScroll;
+  if (planOnShow) Guarded([&] { program.hooks.RefreshPlan(); });
+  workspace.CallerWord = caller::kUser;
 }
 
 // ---- Writing ----
@@ -239,7 +249,9 @@ std::string PlanText(const Program& program) {
 
 }  // namespace
 
-void ReadPlanFile(Program& program) {
+namespace {
+
+void ReadOpenPlan(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
   TextReader& reader = program.files.Reader(Handle::Reader);
@@ -267,21 +279,29 @@ void ReadPlanFile(Program& program) {
   RefreshAfterReading(program);
   if (workspace.ResultWord == result::kDifferent) AskWhatToBelieve(program);
   ShowPlanMode(program);
-  WriteWorkFile(program);
+  const int fault = Guarded([&] { WriteWorkFile(program); });
+  if (fault != 0) {
+    // A stale working file holds the dirty flag where it is: edits that it could not tell must not be lost.
+    workspace.DataChanged = dirty::kYes;
+    Raise(fault);
+  }
   EnableRestore(program, false);
 }
 
-void RestorePlan(Program& program) {
+/// Whether the first line of a working file names the loaded machine. That of a machine left meanwhile does
+/// not, nor does the empty line of a file that no plan was written to.
+bool NamesLoadedMachine(const Workspace& workspace, TextReader& reader) {
+  return !reader.AtEnd() && LowerCase(reader.Line()) == "from:" + workspace.MachineKey + ".rat";
+}
+
+void ReadWorkFile(Program& program, TextReader& reader) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  // Read at one stroke and not through a handle, so that a fault on the way leaves none open.
-  TextReader reader(program.machine.files.ReadText(workspace.WorkFile));
   workspace.CallerWord = caller::kOriginal;
   ForgetChanges(workspace);
   form2.Picture21.surface.Clear();
   workspace.ResultWord = result::kOk;
 
-  reader.Line();
   workspace.TyreLength = ReadDecimal(workspace, reader);
   workspace.ShiftNe = ToInt16(ReadDecimal(workspace, reader));
   form2.HScroll1.Value = workspace.ShiftNe;
@@ -291,11 +311,36 @@ void RestorePlan(Program& program) {
   UnmarkTitle(program);
   ShowPlanControls(program);
   if (workspace.ModeWord != mode::kData) workspace.ModeWord = mode::kChange;
+  ReturnToMode(program, mode::kChange);
   // The chooser stays: a save restores from inside its OK and may go on in another role.
 
   RefreshAfterReading(program);
   ShowPlanMode(program);
   EnableRestore(program, false);
+}
+
+/// Reads a plan; one that is refused shows how far it came.
+template <class Read>
+void ReadOrShowHowFar(Program& program, Read read) {
+  const int fault = Guarded(read);
+  if (fault == 0) return;
+  ShowWhatIsInForce(program);
+  Raise(fault);
+}
+
+}  // namespace
+
+void ReadPlanFile(Program& program) {
+  DropQuestion(program);  // its plan gives way
+  ReadOrShowHowFar(program, [&] { ReadOpenPlan(program); });
+}
+
+bool RestorePlan(Program& program) {
+  // Read at one stroke and not through a handle, so that a fault on the way leaves none open.
+  TextReader reader(program.machine.files.ReadText(program.workspace.WorkFile));
+  if (!NamesLoadedMachine(program.workspace, reader)) return false;
+  ReadOrShowHowFar(program, [&] { ReadWorkFile(program, reader); });
+  return true;
 }
 
 void SavePlanFile(Program& program) {
@@ -309,11 +354,14 @@ void WriteWorkFile(Program& program) {
   Workspace& workspace = program.workspace;
   const std::string text = PlanText(program);
   Guarded([&] { program.machine.files.Delete(workspace.WorkFile); });
-  program.files.OpenOutput(Handle::WorkFile, workspace.WorkFile);
-  const int fault = Guarded([&] { program.files.Write(Handle::WorkFile, text); });
-  program.files.Close(Handle::WorkFile);
+  const int fault = Guarded([&] {
+    program.files.OpenOutput(Handle::WorkFile, workspace.WorkFile);
+    program.files.Write(Handle::WorkFile, text);
+    program.files.Close(Handle::WorkFile);
+  });
+  program.files.Abandon(Handle::WorkFile);
+  workspace.WorkFileStale = fault != 0;
   if (fault != 0) Raise(fault);
-  workspace.WorkFileStale = false;
 }
 
 }  // namespace veldrin

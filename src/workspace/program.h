@@ -11,6 +11,7 @@
 #include "view/form6.h"
 #include "view/form7.h"
 #include "view/form9.h"
+#include "workspace/decision_panel_state.h"
 #include "workspace/dialog_state.h"
 #include "workspace/file_handles.h"
 #include "workspace/workspace.h"
@@ -40,6 +41,8 @@ struct Hooks {
   Hook ChartScale;
   Hook ChartPlan;
   Hook RefreshDisplay;
+  /// The same, with the chart of the requests while these are being entered.
+  Hook RefreshPlan;
   /// The extension menu: built when the main window loads, brought up to date when a list was read.
   Hook BuildExtensionMenu;
   Hook UpdateExtensionMenu;
@@ -62,7 +65,9 @@ struct Program {
   Workspace workspace;
   PlanDialogState planDialog;
   CompareState compare;
+  ChooserState chooser;
   SettingsDialogState settingsDialog;
+  DecisionPanelState decisionPanel;
   Hooks hooks;
 
   /// How the program ended: not at all, at its own word (fault 0), or by a fault.

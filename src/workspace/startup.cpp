@@ -70,13 +70,13 @@ void SetUpListChooser(Program& program) {
   Form3& form3 = program.form3;
   form3.Left = (program.machine.screen.Width() - form3.Width) / 2;
   form3.Top = (program.machine.screen.Height() - form3.Height) / 2;
-  form3.Caption = Message(program.workspace, 1);
+  form3.Caption = Message(program.workspace, kListTitleMessage);
   OfferCancel(program);
   SetUpChooserBoxes(program, {kListPattern}, program.workspace.ListPath);
 }
 
 void SetUpDataChooser(Program& program) {
-  program.form3.Caption = Message(program.workspace, 2);
+  program.form3.Caption = Message(program.workspace, kDataTitleMessage);
   OfferCancel(program);
   program.form3.Command3.Visible = false;
   SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);

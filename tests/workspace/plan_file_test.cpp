@@ -597,11 +597,55 @@ TEST_F(PlanFile, RestoreKeepsTheModeWordDataAlone) {
   EXPECT_EQ(workspace.ModeWord, "DATA");
 }
 
-TEST_F(PlanFile, RestoreBeforeTheFirstPlanFails) {
-  simulated.files.AddFile(kWorkPath, "\r\n");
-  EXPECT_EQ(Guarded([&] { RestorePlan(program); }), kFaultPastEnd);
+TEST_F(PlanFile, WithoutAPlanOfTheLoadedMachineNothingIsRestored) {
+  Open(PlanLines());
+  Lines other = PlanLines();
+  other[1] = "1.5";
+  for (const char* firstLine : {"", "FROM:T2.RAT", "FROM:T1", "FROM:T1.RAT ", "T1.RAT", "LIST"}) {
+    other[0] = firstLine;
+    simulated.files.AddFile(kWorkPath, Joined(other));
+    workspace.DataChanged = dirty::kYes;
+    workspace.ResultWord = "before";
+    EXPECT_FALSE(RestorePlan(program)) << firstLine;
+    EXPECT_EQ(workspace.TyreLength, 2.0F) << firstLine;
+    EXPECT_EQ(workspace.DataChanged, "YES") << firstLine;
+    EXPECT_EQ(workspace.ResultWord, "before") << firstLine;
+  }
+  simulated.files.AddFile(kWorkPath, "");
+  EXPECT_FALSE(RestorePlan(program));
   simulated.files.Remove(kWorkPath);
   EXPECT_EQ(Guarded([&] { RestorePlan(program); }), kFaultFileNotFound);
+}
+
+TEST_F(PlanFile, TheMachineOfTheWorkingFileIsToldWithoutRegardToCase) {
+  Open(PlanLines());
+  Lines lines = PlanLines();
+  lines[0] = "From:t1.rat";
+  lines[1] = "1.5";
+  simulated.files.AddFile(kWorkPath, Joined(lines));
+  EXPECT_TRUE(RestorePlan(program));
+  EXPECT_EQ(workspace.TyreLength, 1.5F);
+}
+
+TEST_F(PlanFile, AWorkingFileThatCouldNotBeWrittenIsGoneAndStale) {
+  Open(PlanLines());
+  simulated.files.SetDiskFull(true);
+  EXPECT_EQ(Guarded([&] { WriteWorkFile(program); }), kFaultDiskFull);
+  EXPECT_TRUE(workspace.WorkFileStale);
+  EXPECT_EQ(WorkFileText(), "(no file)");
+  EXPECT_FALSE(program.files.IsOpen(Handle::WorkFile));
+  simulated.files.SetDiskFull(false);
+  WriteWorkFile(program);
+  EXPECT_FALSE(workspace.WorkFileStale);
+  EXPECT_EQ(WorkFileText(), Joined(PlanLines()));
+}
+
+TEST_F(PlanFile, APlanWhoseWorkingFileCouldNotBeWrittenCountsAsChanged) {
+  simulated.files.SetDiskFull(true);
+  Open(PlanLines());
+  EXPECT_EQ(workspace.ResultWord, "NG");
+  EXPECT_EQ(workspace.ModeWord, "CHANGE");
+  EXPECT_EQ(workspace.DataChanged, "YES");
 }
 
 // The scroll bar tells its change to whoever listens: who was writing is what the listener goes by.
