@@ -1,16 +1,28 @@
 #!/bin/sh
-# include_arrows.sh FOLDER:BELOW,BELOW...: reads every #include under src/ and prints each that
-# - points to a folder that its own may not use (a folder uses itself, its BELOW and what those use),
-# - names a project header in any other way than "folder/unit.h",
-# - brings Qt in outside desktop/,
+# include_arrows.sh QT_ROOM,QT_ROOM... ROOM:BELOW,BELOW...: reads every #include and every forward declaration under
+# src/ and prints each that
+# - points to a room that its own may not use (a room uses itself, its BELOW and what those use); a file is in the
+#   innermost room of the table that its path lies in,
+# - declares a type that stands in such a room,
+# - names a project header in any other way than "room/unit.h",
+# - brings Qt in outside the rooms for it,
 # - stands before a source's own header, or
 # - closes a circle of files.
+qt=$1
+shift
 cd "$(dirname "$0")/../src" || exit 1
-find . \( -name '*.cpp' -o -name '*.h' \) | sed 's,^\./,,' | LC_ALL=C sort | awk -v table="$*" '
-function Folder(path) { return path ~ /\// ? substr(path, 1, index(path, "/") - 1) : "src/ itself" }
+find . \( -name '*.cpp' -o -name '*.h' \) | sed 's,^\./,,' | LC_ALL=C sort | awk -v table="$*" -v qt="$qt" '
+function Room(path) {
+  while (path ~ /\//) {
+    sub(/\/[^\/]*$/, "", path)
+    if (path in use) return path
+  }
+  return "src/ itself"
+}
 function Fault(text) { print text; faults++ }
+function MayUse(room, other) { return index(use[room], " " other " ") }
 BEGIN {
-  # Folders below stand earlier in the table, so what they use is known.
+  # Rooms below stand earlier in the table, so what they use is known.
   rows = split(table, row, " ")
   for (r = 1; r <= rows; r++) {
     split(row[r], part, ":")
@@ -18,38 +30,59 @@ BEGIN {
     count = split(part[2], below, ",")
     for (b = 1; b <= count; b++) use[part[1]] = use[part[1]] use[below[b]]
   }
+  count = split(qt, below, ",")
+  for (b = 1; b <= count; b++) hasQt[below[b]] = 1
 }
 { file[NR] = $0; known[$0] = 1 }
 END {
+  for (f = 1; f <= NR; f++) FindTypes(file[f])
   for (f = 1; f <= NR; f++) Read(file[f])
   Circles()
   if (faults) { print faults " wrong in the includes"; exit 1 }
 }
+# Types that a header defines at the left margin, each in its room.
+function FindTypes(path,    line, name) {
+  if (path !~ /\.h$/) return
+  while ((getline line < path) > 0) {
+    if (line !~ /^(struct|class|enum class) [A-Za-z0-9_]+/ || line ~ /;[ \t\r]*$/) continue
+    name = line
+    sub(/^(struct|class|enum class) /, "", name)
+    sub(/[^A-Za-z0-9_].*$/, "", name)
+    home[name] = Room(path)
+  }
+  close(path)
+}
 function Read(path,    line, number, place, quoted, name, own, first, folder) {
-  folder = Folder(path)
-  if (!(folder in use)) Fault("src/" path ": " folder " is no folder of the table")
+  folder = Room(path)
+  if (!(folder in use)) Fault("src/" path ": " folder " is no room of the table")
   own = path
   if (!sub(/\.cpp$/, ".h", own) || !(own in known)) own = ""
   while ((getline line < path) > 0) {
     number++
     sub(/\r$/, "", line)
-    if (line !~ /^[ \t]*#[ \t]*include[ \t]*["<]/) continue
     place = "src/" path ":" number ": " line
+    if (line ~ /^(struct|class|enum class) [A-Za-z0-9_]+;/) {
+      name = line
+      sub(/^(struct|class|enum class) /, "", name)
+      sub(/;.*$/, "", name)
+      if (name in home && !MayUse(folder, home[name])) Fault(place "   (stands in " home[name] ", which " folder " may not use)")
+    }
+    if (line !~ /^[ \t]*#[ \t]*include[ \t]*["<]/) continue
     name = line
     quoted = sub(/^[^"<]*"/, "", name)
     sub(/^[^<]*</, "", name)
     sub(/[">].*$/, "", name)
     if (!first++ && own != "" && name != own) Fault(place "   (its own header, \"" own "\", comes first)")
     if (name ~ /^(Qt|Q[A-Z])/) {
-      if (folder != "desktop") Fault(place "   (Qt stands in desktop/ alone)")
-    } else if (quoted && name ~ /\.moc$/ && folder == "desktop") {
+      if (!(folder in hasQt)) Fault(place "   (no Qt in " folder ")")
+    } else if (quoted && name ~ /\.moc$/ && folder in hasQt) {
       continue
     } else if (quoted && !(name in known)) {
       Fault(place "   (no file src/" name ")")
     } else if (name in known) {
       if (!quoted) Fault(place "   (project headers stand in quotes)")
       if (name ~ /\.cpp$/) Fault(place "   (a source is not included)")
-      if (!index(use[folder], " " Folder(name) " ")) Fault(place "   (" folder " may not use " Folder(name) ")")
+      if (!MayUse(folder, Room(name))) Fault(place "   (" folder " may not use " Room(name) ")")
       includes[path] = includes[path] " " name
     }
   }

@@ -3,7 +3,7 @@
 // repaints. Each start is a process of its own; the best of several counts. QT_QPA_PLATFORM=offscreen needs
 // no display.
 #include "desktop/desktop_program.h"
-#include "desktop/look.h"
+#include "desktop/windows/look.h"
 
 #include <QApplication>
 #include <QDir>

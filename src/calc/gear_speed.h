@@ -1,8 +1,7 @@
-// The arithmetic of the gears, and the refresh that every edit of a plan ends in.
+// The one formula of a gear's speed.
 #pragma once
 
-#include "workspace/captions.h"
-#include "workspace/program.h"
+#include "model/workspace.h"
 
 namespace veldrin {
 
@@ -24,10 +23,5 @@ inline double GearSpeedOf(double speedBeforeGear, double drive, double driven) {
 
 /// The same from the shared part, which one (primary, final) pair computes once.
 double GearSpeed(const Workspace& workspace, double speedBeforeGear, int gear, int gearRow);
-
-/// Computes speeds, steps, revolutions after the change and deviations of the plan, writes the result
-/// columns, redraws the chart and advances the dirty flag. Without a machine only the flag is looked at.
-/// Raises fault 11 (or 6) where a speed or `ShiftNe` of 0 is a divisor, 9 for rows outside the tables.
-void RefreshDisplay(Program& program);
 
 }  // namespace veldrin

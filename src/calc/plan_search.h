@@ -1,8 +1,7 @@
-// FULL AUTO: the search for plans that meet six request speeds, and its place in the main window.
+// FULL AUTO: the search for plans that meet six request speeds.
 #pragma once
 
 #include "calc/plan_walk.h"
-#include "workspace/program.h"
 
 namespace veldrin {
 
@@ -15,22 +14,5 @@ bool SearchAuto(Workspace& workspace, int mainGear, const Blink& blink);
 /// Searches within `ToleranceMinus` and `TolerancePlus` of each gear; those not set to MANUAL widen from
 /// pass to pass until a pass finds plans. True when one did. Raises what PlanWalk::Pass raises.
 bool SearchMixed(Workspace& workspace, const Table<bool, 1, kGears>& manual, const Blink& blink);
-
-/// Whether all six gears read "AUTO".
-bool AllGearsAuto(const Program& program);
-
-/// The searches from the main window: banner, menus, failure panel. Results in `PlanList`, `PlanCount` and
-/// `ResultWord` ("" or "NO_PLAN"). PlanSearchAuto ends the program when a quick-ratio or reference file asked
-/// for what the machine cannot reach.
-void PlanSearchAuto(Program& program);
-void PlanSearchMixed(Program& program);
-
-/// `Command6` Click: shows the waiting text, closes every other way in, and starts the timer that searches.
-void StartSearch(Program& program);
-
-/// The timer's tick: searches, and opens the plan dialog on success.
-void SearchTimer_Timer(Program& program);
-
-void AttachPlanSearch(Program& program);
 
 }  // namespace veldrin

@@ -1,8 +1,8 @@
 #include "calc/plan_walk.h"
 
 #include "calc/gear_speed.h"
+#include "model/list_tables.h"
 #include "runtime/conversion.h"
-#include "workspace/list_tables.h"
 
 #include <algorithm>
 #include <cmath>

@@ -9,7 +9,7 @@
 // plain loop over all passes would give.
 #pragma once
 
-#include "workspace/workspace.h"
+#include "model/workspace.h"
 
 #include <array>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "desktop/desktop_program.h"
 
-#include "desktop/dropped_file.h"
-#include "desktop/real_leftovers.h"
+#include "desktop/input/dropped_file.h"
+#include "machine/files/real_leftovers.h"
 #include "program/assemble.h"
 #include "program/event_boundary.h"
 #include "runtime/conversion.h"

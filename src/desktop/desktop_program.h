@@ -1,11 +1,11 @@
 // The whole desktop program: the real machine, the windows on the screen and the program between them.
 #pragma once
 
-#include "desktop/desktop_windows.h"
-#include "desktop/font_metrics.h"
-#include "desktop/real_end_signals.h"
-#include "desktop/real_machine.h"
-#include "desktop/stage.h"
+#include "desktop/windows/desktop_windows.h"
+#include "desktop/windows/stage.h"
+#include "machine/painting/font_metrics.h"
+#include "machine/real_end_signals.h"
+#include "machine/real_machine.h"
 #include "workspace/program.h"
 
 #include <QObject>

@@ -1,9 +1,9 @@
 // veldrin [FILE]: the program on the desktop. FILE is a machine list or a plan.
 #include "desktop/desktop_program.h"
-#include "desktop/look.h"
-#include "desktop/real_command_line.h"
-#include "desktop/real_display.h"
-#include "desktop/real_program_folder.h"
+#include "desktop/windows/look.h"
+#include "machine/files/real_program_folder.h"
+#include "machine/real_command_line.h"
+#include "machine/real_display.h"
 
 #include <QApplication>
 

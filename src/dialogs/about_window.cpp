@@ -1,11 +1,11 @@
 #include "dialogs/about_window.h"
 
 #include "dialogs/progress_meter.h"
+#include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "runtime/number_format.h"
 #include "view/bind.h"
-#include "workspace/paths.h"
 #include "workspace/settings.h"
 
 #include <string>

@@ -1,10 +1,10 @@
 #include "dialogs/chooser_boxes.h"
 
 #include "dialogs/load_dispatch.h"
+#include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/language.h"
-#include "workspace/paths.h"
 
 #include <string>
 

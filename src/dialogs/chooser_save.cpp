@@ -1,12 +1,12 @@
 #include "dialogs/chooser_save.h"
 
 #include "dialogs/load_dispatch.h"
+#include "platform/paths.h"
 #include "runtime/text.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
-#include "workspace/paths.h"
 #include "workspace/plan_file.h"
 #include "workspace/title.h"
 #include "workspace/working_files.h"

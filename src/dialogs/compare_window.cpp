@@ -1,13 +1,13 @@
 #include "dialogs/compare_window.h"
 
-#include "calc/gear_chart.h"
+#include "mainwin/chart.h"
+#include "model/decimal.h"
+#include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/captions.h"
 #include "workspace/chooser_setup.h"
-#include "workspace/decimal.h"
-#include "workspace/paths.h"
 
 #include <algorithm>
 

@@ -1,18 +1,18 @@
 #include "dialogs/file_chooser.h"
 
-#include "calc/gear_chart.h"
 #include "dialogs/chooser_boxes.h"
 #include "dialogs/chooser_save.h"
 #include "dialogs/load_dispatch.h"
 #include "dialogs/reference_file.h"
+#include "mainwin/chart.h"
+#include "model/list_tables.h"
+#include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
 #include "workspace/language.h"
-#include "workspace/list_tables.h"
 #include "workspace/machine_list.h"
-#include "workspace/paths.h"
 #include "workspace/working_files.h"
 
 #include <string>

@@ -1,9 +1,11 @@
 #include "dialogs/plan_dialog.h"
 
-#include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
 #include "calc/plan_search.h"
+#include "mainwin/chart.h"
 #include "mainwin/gear_panel_chart.h"
+#include "mainwin/refresh_display.h"
+#include "mainwin/search.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"

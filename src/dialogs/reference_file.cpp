@@ -1,11 +1,11 @@
 #include "dialogs/reference_file.h"
 
-#include "calc/gear_chart.h"
+#include "mainwin/chart.h"
 #include "mainwin/gear_panel_requests.h"
+#include "model/decimal.h"
+#include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
-#include "workspace/decimal.h"
-#include "workspace/paths.h"
 #include "workspace/title.h"
 
 #include <algorithm>

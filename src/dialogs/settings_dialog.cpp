@@ -1,11 +1,11 @@
 #include "dialogs/settings_dialog.h"
 
 #include "dialogs/settings_validation.h"
+#include "model/decimal.h"
+#include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
-#include "workspace/decimal.h"
-#include "workspace/paths.h"
 #include "workspace/settings.h"
 
 #include <string>

@@ -1,8 +1,8 @@
 #include "dialogs/settings_validation.h"
 
+#include "model/decimal.h"
+#include "platform/paths.h"
 #include "runtime/conversion.h"
-#include "workspace/decimal.h"
-#include "workspace/paths.h"
 
 #include <algorithm>
 #include <string>

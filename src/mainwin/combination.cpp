@@ -1,9 +1,9 @@
 #include "mainwin/combination.h"
 
+#include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
-#include "workspace/paths.h"
 
 #include <algorithm>
 #include <cmath>

@@ -7,6 +7,7 @@
 #include "mainwin/gear_panel_modes.h"
 #include "mainwin/gear_panel_requests.h"
 #include "mainwin/gear_panel_steps.h"
+#include "mainwin/refresh_display.h"
 #include "view/bind.h"
 #include "workspace/decision_panel.h"
 #include "workspace/plan_file.h"

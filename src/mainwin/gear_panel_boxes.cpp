@@ -1,10 +1,12 @@
 #include "mainwin/gear_panel_boxes.h"
 
+#include "mainwin/chart.h"
 #include "mainwin/gear_panel_chart.h"
+#include "mainwin/refresh_display.h"
+#include "model/decimal.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"
-#include "workspace/decimal.h"
 #include "workspace/title.h"
 
 #include <algorithm>

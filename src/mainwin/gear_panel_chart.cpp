@@ -1,7 +1,7 @@
 #include "mainwin/gear_panel_chart.h"
 
-#include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
+#include "mainwin/chart.h"
 #include "runtime/fault.h"
 #include "view/bind.h"
 

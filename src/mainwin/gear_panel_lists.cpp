@@ -1,8 +1,8 @@
 #include "mainwin/gear_panel_lists.h"
 
 #include "mainwin/gear_panel_steps.h"
+#include "model/list_tables.h"
 #include "view/bind.h"
-#include "workspace/list_tables.h"
 
 #include <string>
 #include <vector>

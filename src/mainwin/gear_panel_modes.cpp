@@ -1,8 +1,8 @@
 #include "mainwin/gear_panel_modes.h"
 
-#include "calc/gear_chart.h"
-#include "calc/gear_speed.h"
-#include "calc/plan_search.h"
+#include "mainwin/chart.h"
+#include "mainwin/refresh_display.h"
+#include "mainwin/search.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"

@@ -1,7 +1,7 @@
 #include "mainwin/gear_panel_requests.h"
 
-#include "calc/gear_chart.h"
-#include "calc/plan_search.h"
+#include "mainwin/chart.h"
+#include "mainwin/search.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"

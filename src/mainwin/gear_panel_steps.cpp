@@ -1,9 +1,10 @@
 #include "mainwin/gear_panel_steps.h"
 
 #include "mainwin/gear_panel_chart.h"
+#include "mainwin/refresh_display.h"
+#include "model/list_tables.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"
-#include "workspace/list_tables.h"
 
 namespace veldrin {
 

@@ -1,6 +1,6 @@
 #include "mainwin/layout.h"
 
-#include "calc/gear_chart.h"
+#include "mainwin/chart.h"
 #include "mainwin/gear_panel_chart.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"

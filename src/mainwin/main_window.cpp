@@ -1,12 +1,12 @@
 #include "mainwin/main_window.h"
 
+#include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
 #include "workspace/language.h"
-#include "workspace/paths.h"
 #include "workspace/settings.h"
 #include "workspace/working_files.h"
 

@@ -1,9 +1,9 @@
 #include "mainwin/report.h"
 
 #include "mainwin/report_page.h"
+#include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
-#include "workspace/paths.h"
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "mainwin/report_page.h"
 
-#include "calc/gear_chart.h"
+#include "mainwin/chart.h"
 #include "mainwin/combination.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"

@@ -1,7 +1,7 @@
 // The command line of veldrin-plan.
 #pragma once
 
-#include "workspace/workspace.h"
+#include "model/workspace.h"
 
 #include <cstdint>
 #include <optional>

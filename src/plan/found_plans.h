@@ -1,7 +1,7 @@
 // The plans that a search left in the workspace, with their texts and figures.
 #pragma once
 
-#include "workspace/workspace.h"
+#include "model/workspace.h"
 
 #include <array>
 #include <string>

@@ -1,7 +1,7 @@
 #include "plan/machine.h"
 
+#include "model/list_tables.h"
 #include "runtime/text_file.h"
-#include "workspace/list_tables.h"
 
 namespace veldrin {
 

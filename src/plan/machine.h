@@ -1,7 +1,7 @@
 // A machine as the console holds it: the workspace of a list, without windows.
 #pragma once
 
-#include "workspace/workspace.h"
+#include "model/workspace.h"
 
 #include <cstdint>
 #include <string>

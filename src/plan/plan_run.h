@@ -1,8 +1,8 @@
 // A search with the arguments of a command line.
 #pragma once
 
+#include "model/workspace.h"
 #include "plan/arguments.h"
-#include "workspace/workspace.h"
 
 #include <string>
 

@@ -1,5 +1,7 @@
 #include "plan/planner.h"
 
+#include "calc/plan_search.h"
+#include "model/list_tables.h"
 #include "plan/arguments.h"
 #include "plan/check/list_check.h"
 #include "plan/help.h"
@@ -8,7 +10,7 @@
 #include "plan/plan_output.h"
 #include "plan/plan_run.h"
 #include "runtime/fault.h"
-#include "workspace/list_tables.h"
+#include "runtime/text_file.h"
 
 #include <filesystem>
 #include <optional>

@@ -1,8 +1,5 @@
 #include "program/assemble.h"
 
-#include "calc/gear_chart.h"
-#include "calc/gear_speed.h"
-#include "calc/plan_search.h"
 #include "dialogs/about_window.h"
 #include "dialogs/colour_dialog.h"
 #include "dialogs/compare_window.h"
@@ -11,14 +8,17 @@
 #include "dialogs/load_dispatch.h"
 #include "dialogs/plan_dialog.h"
 #include "dialogs/settings_dialog.h"
+#include "dialogs/startup.h"
+#include "mainwin/chart.h"
 #include "mainwin/combination.h"
 #include "mainwin/gear_panel.h"
 #include "mainwin/gear_panel_chart.h"
 #include "mainwin/layout.h"
 #include "mainwin/main_window.h"
+#include "mainwin/refresh_display.h"
 #include "mainwin/report.h"
+#include "mainwin/search.h"
 #include "program/event_boundary.h"
-#include "workspace/startup.h"
 
 namespace veldrin {
 

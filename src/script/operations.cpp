@@ -1,14 +1,15 @@
 #include "script/operations.h"
 
-#include "calc/gear_chart.h"
 #include "calc/gear_speed.h"
+#include "mainwin/chart.h"
+#include "mainwin/refresh_display.h"
+#include "model/decimal.h"
 #include "program/event_boundary.h"
-#include "script/printed_values.h"
 #include "script/script_error.h"
 #include "script/script_suggest.h"
 #include "script/script_values.h"
+#include "simulated/printed_values.h"
 #include "workspace/captions.h"
-#include "workspace/decimal.h"
 #include "workspace/plan_file.h"
 #include "workspace/working_files.h"
 

@@ -2,7 +2,7 @@
 
 #include "script/script_error.h"
 #include "script/script_suggest.h"
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 
 #include <algorithm>
 

@@ -2,10 +2,10 @@
 
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
-#include "script/printed_values.h"
 #include "script/script_error.h"
 #include "script/script_queries.h"
 #include "script/script_values.h"
+#include "simulated/printed_values.h"
 
 #include <algorithm>
 #include <cmath>

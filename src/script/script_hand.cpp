@@ -1,7 +1,7 @@
 #include "script/script_hand.h"
 
 #include "program/event_boundary.h"
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 
 namespace veldrin {
 

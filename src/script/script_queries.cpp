@@ -1,10 +1,10 @@
 #include "script/script_queries.h"
 
 #include "runtime/fault.h"
-#include "script/printed_values.h"
 #include "script/script_error.h"
 #include "script/script_suggest.h"
 #include "script/variables.h"
+#include "simulated/printed_values.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 #include "script/script_runner.h"
 
 #include "runtime/fault.h"
-#include "script/printed_values.h"
 #include "script/script_commands.h"
 #include "script/script_error.h"
 #include "script/script_expectations.h"
 #include "script/script_suggest.h"
+#include "simulated/printed_values.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,10 +1,10 @@
 #include "script/script_slots.h"
 
 #include "runtime/conversion.h"
-#include "script/printed_values.h"
 #include "script/script_error.h"
 #include "script/script_suggest.h"
 #include "script/script_values.h"
+#include "simulated/printed_values.h"
 
 #include <utility>
 

@@ -4,7 +4,7 @@
 
 #include "script/script_catalogue.h"
 #include "script/script_hand.h"
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 #include "workspace/program.h"
 
 #include <cstdint>

@@ -1,9 +1,9 @@
 #include "script/variables.h"
 
-#include "script/printed_values.h"
 #include "script/script_error.h"
 #include "script/script_suggest.h"
 #include "script/script_values.h"
+#include "simulated/printed_values.h"
 
 #include <limits>
 #include <optional>

@@ -7,8 +7,8 @@
 // active window hands activity to the next one shown.
 #pragma once
 
-#include "platform/machine.h"
 #include "view/controls.h"
+#include "view/machine.h"
 
 #include <functional>
 #include <memory>

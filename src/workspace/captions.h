@@ -1,6 +1,8 @@
 // Speeds as the columns show them: by format, then padded so that the decimal point stands in a fixed place.
 #pragma once
 
+#include "model/workspace.h"
+#include "view/controls.h"
 #include "workspace/program.h"
 
 namespace veldrin {

@@ -1,7 +1,7 @@
 #include "workspace/chooser_setup.h"
 
+#include "platform/paths.h"
 #include "workspace/language.h"
-#include "workspace/paths.h"
 
 namespace veldrin {
 

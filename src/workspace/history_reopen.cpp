@@ -1,10 +1,10 @@
 #include "workspace/history_reopen.h"
 
+#include "platform/paths.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
-#include "workspace/paths.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "workspace/language.h"
 
+#include "platform/paths.h"
 #include "workspace/language_tables.h"
-#include "workspace/paths.h"
 #include "workspace/settings.h"
 
 namespace veldrin {

@@ -1,14 +1,14 @@
 #include "workspace/plan_file.h"
 
+#include "model/decimal.h"
+#include "model/list_tables.h"
+#include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "workspace/captions.h"
 #include "workspace/control_states.h"
-#include "workspace/decimal.h"
 #include "workspace/decision_panel.h"
 #include "workspace/language.h"
-#include "workspace/list_tables.h"
-#include "workspace/paths.h"
 #include "workspace/title.h"
 
 #include <algorithm>

@@ -2,6 +2,8 @@
 // above their callers. Units are free functions that take it.
 #pragma once
 
+#include "model/dialog_state.h"
+#include "model/workspace.h"
 #include "view/form1.h"
 #include "view/form10.h"
 #include "view/form2.h"
@@ -12,9 +14,7 @@
 #include "view/form7.h"
 #include "view/form9.h"
 #include "workspace/decision_panel_state.h"
-#include "workspace/dialog_state.h"
 #include "workspace/file_handles.h"
-#include "workspace/workspace.h"
 
 #include <functional>
 #include <string>

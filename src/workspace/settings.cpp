@@ -1,10 +1,10 @@
 #include "workspace/settings.h"
 
+#include "model/decimal.h"
+#include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
-#include "workspace/decimal.h"
-#include "workspace/paths.h"
 
 #include <algorithm>
 #include <charconv>

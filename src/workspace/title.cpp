@@ -1,7 +1,7 @@
 #include "workspace/title.h"
 
+#include "platform/paths.h"
 #include "runtime/text.h"
-#include "workspace/paths.h"
 
 namespace veldrin {
 

@@ -1,9 +1,9 @@
 #include "workspace/working_files.h"
 
+#include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "workspace/history_menu.h"
-#include "workspace/paths.h"
 #include "workspace/settings.h"
 
 #include <algorithm>

@@ -2,9 +2,9 @@
 // real ones must equal in every slot, count and fault, and what the bench measures them against.
 #pragma once
 
+#include "model/workspace.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
-#include "workspace/workspace.h"
 
 #include <algorithm>
 #include <cmath>

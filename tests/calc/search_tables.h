@@ -1,7 +1,7 @@
 // Small machines made in memory for the tests of the searches.
 #pragma once
 
-#include "workspace/workspace.h"
+#include "model/workspace.h"
 
 #include <string>
 

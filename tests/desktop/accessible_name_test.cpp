@@ -1,6 +1,6 @@
-#include "desktop/accessible_name.h"
+#include "desktop/accessible/accessible_name.h"
 
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 #include "workspace/program.h"
 
 #include <gtest/gtest.h>

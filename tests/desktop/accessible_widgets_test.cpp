@@ -1,5 +1,5 @@
 // What a screen reader hears of the widgets themselves, and what it does with them.
-#include "desktop/accessible_control.h"
+#include "desktop/accessible/accessible_control.h"
 #include "tests/desktop/test_window.h"
 
 #include <QAccessible>

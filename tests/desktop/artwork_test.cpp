@@ -1,4 +1,4 @@
-#include "desktop/artwork.h"
+#include "machine/painting/artwork.h"
 
 #include "tests/desktop/test_window.h"
 

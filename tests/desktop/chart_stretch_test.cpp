@@ -1,6 +1,6 @@
 // The chart stretches with its panel, whatever sizes the window came by.
-#include "desktop/shown_check.h"
 #include "tests/desktop/main_window.h"
+#include "window_script/shown_check.h"
 
 #include <QSizeF>
 

@@ -1,4 +1,4 @@
-#include "desktop/combo_widget.h"
+#include "desktop/controls/combo_widget.h"
 
 #include "tests/desktop/test_window.h"
 

@@ -1,8 +1,8 @@
-#include "desktop/dropped_file.h"
+#include "desktop/input/dropped_file.h"
 
 #include "program/assemble.h"
 #include "program/event_boundary.h"
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 #include "tests/desktop/sample_files.h"
 
 #include <gtest/gtest.h>

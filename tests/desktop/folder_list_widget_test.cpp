@@ -1,4 +1,4 @@
-#include "desktop/list_widget.h"
+#include "desktop/controls/list_widget.h"
 #include "tests/desktop/test_window.h"
 
 namespace veldrin {

@@ -1,8 +1,11 @@
-#include "desktop/dropped_file.h"
-#include "desktop/placement.h"
-#include "desktop/shown_check.h"
+#include "desktop/input/dropped_file.h"
+#include "desktop/windows/placement.h"
+#include "program/assemble.h"
 #include "program/event_boundary.h"
 #include "tests/desktop/main_window.h"
+#include "tests/desktop/sample_files.h"
+#include "tests/desktop/test_window.h"
+#include "window_script/shown_check.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>

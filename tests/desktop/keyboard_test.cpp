@@ -1,4 +1,4 @@
-#include "desktop/reach.h"
+#include "desktop/input/reach.h"
 #include "tests/desktop/test_window.h"
 
 #include <QClipboard>

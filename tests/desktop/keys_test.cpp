@@ -1,4 +1,4 @@
-#include "desktop/keys.h"
+#include "desktop/input/keys.h"
 
 #include "view/event.h"
 

@@ -1,8 +1,8 @@
-#include "desktop/list_widget.h"
+#include "desktop/controls/list_widget.h"
 
-#include "desktop/desktop_windows.h"
-#include "script/simulated_machine.h"
-#include "tests/machine_with.h"
+#include "desktop/windows/desktop_windows.h"
+#include "simulated/simulated_machine.h"
+#include "tests/simulated/machine_with.h"
 #include "workspace/program.h"
 
 #include <QApplication>

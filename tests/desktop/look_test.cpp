@@ -1,4 +1,4 @@
-#include "desktop/look.h"
+#include "desktop/windows/look.h"
 
 #include <QLocale>
 #include <QPalette>

@@ -1,7 +1,7 @@
 // Windows that keep the others from answering: what the desktop knows of them, and how the user finds them.
-#include "desktop/placement.h"
-#include "desktop/shown_check.h"
+#include "desktop/windows/placement.h"
 #include "tests/desktop/test_window.h"
+#include "window_script/shown_check.h"
 
 #include <QComboBox>
 #include <QLineEdit>

@@ -1,4 +1,4 @@
-#include "desktop/spin_widget.h"
+#include "desktop/controls/spin_widget.h"
 #include "tests/desktop/test_window.h"
 
 #include <QScrollBar>

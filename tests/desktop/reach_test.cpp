@@ -1,5 +1,5 @@
 // The ring around what F6 has reached, and the windows that it belongs to.
-#include "desktop/reach.h"
+#include "desktop/input/reach.h"
 
 #include "tests/desktop/test_window.h"
 

@@ -1,12 +1,12 @@
 // A small window with controls of every kind, shown by real widgets, and the mouse and keys to use it.
 #pragma once
 
-#include "desktop/desktop_windows.h"
-#include "desktop/script_windows.h"
-#include "script/simulated_machine.h"
-#include "tests/machine_with.h"
+#include "desktop/windows/desktop_windows.h"
+#include "simulated/simulated_machine.h"
+#include "tests/simulated/machine_with.h"
 #include "view/bind.h"
 #include "view/control_array.h"
+#include "window_script/script_windows.h"
 #include "workspace/program.h"
 
 #include <QAbstractScrollArea>

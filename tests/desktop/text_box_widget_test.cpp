@@ -1,4 +1,4 @@
-#include "desktop/text_box_widget.h"
+#include "desktop/controls/text_box_widget.h"
 
 #include "tests/desktop/test_window.h"
 

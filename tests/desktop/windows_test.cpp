@@ -1,8 +1,8 @@
-#include "desktop/menu_view.h"
-#include "desktop/placement.h"
-#include "desktop/shown_check.h"
+#include "desktop/controls/menu_view.h"
+#include "desktop/windows/placement.h"
 #include "program/event_boundary.h"
 #include "tests/desktop/test_window.h"
+#include "window_script/shown_check.h"
 
 #include <QLabel>
 #include <QPointer>

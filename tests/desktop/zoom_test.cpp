@@ -1,4 +1,4 @@
-#include "desktop/zoom.h"
+#include "desktop/windows/zoom.h"
 
 #include <gtest/gtest.h>
 

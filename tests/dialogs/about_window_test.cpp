@@ -1,7 +1,7 @@
 #include "dialogs/about_window.h"
 
-#include "script/simulated_machine.h"
-#include "tests/machine_with.h"
+#include "simulated/simulated_machine.h"
+#include "tests/simulated/machine_with.h"
 
 #include <gtest/gtest.h>
 

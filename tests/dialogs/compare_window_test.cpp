@@ -1,6 +1,6 @@
 #include "dialogs/compare_window.h"
 
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 
 #include <gtest/gtest.h>
 

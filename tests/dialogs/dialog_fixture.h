@@ -2,8 +2,8 @@
 // at the very moment when it writes to the store, fires an event, draws or shows a message box.
 #pragma once
 
-#include "script/simulated_machine.h"
-#include "tests/machine_with.h"
+#include "simulated/simulated_machine.h"
+#include "tests/simulated/machine_with.h"
 #include "workspace/program.h"
 #include "workspace/settings.h"
 

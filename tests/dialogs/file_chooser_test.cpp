@@ -1,7 +1,7 @@
 #include "dialogs/file_chooser.h"
 
 #include "program/assemble.h"
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 #include "view/user_input.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "mainwin/combination.h"
 
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "mainwin/gear_panel_chart.h"
 
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "mainwin/report.h"
 
 #include "mainwin/report_page.h"
-#include "script/simulated_machine.h"
-#include "tests/machine_with.h"
+#include "simulated/simulated_machine.h"
+#include "tests/simulated/machine_with.h"
 
 #include <gtest/gtest.h>
 

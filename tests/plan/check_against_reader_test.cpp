@@ -1,9 +1,9 @@
 // The strict reading against the program's own: it finds faults in just the lists that the program refuses,
 // or of which it does not get every number that counts.
+#include "model/list_tables.h"
 #include "plan/check/list_check.h"
 #include "runtime/text_file.h"
 #include "tests/plan/sample_list.h"
-#include "workspace/list_tables.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // Searches of the planner, and the options that steer them.
 #include "calc/plan_search.h"
+#include "model/list_tables.h"
 #include "runtime/text_file.h"
 #include "tests/calc/plain_search.h"
 #include "tests/plan/planner_fixture.h"
-#include "workspace/list_tables.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "program/event_boundary.h"
 
 #include "runtime/fault.h"
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "script/script_error.h"
-#include "script/simulated_machine.h"
 #include "script/variables.h"
+#include "simulated/simulated_machine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // A desk whose machine keeps, line by line and in order, all that the view tells it.
 #pragma once
 
-#include "script/simulated_machine.h"
-#include "tests/machine_with.h"
+#include "simulated/simulated_machine.h"
+#include "tests/simulated/machine_with.h"
 #include "view/control_array.h"
 
 #include <gtest/gtest.h>

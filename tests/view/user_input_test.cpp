@@ -1,7 +1,7 @@
 #include "view/user_input.h"
 
-#include "script/simulated_machine.h"
-#include "tests/machine_with.h"
+#include "simulated/simulated_machine.h"
+#include "tests/simulated/machine_with.h"
 #include "view/bind.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "workspace/decision_panel.h"
 
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 #include "workspace/control_states.h"
 #include "workspace/language.h"
 

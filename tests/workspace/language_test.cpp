@@ -1,7 +1,7 @@
 #include "workspace/language.h"
 
 #include "runtime/fault.h"
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 #include "workspace/language_tables.h"
 
 #include <gtest/gtest.h>

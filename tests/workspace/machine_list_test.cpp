@@ -1,7 +1,7 @@
 // The one way in for every file, and what the list reader does to the windows.
 #include "workspace/machine_list.h"
 
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 #include "workspace/language.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #include "workspace/plan_file.h"
 
-#include "calc/gear_chart.h"
-#include "calc/gear_speed.h"
+#include "mainwin/chart.h"
+#include "mainwin/refresh_display.h"
 #include "runtime/text.h"
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 

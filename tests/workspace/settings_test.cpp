@@ -1,7 +1,7 @@
 #include "workspace/settings.h"
 
-#include "script/simulated_machine.h"
-#include "workspace/decimal.h"
+#include "model/decimal.h"
+#include "simulated/simulated_machine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "workspace/working_files.h"
 
-#include "script/simulated_machine.h"
+#include "simulated/simulated_machine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,9 @@
 #include "plan/check/gear_check.h"
 
+#include "model/workspace.h"
+#include "runtime/conversion.h"
+#include "runtime/fault.h"
 #include "runtime/text.h"
-#include "workspace/workspace.h"
 
 #include <map>
 #include <string>

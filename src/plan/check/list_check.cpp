@@ -1,5 +1,6 @@
 #include "plan/check/list_check.h"
 
+#include "model/workspace.h"
 #include "plan/check/gear_check.h"
 #include "plan/check/key_check.h"
 #include "plan/check/machine_check.h"
@@ -8,7 +9,6 @@
 #include "plan/check/ratio_check.h"
 #include "plan/check/section_reader.h"
 #include "plan/machine.h"
-#include "workspace/workspace.h"
 
 #include <optional>
 

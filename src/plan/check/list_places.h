@@ -1,7 +1,7 @@
 // Where in a list file the parts of its machine stand, by lines from 1; 0 for what the list does not hold.
 #pragma once
 
-#include "workspace/workspace.h"
+#include "model/workspace.h"
 
 #include <map>
 #include <string>

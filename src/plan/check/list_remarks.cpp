@@ -1,10 +1,10 @@
 #include "plan/check/list_remarks.h"
 
+#include "model/words.h"
+#include "model/workspace.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
-#include "workspace/words.h"
-#include "workspace/workspace.h"
 
 #include <algorithm>
 

@@ -2,9 +2,9 @@
 // fills them.
 #pragma once
 
+#include "model/workspace.h"
 #include "plan/check/list_places.h"
 #include "plan/check/list_remarks.h"
-#include "workspace/workspace.h"
 
 namespace veldrin {
 

@@ -1,7 +1,7 @@
 #include "plan/check/ratio_check.h"
 
+#include "model/workspace.h"
 #include "plan/check/gear_check.h"
-#include "workspace/workspace.h"
 
 #include <optional>
 #include <set>

@@ -1,0 +1,40 @@
+#include "calc/chart_geometry.h"
+
+#include "runtime/conversion.h"
+
+namespace veldrin {
+
+namespace {
+
+constexpr double kPlotWidthPerNe = 3960000;   // twips times rev/min over 1000
+constexpr double kPlotHeightPerKmh = 110400;  // twips times km/h over 20
+
+}  // namespace
+
+void WalkSawTooth(const SawTooth& tooth, const std::function<void(double x, double y)>& to) {
+  to(tooth.shiftNe, tooth.speed(1));
+  for (int gear = 2; gear <= kGears; ++gear) {
+    to(tooth.dropNe(gear), tooth.speed(gear - 1));
+    to(tooth.shiftNe, tooth.speed(gear));
+  }
+  to(tooth.maxNe, Divide(tooth.maxNe * tooth.speed(kGears), tooth.shiftNe));
+}
+
+double RayEnd(double maxNe, double speed, double revolutions) {
+  return Divide(maxNe * speed, revolutions);
+}
+
+float TwipsPerThousandNe(const Workspace& workspace) {
+  return ToSingle(Divide(kPlotWidthPerNe, workspace.MaxNe));
+}
+
+float TwipsPerTwentyKmh(const Workspace& workspace) {
+  return ToSingle(Divide(kPlotHeightPerKmh, workspace.MaxSpeed));
+}
+
+Scale ChartUnits(const Workspace& workspace) {
+  const double maxSpeed = workspace.MaxSpeed;
+  return {0, maxSpeed, static_cast<double>(workspace.MaxNe), -maxSpeed};
+}
+
+}  // namespace veldrin

@@ -1,0 +1,65 @@
+#include "desktop/controls/menu_view.h"
+
+#include "machine/painting/text_ends.h"
+
+namespace veldrin {
+
+namespace {
+
+constexpr char kSeparatorCaption[] = "-";
+
+}  // namespace
+
+MenuView::MenuView(Menu& menu, Stage& stage) : ControlView(menu, stage), action_(new QAction) {
+  if (!menu.shortcut.empty()) action_->setShortcut(QKeySequence(QString::fromStdString(menu.shortcut)));
+  QObject::connect(action_.get(), &QAction::triggered, action_.get(), [this] {
+    if (control_ != nullptr) Do([control = control_] { return user::Click(*control); });
+  });
+}
+
+QMenu& MenuView::Submenu() {
+  if (!submenu_) {
+    submenu_.reset(new QMenu);
+    action_->setMenu(submenu_.get());
+  }
+  return *submenu_;
+}
+
+void MenuView::Take(std::string_view slot) {
+  if (slot == "Caption") {
+    action_->setText(MenuText(Record().Caption));
+    action_->setSeparator(Record().Caption == kSeparatorCaption);
+  } else if (slot == "Visible") {
+    action_->setVisible(Record().Visible);
+  } else if (slot == "Enabled") {
+    action_->setEnabled(Record().Enabled);
+  }
+}
+
+Shown MenuView::WhatShows() const {
+  Shown shown;
+  shown.text = ToSlotText(action_->text());
+  shown.visible = action_->isVisible();
+  if (action_->isVisible()) shown.enabled = action_->isEnabled();  // Qt counts hidden ones as off
+  return shown;
+}
+
+QString MenuText(const std::string& caption) {
+  if (caption == kSeparatorCaption) return {};  // a text would stand in the line
+  const QString plain = QString::fromStdString(caption);
+  QString text;
+  for (int i = 0; i < plain.size(); ++i) {
+    const bool mark = i > 0 && plain[i - 1] == '(' && i + 2 < plain.size() && plain[i + 2] == ')';
+    if (plain[i] == '&' && !mark) text += '&';
+    text += plain[i];
+  }
+  return text;
+}
+
+void ArrangeActions(QWidget& menu, const QList<QAction*>& actions) {
+  if (menu.actions() == actions) return;
+  for (QAction* action : menu.actions()) menu.removeAction(action);
+  menu.addActions(actions);
+}
+
+}  // namespace veldrin

@@ -1,9 +1,0 @@
-#include "desktop/real_machine.h"
-
-namespace veldrin {
-
-RealMachine::RealMachine(Windows& windows, TextMetrics& metrics)
-    : printer(metrics), machine{files, registry, profile, environment, instances, screen, windows,
-                                boxes, metrics,  printer, pictures,    shell,     sound,  figures} {}
-
-}  // namespace veldrin

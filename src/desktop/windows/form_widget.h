@@ -1,0 +1,152 @@
+// A window of the program on the screen. It is built by walking the window's controls: nothing here knows
+// which window it is.
+//
+// The program counts a window's outer size with a frame of its own time, 120 twips wider and 690 (405 without
+// a menu) higher than the area inside. The real frame and menu bar are as large as the desktop makes them;
+// the area inside is what is kept to. Where that is larger than the screen it scrolls, and so does what a
+// maximised window has no room for: the inside is never smaller there than before.
+//
+//   form_widget.cpp         the controls inside, the focus, showing and hiding, also in front of others
+//   form_widget_frame.cpp   zoom, size, place and state, by the program and by the desktop
+//   form_widget_input.cpp   what the user does with the window as a whole: keys, the wheel, closing, coming
+//                           back to it, dropping files on it
+#pragma once
+
+#include "desktop/input/reach_ring.h"
+#include "desktop/windows/client_area.h"
+
+#include <QMenuBar>
+#include <QPixmap>
+#include <QPointer>
+#include <QScrollArea>
+#include <QWidget>
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+
+namespace veldrin {
+
+class FormWidget : public QWidget {
+ public:
+  /// Finds the widget of another window; null while there is none.
+  using FormFinder = std::function<FormWidget*(const Window&)>;
+
+  FormWidget(Window& window, Stage& stage, FormFinder formOf);
+  ~FormWidget() override;
+
+  /// The window; null once it is unloaded.
+  Window* Shows() const { return window_; }
+  /// The record is about to go. The widget hides; it is deleted by its owner when no event runs.
+  void LetGo();
+
+  /// The view of a control of this window; null where there is none, or none any more.
+  ControlView* ViewOf(const Control& control) const;
+
+  /// A slot of the window or one of its controls was written; what is drawn on one changed.
+  void Take(Control& control, std::string_view slot);
+  void TakeContent(Control& control);
+  /// An event has ended.
+  void Settle();
+  /// The zoom changed. The frame stays where it is, so its place in twips is another one.
+  void Rescale();
+  /// Cuts the window to an ellipse, in pixels of the program.
+  void CutToEllipse(const QRect& box);
+  /// What the window has to be shown as before it is shown modally.
+  void BecomeModal();
+  /// The window as it looks without its frame, whole even where the screen has no room for it.
+  QPixmap Picture();
+  /// Whether the area inside follows when the user draws at the frame now.
+  bool UserCanResize() const { return CanResize() && !Scrolls() && ellipse_.isNull(); }
+  /// The title as the program wrote it.
+  std::string Title() const;
+  /// The area that the controls lie on.
+  ClientArea& Client() { return *client_; }
+  /// The ring around what F6 has reached of them.
+  ReachRing& Ring() { return *ring_; }
+  /// The way of the user's doings with what is inside.
+  ProgramInput& Input() { return stage_->input; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  /// Qt must not move the focus by itself: the program does, by Tab and when a control is put out of reach.
+  bool focusNextPrevChild(bool /*next*/) override { return false; }
+
+ private:
+  void FollowControls();
+  void MakeMissingViews();
+  void DropLostViews();
+  void DeleteUnusedViews();
+  void ArrangeMenus();
+  void Stack(const Control& parent);
+  void Reveal(QWidget* widget);
+  void TakeWindowSlot(std::string_view slot);
+  void TakeZoom();
+  void TakeSize();
+  void TakePosition();
+  void TakeState();
+  void TakeVisible();
+  void TakeKind();
+  void StandBeforeOwner();
+  void BringModalBack();
+  void TakeFocus();
+  void FitFrame();
+  void PlaceInside();
+  void KeepOnScreen();
+  void AddZoomKeys();
+  void FrameStateChanged(Qt::WindowStates before);
+  void EndRestoring();
+  QSize InsideOfFrame() const;
+  QSize BarsFor(const QSize& whole, const QSize& room) const;
+  void ShowBars();
+  void TellFrameSoon();
+  void TellFrame();
+  void TellSize();
+  void TellPlace();
+  bool TakesFiles() const;
+  int MenuHeight() const;
+  int Rounding() const;
+  QPoint Corner() const;
+  /// Whether the program lays its window out for any size.
+  bool CanResize() const { return window_->Resize.Claims() > 0; }
+  /// Whether the inside may be larger than the frame.
+  bool Scrolls() const { return clipped_ || isMaximized(); }
+  bool FillsScreen() const;
+  QSize InsidePixels(const QSizeF& outer) const;
+
+  Window* window_;
+  Stage* stage_;
+  FormFinder formOf_;
+  std::unordered_map<const Control*, ControlView*> viewOf_;
+  /// The controls that have been looked at, in the order of the screen.
+  std::vector<Control*> known_;
+  std::size_t controlCount_ = 0;  // how many there were when the program last told of them
+  /// Views without a widget, also those of entries that are gone from a menu.
+  std::vector<std::unique_ptr<ControlView>> owned_;
+  QMenuBar* menuBar_ = nullptr;
+  QScrollArea* scroll_;
+  ClientArea* client_;
+  ReachRing* ring_;
+  bool clipped_ = false;      // the area inside is larger than the screen has room for
+  QRect ellipse_;             // in pixels of the program; null for none
+  QPointer<QWidget> raised_;  // a panel that came to the front in this event
+
+  double factor_;        // the zoom that the window's place in twips belongs to
+  double factorNormal_;  // the zoom when the frame was last neither maximised nor minimised
+  /// Outer size in twips of the frame when it is not maximised, and before the desktop last changed it.
+  QSizeF normal_;
+  QSizeF normalBefore_;
+  bool tellingFrame_ = false;  // the program hears of a place or size that the frame has already
+  bool frameUntold_ = false;   // it could not be told: something modal stands in front
+  bool restoring_ = false;     // the frame is on its way back to a size that belongs to another zoom
+};
+
+}  // namespace veldrin

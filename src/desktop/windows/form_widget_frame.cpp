@@ -1,0 +1,376 @@
+#include "desktop/controls/menu_view.h"
+#include "desktop/windows/form_widget.h"
+#include "desktop/windows/placement.h"
+#include "machine/painting/fonts.h"
+
+#include <QGuiApplication>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTimer>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+namespace veldrin {
+
+namespace {
+
+constexpr float kMenuFontSize = 9;
+constexpr int kSmallestPixels = 160;
+/// What a window's real frame and the desktop's bars may take of the screen.
+constexpr QSize kFrameRoom(16, 48);
+constexpr int kTitleHeight = 32;
+constexpr int kRestoringTime = 300;  // ms until a desktop has given a window its normal size back
+
+constexpr Qt::WindowStates kAway = Qt::WindowMaximized | Qt::WindowMinimized;
+
+QSize RoomOn(const QScreen* screen, const QSize& otherwise) {
+  return screen == nullptr ? otherwise : screen->availableGeometry().size() - kFrameRoom;
+}
+
+/// The program counts places from where the primary screen begins, which is the only one that it knows.
+QPoint Origin() {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  return screen == nullptr ? QPoint() : screen->geometry().topLeft();
+}
+
+bool IsLarger(const QSize& size, const QSize& room) {
+  return size.width() > room.width() || size.height() > room.height();
+}
+
+}  // namespace
+
+// ---- the zoom ----
+
+void FormWidget::TakeZoom() {
+  const Applying applying(*stage_);
+  if (menuBar_ != nullptr) {
+    const QFont font =
+        FontFor({"Arial", kMenuFontSize, false, false}, kPixelsPerInch * stage_->zoom.Factor());
+    menuBar_->setFont(font);
+    for (Control* control : known_) {
+      if (control->kind == ControlKind::Menu && !control->children.empty()) {
+        static_cast<MenuView*>(ViewOf(*control))->Submenu().setFont(font);
+      }
+    }
+  }
+  for (const Control* control : known_) {
+    // Children of panels follow their panel.
+    ControlView* const view = control->parent == window_ ? ViewOf(*control) : nullptr;
+    if (view != nullptr) view->Rescale();
+  }
+  TakeSize();
+  client_->update();
+}
+
+void FormWidget::Rescale() {
+  TakeZoom();
+  const double before = std::exchange(factor_, stage_->zoom.Factor());
+  if (!ellipse_.isNull()) return;
+  const Applying applying(*stage_);
+  const bool away = (windowState() & kAway) != 0;
+  const auto twips = [&](const Slot<float>& slot, int pixels) {
+    const double place = away ? slot * before / factor_ : stage_->zoom.Twips(pixels);
+    return static_cast<float>(place);
+  };
+  const QScopedValueRollback<bool> telling(tellingFrame_, true);
+  const QPoint corner = pos() - Origin();
+  window_->Left = twips(window_->Left, corner.x());
+  window_->Top = twips(window_->Top, corner.y());
+  Reveal(focusWidget());
+  if (isMaximized()) TellFrameSoon();
+}
+
+// ---- size ----
+
+QPixmap FormWidget::Picture() {
+  if (!Scrolls()) return grab();
+  const int menu = MenuHeight();
+  const QSize whole = client_->size() + QSize(0, menu);
+  QPixmap picture(whole * devicePixelRatioF());
+  picture.setDevicePixelRatio(devicePixelRatioF());
+  if (menuBar_ != nullptr) {
+    menuBar_->setGeometry(0, 0, whole.width(), menu);
+    menuBar_->render(&picture);
+    PlaceInside();
+  }
+  client_->render(&picture, QPoint(0, menu));
+  return picture;
+}
+
+int FormWidget::MenuHeight() const {
+  return menuBar_ == nullptr ? 0 : menuBar_->sizeHint().height();
+}
+
+/// The area inside of an outer size in twips.
+QSize FormWidget::InsidePixels(const QSizeF& outer) const {
+  const Zoom& zoom = stage_->zoom;
+  const float frameWidth = window_->Width - window_->InnerWidth();
+  const float frameHeight = window_->Height - window_->InnerHeight();
+  return {std::max(1, qRound(zoom.Pixels(outer.width() - static_cast<double>(frameWidth)))),
+          std::max(1, qRound(zoom.Pixels(outer.height() - static_cast<double>(frameHeight))))};
+}
+
+/// Logical pixels that a frame may lose where they are no whole number of the screen's.
+int FormWidget::Rounding() const {
+  return devicePixelRatioF() == std::floor(devicePixelRatioF()) ? 0 : 1;
+}
+
+/// What the scroll bars take where `whole` has no room in `room`.
+QSize FormWidget::BarsFor(const QSize& whole, const QSize& room) const {
+  const int besides = scroll_->verticalScrollBar()->sizeHint().width() + Rounding();
+  const int below = scroll_->horizontalScrollBar()->sizeHint().height() + Rounding();
+  bool down = whole.height() > room.height();
+  const bool across = whole.width() > room.width() - (down ? besides : 0);
+  down = down || (across && whole.height() > room.height() - below);
+  return {down ? besides : 0, across ? below : 0};
+}
+
+/// The area inside that the frame asks for as it is. What scrolls keeps at least its normal size.
+QSize FormWidget::InsideOfFrame() const {
+  const QSize room(width(), height() - MenuHeight());
+  if (!Scrolls()) return room;
+  const QSize least = InsidePixels(normal_);
+  return (room - BarsFor(least, room)).expandedTo(least);
+}
+
+/// The desktop gives a maximised window the size of the screen. It does so before or behind its word that the
+/// window is maximised.
+bool FormWidget::FillsScreen() const {
+  const QSize room = RoomOn(screen(), size());
+  return width() >= room.width() && height() >= room.height();
+}
+
+void FormWidget::TakeSize() {
+  if (!ellipse_.isNull()) {
+    TakePosition();
+    return;
+  }
+  client_->resize(ClientPixels(*window_, stage_->zoom));
+  if (isMaximized() || isMinimized()) {
+    ShowBars();
+    PlaceInside();
+    return;
+  }
+  if (!tellingFrame_ || !clipped_) normal_ = {window_->Width, window_->Height};
+  // A frame that the user is drawing at is not pulled out of his hand.
+  if (tellingFrame_) return;
+  normalBefore_ = normal_;
+  FitFrame();
+}
+
+/// Gives the frame the size that the area inside wants, or what the screen has of it.
+void FormWidget::FitFrame() {
+  const QSize whole = client_->size() + QSize(0, MenuHeight());
+  const QSize room = RoomOn(screen(), whole);
+  clipped_ = window_->hasFrame && IsLarger(whole, room);
+  const QSize withBars = clipped_ ? whole + BarsFor(whole, room) : whole;
+  const QSize size = clipped_ ? withBars.boundedTo(room) : whole;
+  if (CanResize()) {
+    setMinimumSize(kSmallestPixels, kSmallestPixels);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  } else if (clipped_) {
+    setMinimumSize(kSmallestPixels, kSmallestPixels);
+    setMaximumSize(withBars);
+  } else {
+    setMinimumSize(size);
+    setMaximumSize(size);
+  }
+  ShowBars();
+  resize(size);
+  PlaceInside();
+}
+
+void FormWidget::ShowBars() {
+  const auto bars = Scrolls() ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
+  scroll_->setHorizontalScrollBarPolicy(bars);
+  scroll_->setVerticalScrollBarPolicy(bars);
+}
+
+/// Menu on top, the area inside below it.
+void FormWidget::PlaceInside() {
+  if (!ellipse_.isNull()) return;
+  const int menu = MenuHeight();
+  if (menuBar_ != nullptr) menuBar_->setGeometry(0, 0, width(), menu);
+  scroll_->setGeometry(0, menu, width(), std::max(0, height() - menu));
+}
+
+// ---- place and state ----
+
+/// Where the program wants the frame.
+QPoint FormWidget::Corner() const {
+  const Zoom& zoom = stage_->zoom;
+  return Origin() + QPoint(qRound(zoom.Pixels(window_->Left)), qRound(zoom.Pixels(window_->Top)));
+}
+
+void FormWidget::TakePosition() {
+  const QPoint corner = Corner();
+  if (ellipse_.isNull()) {
+    if (!isMaximized() && !tellingFrame_) move(corner);
+    return;
+  }
+  // Only the box of the ellipse is a window on the screen; the rest would be cut away.
+  const double factor = stage_->zoom.Factor();
+  const QRect box(ellipse_.topLeft() * factor, ellipse_.size() * factor);
+  setMinimumSize(box.size());
+  setMaximumSize(box.size());
+  setGeometry(QRect(corner + box.topLeft(), box.size()));
+  scroll_->setGeometry(rect());
+  scroll_->takeWidget();
+  client_->setParent(this);
+  client_->setGeometry(QRect(-box.topLeft(), ClientPixels(*window_, stage_->zoom)));
+  client_->show();
+  setMask(QRegion(rect(), QRegion::Ellipse));
+}
+
+void FormWidget::CutToEllipse(const QRect& box) {
+  const Applying applying(*stage_);
+  ellipse_ = box;
+  TakePosition();
+}
+
+/// A window that was left on a screen which is gone, or at another zoom, can still be taken by its title.
+void FormWidget::KeepOnScreen() {
+  if (!ellipse_.isNull() || isMaximized()) return;
+  QList<QRect> rooms;
+  for (const QScreen* screen : QGuiApplication::screens()) rooms.append(screen->availableGeometry());
+  const QSize whole = window_->hasFrame ? size() + kFrameRoom : size();
+  const QPoint corner = CornerInReach({pos(), whole}, kTitleHeight, rooms);
+  if (corner != pos()) move(corner);
+}
+
+void FormWidget::TakeState() {
+  if (!isVisible()) return;
+  const auto state = static_cast<enum WindowState>(window_->WindowState.get());
+  Qt::WindowStates states = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+  if (state == WindowState::Minimised) states |= Qt::WindowMinimized;
+  if (state == WindowState::Maximised) states |= Qt::WindowMaximized;
+  setWindowState(states);
+}
+
+// ---- what the desktop does with the window ----
+
+void FormWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (window_ == nullptr) return;
+  const bool isState = event->type() == QEvent::WindowStateChange;
+  if (isState) FrameStateChanged(static_cast<QWindowStateChangeEvent*>(event)->oldState());
+  if (stage_->applying > 0) return;
+  Window& window = *window_;
+  if (event->type() == QEvent::ActivationChange && isActiveWindow() && window.desk.active != &window) {
+    BringModalBack();
+    stage_->input.Do([&] { return user::Activate(window); });
+  } else if (isState) {
+    const auto state = isMinimized()   ? WindowState::Minimised
+                       : isMaximized() ? WindowState::Maximised
+                                       : WindowState::Normal;
+    if (window.WindowState == static_cast<int>(state)) return;
+    stage_->input.Do([&] { return user::SetState(window, static_cast<int>(state)); });
+  }
+}
+
+/// A zoom that changed while the window was away from its normal state finds it when it comes back.
+void FormWidget::FrameStateChanged(Qt::WindowStates before) {
+  if (!ellipse_.isNull()) return;
+  const Applying applying(*stage_);
+  restoring_ = false;
+  if ((before & kAway) == 0) factorNormal_ = factor_;
+  const bool becameMaximised = isMaximized() && !before.testFlag(Qt::WindowMaximized);
+  if (becameMaximised && FillsScreen()) normal_ = normalBefore_;
+  if (isMinimized()) return;
+  if (isMaximized()) {
+    TakeSize();
+  } else if (factorNormal_ != factor_) {
+    restoring_ = true;
+    const bool comes = before.testFlag(Qt::WindowMaximized) && FillsScreen();
+    QTimer::singleShot(comes ? kRestoringTime : 0, this, [this] { EndRestoring(); });
+  } else {
+    ShowBars();
+  }
+  TellFrameSoon();
+}
+
+/// The desktop has given the frame back the pixels that it had at another zoom.
+void FormWidget::EndRestoring() {
+  if (!std::exchange(restoring_, false) || window_ == nullptr) return;
+  {
+    const Applying applying(*stage_);
+    client_->resize(InsidePixels(normal_));
+    FitFrame();
+  }
+  TellFrame();
+}
+
+void FormWidget::moveEvent(QMoveEvent* event) {
+  QWidget::moveEvent(event);
+  if (stage_->applying == 0) TellFrame();
+}
+
+void FormWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  PlaceInside();
+  if (restoring_) {
+    QTimer::singleShot(0, this, [this] { EndRestoring(); });
+  } else if (stage_->applying == 0) {
+    TellFrame();
+  }
+}
+
+void FormWidget::TellFrameSoon() {
+  QTimer::singleShot(0, this, [this] { TellFrame(); });
+}
+
+/// Tells the program where the desktop has put the frame, and how large it made it; later, while something
+/// modal stands in front.
+void FormWidget::TellFrame() {
+  if (window_ == nullptr || !isVisible() || isMinimized() || restoring_ || !ellipse_.isNull()) return;
+  frameUntold_ = !user::Reachable(*window_);
+  if (frameUntold_) return;
+  TellPlace();
+  if (window_ != nullptr && CanResize()) TellSize();
+}
+
+void FormWidget::TellPlace() {
+  const QPoint now = pos();
+  if (isMaximized() || now == Corner()) return;
+  {
+    const QScopedValueRollback<bool> telling(tellingFrame_, true);
+    const QPoint told = now - Origin();
+    const auto twips = [this](int pixels) { return static_cast<float>(stage_->zoom.Twips(pixels)); };
+    stage_->input.Do([&, window = window_] { return user::Move(*window, twips(told.x()), twips(told.y())); });
+  }
+  // The program may have wished for another place.
+  if (window_ != nullptr && Corner() != now) TakeWindowSlot("Left");
+}
+
+void FormWidget::TellSize() {
+  const Zoom& zoom = stage_->zoom;
+  const QSize before = ClientPixels(*window_, zoom);
+  const QSize normal = InsidePixels(normal_);
+  const QSize now = InsideOfFrame();
+  const QSize change = now - before;
+  if (std::max(std::abs(change.width()), std::abs(change.height())) <= Rounding()) return;
+  // A side that was not drawn at keeps its length to the twip, and gets its old one back so.
+  Window& window = *window_;
+  const auto length = [&](int pixels, int same, float twips, int old, double oldTwips, float inner) {
+    if (pixels == same) return twips;
+    if (pixels == old) return static_cast<float>(oldTwips);
+    return static_cast<float>(zoom.Twips(pixels)) + (twips - inner);
+  };
+  const float newWidth =
+      length(now.width(), before.width(), window.Width, normal.width(), normal_.width(), window.InnerWidth());
+  const float newHeight = length(now.height(), before.height(), window.Height, normal.height(),
+                                 normal_.height(), window.InnerHeight());
+  normalBefore_ = normal_;
+  {
+    const QScopedValueRollback<bool> telling(tellingFrame_, true);
+    stage_->input.Do([&] { return user::Resize(window, newWidth, newHeight); });
+  }
+  // The handler may have wished for another size.
+  if (window_ != nullptr && ClientPixels(*window_, zoom) != now) TakeWindowSlot("Width");
+}
+
+}  // namespace veldrin

@@ -1,0 +1,111 @@
+#include "machine/files/real_program_folder.h"
+
+#include "machine/files/real_path.h"
+#include "runtime/fault.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QStringList>
+
+#include <system_error>
+
+namespace veldrin {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr char kListFolder[] = "LIST";
+constexpr char kPlanFolder[] = "DAT";
+
+/// Copies a file that is not there yet; the copy may be written, whatever the installed one allows.
+void CopyFile(const QString& from, const QString& to) {
+  if (QFile::exists(to) || !QFile::copy(from, to)) return;
+  QFile::setPermissions(to, QFile::permissions(to) | QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
+/// Copies a folder that is not there yet, with all that is in it.
+void CopyFolder(const QString& from, const QString& to) {
+  if (QFileInfo::exists(to)) return;
+  QDir().mkpath(to);
+  QDirIterator entries(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+  while (entries.hasNext()) {
+    const QString entry = entries.next();
+    const QString target = to + "/" + QDir(from).relativeFilePath(entry);
+    if (entries.fileInfo().isDir()) {
+      QDir().mkpath(target);
+    } else {
+      QDir().mkpath(QFileInfo(target).path());
+      CopyFile(entry, target);
+    }
+  }
+}
+
+/// Whole path of the folder that the variable names; empty when it names none.
+fs::path NamedFolder() {
+#ifdef _WIN32
+  const std::string named = qEnvironmentVariable("VELDRIN_HOME").toStdString();
+#else
+  const std::string named = qgetenv("VELDRIN_HOME").toStdString();
+#endif
+  fs::path folder;
+  Guarded([&] {
+    std::error_code failure;
+    const fs::path path = WholePath(NativePath(named));
+    if (fs::is_directory(path, failure)) folder = path;
+  });
+  return folder;
+}
+
+bool HoldsLists(const QString& folder) {
+  return QFileInfo(folder + "/" + kListFolder).isDir();
+}
+
+}  // namespace
+
+QString InstalledFolder() {
+  const QString program = QCoreApplication::applicationDirPath();
+  // Beside the program, PREFIX/bin, and build/PRESET/bin of the repository.
+  QStringList candidates = {program, program + "/share/veldrin", program + "/../share/veldrin",
+                            program + "/../../../share/veldrin"};
+  for (const QString& folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
+    if (folder == QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) continue;
+    candidates += folder + "/veldrin";
+  }
+  candidates += {"/usr/local/share/veldrin", "/usr/share/veldrin"};
+  for (const QString& candidate : candidates) {
+    if (HoldsLists(candidate)) return QDir::cleanPath(candidate);
+  }
+  return {};
+}
+
+bool FillProgramFolder(const QString& folder, const QString& installed) {
+  if (!QDir().mkpath(folder) || !QFileInfo(folder).isWritable()) return false;
+  if (!installed.isEmpty() && QFileInfo(installed) != QFileInfo(folder)) {
+    const QDir from(installed);
+    for (const char* name : {kListFolder, kPlanFolder}) {
+      if (from.exists(name)) CopyFolder(from.filePath(name), folder + "/" + name);
+    }
+    // Sounds and captions; a program that stands in the same folder stays where it is.
+    for (const QString& name : from.entryList({"*.wav", "*.CAP", "*.cap"}, QDir::Files)) {
+      CopyFile(from.filePath(name), folder + "/" + name);
+    }
+  }
+  for (const char* name : {kListFolder, kPlanFolder}) QDir(folder).mkpath(name);
+  return true;
+}
+
+fs::path ProgramFolder() {
+  const fs::path named = NamedFolder();
+  if (!named.empty()) return named;
+  const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/veldrin";
+  const QString installed = InstalledFolder();
+  if (FillProgramFolder(own, installed)) return NativePath(own.toStdString());
+  return NativePath((installed.isEmpty() ? QDir::homePath() : installed).toStdString());
+}
+
+}  // namespace veldrin

@@ -1,0 +1,115 @@
+#include "mainwin/chart.h"
+
+#include "runtime/conversion.h"
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kWhiteNumber = 15;
+constexpr int kGreyNumber = 7;
+
+void GearRay(Program& program, double speed, Colour colour) {
+  const Workspace& workspace = program.workspace;
+  DrawRay(program.form2.Picture21.surface, workspace.MaxNe, speed, workspace.ShiftNe, colour);
+}
+
+/// The baseline's speeds belong to `ReferenceNe`, so its rays stay in place while `ShiftNe` moves.
+void BaselineRay(Program& program, double speed, Colour colour) {
+  const Workspace& workspace = program.workspace;
+  DrawRay(program.form2.Picture21.surface, workspace.MaxNe, speed, workspace.ReferenceNe, colour);
+}
+
+bool BaselineShows(const Workspace& workspace) {
+  return workspace.ModeWord != mode::kBasing && workspace.CallerWord != caller::kQuick;
+}
+
+void DrawBaseline(Program& program) {
+  program.form2.Picture21.surface.drawStyle = kPenDotted;
+  if (!BaselineShows(program.workspace)) return;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    BaselineRay(program, program.workspace.SpeedBaseline[gear], program.workspace.GearColour[gear]);
+  }
+}
+
+template <class Speeds>
+void DrawRays(Program& program, const Speeds& speeds) {
+  for (int gear = 1; gear <= kGears; ++gear)
+    GearRay(program, speeds[gear], program.workspace.GearColour[gear]);
+}
+
+template <class Speeds>
+void DrawTooth(Program& program, const Speeds& speeds) {
+  const Workspace& workspace = program.workspace;
+  Surface& surface = program.form2.Picture21.surface;
+  surface.drawStyle = kPenSolid;
+  const auto speed = [&](int gear) { return static_cast<double>(speeds[gear]); };
+  const auto drop = [&](int gear) { return Divide(workspace.ShiftNe * speed(gear - 1), speed(gear)); };
+  const SawTooth tooth{static_cast<double>(workspace.ShiftNe), static_cast<double>(workspace.MaxNe), speed,
+                       drop};
+  DrawSawTooth(surface, tooth, PaletteColour(kWhiteNumber));
+}
+
+}  // namespace
+
+void DrawRay(Surface& surface, double maxNe, double speed, double revolutions, Colour colour) {
+  surface.Line(0, 0, maxNe, RayEnd(maxNe, speed, revolutions), colour);
+}
+
+void DrawMarkLine(Surface& surface, double revolutions, double maxSpeed, int style, Colour colour) {
+  surface.drawStyle = style;
+  surface.Line(revolutions, 0, revolutions, maxSpeed, colour);
+}
+
+void DrawSawTooth(Surface& surface, const SawTooth& tooth, Colour colour) {
+  bool first = true;
+  WalkSawTooth(tooth, [&](double x, double y) {
+    if (first) surface.Line(0, 0, x, y, colour);
+    if (!first) surface.LineTo(x, y, colour);
+    first = false;
+  });
+}
+
+void ChartScale(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  workspace.CallerWord = caller::kInit;
+  const float thousandNe = TwipsPerThousandNe(workspace);
+  const float twentyKmh = TwipsPerTwentyKmh(workspace);
+  PlaceTicks(form2, thousandNe, twentyKmh);
+  form2.Picture21.surface.SetScale(ChartUnits(workspace));
+  PlaceNumerals(form2, thousandNe, twentyKmh);
+  form2.HScroll1.Max = workspace.MaxNe;
+  form2.HScroll2.Max = workspace.MaxNe;
+  form2.HScroll2.Value = ToInt16(workspace.CheckNe);
+  workspace.CallerWord = caller::kUser;
+  program.machine.windows.Repaint(form2);
+}
+
+void ChartPlan(Program& program) {
+  Workspace& workspace = program.workspace;
+  if (workspace.CallerWord == caller::kInit) return;
+  Surface& surface = program.form2.Picture21.surface;
+  surface.Clear();
+  DrawRays(program, workspace.SpeedNow);
+  DrawBaseline(program);
+  DrawMarkLine(surface, workspace.ShiftNe, workspace.MaxSpeed, kPenDashDot, PaletteColour(kWhiteNumber));
+  if (BaselineShows(workspace)) {
+    DrawMarkLine(surface, workspace.CheckNe, workspace.MaxSpeed, kPenDashDotDot, PaletteColour(kGreyNumber));
+  }
+  DrawTooth(program, workspace.SpeedNow);
+}
+
+void ChartRequest(Program& program) {
+  Workspace& workspace = program.workspace;
+  Surface& surface = program.form2.Picture21.surface;
+  surface.Clear();
+  DrawRays(program, workspace.SpeedRequest);
+  if (workspace.ReferenceNe == 0) workspace.ReferenceNe = workspace.ShiftNe;
+  DrawBaseline(program);
+  DrawMarkLine(surface, workspace.ShiftNe, workspace.MaxSpeed, kPenDashDot, PaletteColour(kGreyNumber));
+  DrawMarkLine(surface, workspace.CheckNe, workspace.MaxSpeed, kPenDashDotDot, PaletteColour(kGreyNumber));
+  DrawTooth(program, workspace.SpeedRequest);
+}
+
+}  // namespace veldrin

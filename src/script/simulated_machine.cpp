@@ -1,9 +1,0 @@
-#include "script/simulated_machine.h"
-
-namespace veldrin {
-
-SimulatedMachine::SimulatedMachine() = default;
-
-SimulatedMachine::~SimulatedMachine() = default;
-
-}  // namespace veldrin
