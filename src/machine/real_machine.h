@@ -13,7 +13,6 @@
 #include "machine/real_instances.h"
 #include "machine/real_system.h"
 #include "machine/registry/real_registry.h"
-#include "platform/machine.h"
 #include "platform/system_code_pages.h"
 #include "view/machine.h"
 

@@ -1,6 +1,6 @@
 #include "mainwin/gear_panel_chart.h"
 
-#include "calc/gear_speed.h"
+#include "mainwin/refresh_display.h"
 #include "mainwin/chart.h"
 #include "runtime/fault.h"
 #include "view/bind.h"
