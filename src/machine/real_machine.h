@@ -3,7 +3,6 @@
 // be gone before it. Needs a QApplication.
 #pragma once
 
-#include "machine/files/real_code_pages.h"
 #include "machine/files/real_files.h"
 #include "machine/output/real_boxes.h"
 #include "machine/output/real_pictures.h"
