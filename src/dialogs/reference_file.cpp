@@ -98,14 +98,22 @@ void LeaveChooser(Program& program) {
   program.form3.Hide();
 }
 
-/// A field that is missing leaves both speeds as they were.
-void ReadQuickRatioSpeed(Program& program, TextReader& reader, int gear) {
+/// A field that is missing leaves both speeds as they were. Whether the baseline has its speed from the file.
+bool ReadQuickRatioSpeed(Program& program, TextReader& reader, int gear) {
   Workspace& workspace = program.workspace;
   std::string field;
   Guarded([&] { field = reader.Field(); });
-  Guarded([&] { workspace.SpeedBaseline[gear] = ParseSingle(field); });
+  const bool taken = Guarded([&] { workspace.SpeedBaseline[gear] = ParseSingle(field); }) == 0;
   Guarded([&] { workspace.SpeedRequest[gear] = ParseInt16(field); });
   Append(program, field);
+  return taken;
+}
+
+/// A baseline from the file belongs to the file's revolutions; one that stays keeps its own.
+void ReadQuickRatioSpeeds(Program& program, TextReader& reader) {
+  bool taken = false;
+  for (int gear = 1; gear <= kGears; ++gear) taken |= ReadQuickRatioSpeed(program, reader, gear);
+  if (taken) program.workspace.ReferenceNe = program.workspace.ShiftNe;
 }
 
 void ReadReferenceSpeed(Program& program, TextReader& reader, int gear) {
@@ -134,7 +142,7 @@ void LoadQuickRatioFile(Program& program) {
     Guarded([&] { workspace.ShiftNe = reader.Int16Field(); });
     Append(program, std::to_string(workspace.ShiftNe));
     FollowShiftNe(program);
-    for (int gear = 1; gear <= kGears; ++gear) ReadQuickRatioSpeed(program, reader, gear);
+    ReadQuickRatioSpeeds(program, reader);
     FollowTopSpeed(workspace);
     AppendRest(program, reader);
   }
