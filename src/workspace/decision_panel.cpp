@@ -40,8 +40,19 @@ void HidePanel(Program& program) {
   program.form2.Picture20.Visible = false;
 }
 
-void EnableAgain(DecisionPanelState& panel) {
-  for (Control* control : std::exchange(panel.disabled, {})) control->Enabled = true;
+/// Whether requests are being entered, where the plan's own controls are out of use.
+bool EntersRequests(const Workspace& workspace) {
+  return workspace.ModeWord == mode::kSpeed || workspace.ModeWord == mode::kRpm;
+}
+
+/// What the question put out of use, but for what the request entry, opened meanwhile, keeps so.
+void EnableAgain(Program& program) {
+  Form2& form2 = program.form2;
+  for (Control* control : std::exchange(program.decisionPanel.disabled, {})) {
+    const bool ofPlan =
+        control == &form2.Command11 || control == &form2.HScroll1 || control == &form2.HScroll2;
+    if (!(ofPlan && EntersRequests(program.workspace))) control->Enabled = true;
+  }
 }
 
 /// Whether the mode's word is that of a load that was asked for.
@@ -57,12 +68,13 @@ void TakeAnswer(Program& program) {
   if (panel.unanswered == Question::LoadWithChanges)
     panel.load = AnsweredLoad{.modeBefore = panel.modeBefore};
   panel.unanswered = Question::None;
-  EnableAgain(panel);
+  EnableAgain(program);
 }
 
 /// Ways out of the request entry that the search has closed.
 void EnableWaysOut(Form2& form2) {
-  EnableAll({&form2.Command2, &form2.Command8, &form2.menu_file, &form2.menu_f, &form2.menu_opt});
+  EnableAll({&form2.Command2, &form2.Command3, &form2.Command4, &form2.Command8, &form2.menu_file,
+             &form2.menu_f, &form2.menu_opt});
 }
 
 void ShowRequestEntry(Form2& form2) {
@@ -74,7 +86,7 @@ void TakeBack(Program& program) {
   DecisionPanelState& panel = program.decisionPanel;
   Form2& form2 = program.form2;
   const Question question = std::exchange(panel.unanswered, Question::None);
-  EnableAgain(panel);
+  EnableAgain(program);
   if (question == Question::LoadWithChanges && AwaitsLoad(program.workspace)) {
     program.workspace.ModeWord = panel.modeBefore;
   } else if (question == Question::NoPlanFound) {
@@ -93,11 +105,11 @@ void EndSpeedsDiffer(Program& program) {
   TakeAnswer(program);
 }
 
-/// The file's speeds become requests for a new search.
+/// The file's speeds become requests for a new search. A request entry that is open already stays open.
 void RecalculateBySpeed(Program& program) {
   Form2& form2 = program.form2;
   EndSpeedsDiffer(program);
-  form2.Command2.MouseUp(kLeftButton);
+  if (!EntersRequests(program.workspace)) form2.Command2.MouseUp(kLeftButton);
   form2.Command10.Click();
   form2.Command6.Click();
 }
