@@ -1,7 +1,7 @@
 #include "mainwin/gear_panel_chart.h"
 
-#include "mainwin/refresh_display.h"
 #include "mainwin/chart.h"
+#include "mainwin/refresh_display.h"
 #include "runtime/fault.h"
 #include "view/bind.h"
 
