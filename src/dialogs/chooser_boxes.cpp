@@ -4,6 +4,7 @@
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/chooser_setup.h"
 #include "workspace/language.h"
 
 #include <string>
@@ -26,8 +27,16 @@ void Drive1_KeyDown(Program& program, int key) {
   if (key == kKeyEnter) SetFocus(program.form3.Dir1);
 }
 
+/// The question for a change of machine is for the folder that is left.
+void DropMachineQuestion(Program& program) {
+  if (!PromptShows(program, kMachineChangeMessage)) return;
+  ForgetWaitingList(program);
+  program.form3.Label4.Visible = false;
+}
+
 void Dir1_Change(Program& program) {
   Form3& form3 = program.form3;
+  DropMachineQuestion(program);
   form3.Label3.Caption = form3.Dir1.Path;
   form3.File1.Path = form3.Dir1.Path;
   form3.Command1.Enabled = false;
@@ -94,9 +103,7 @@ void Combo1_Change(Program& program) {
 
 /// Whether a question stands on the prompt line that OK would answer.
 bool AsksOnPromptLine(const Program& program) {
-  const Label& prompt = program.form3.Label4;
-  return prompt.Visible && (prompt.Caption == Message(program.workspace, kOverwriteMessage) ||
-                            prompt.Caption == Message(program.workspace, kMachineChangeMessage));
+  return PromptShows(program, kOverwriteMessage) || PromptShows(program, kMachineChangeMessage);
 }
 
 /// Selects the typed name, if its extension is the machine's, and runs OK. Selecting an existing file runs OK

@@ -110,18 +110,13 @@ void ReadConfirmedList(Program& program) {
   program.form3.Label4.Visible = false;
 }
 
-bool AsksForChangeOfMachine(const Program& program) {
-  const Label& prompt = program.form3.Label4;
-  return prompt.Visible && prompt.Caption == Message(program.workspace, kMachineChangeMessage);
-}
-
 /// Kept: a question that a change of the name has dropped leaves its list open, and the next OK fails on
 /// that.
 void LoadData(Program& program) {
   Workspace& workspace = program.workspace;
   const std::string path = ChosenPath(program, program.form3.File1.FileName);
   workspace.DataPath = workspace.TempDir;
-  if (AsksForChangeOfMachine(program)) {
+  if (PromptShows(program, kMachineChangeMessage)) {
     if (EqualsIgnoringCase(path, program.chooser.waitingList)) return ReadConfirmedList(program);
     // Another file, or one of the same name elsewhere, was picked under the question.
     ForgetWaitingList(program);
@@ -175,7 +170,7 @@ void Command2_Click(Program& program) {
     // Kept: no command opens the chooser under this title today.
     workspace.ResultWord = result::kCancel;
   } else if (role != ChooserRole::LoadList && role != ChooserRole::Delete) {
-    if (form3.Label4.Visible && form3.Label4.Caption == Message(workspace, kOverwriteMessage)) {
+    if (PromptShows(program, kOverwriteMessage)) {
       form3.Label4.Caption = Message(workspace, kMachineChangeMessage);
       form3.Label4.Visible = false;
     }

@@ -41,6 +41,11 @@ void ShowChooserPrompt(Program& program, int message) {
   prompt.Visible = true;
 }
 
+bool PromptShows(const Program& program, int message) {
+  const Label& prompt = program.form3.Label4;
+  return prompt.Visible && prompt.Caption == Message(program.workspace, message);
+}
+
 void OfferCancel(Program& program) {
   program.form3.Command2.Caption = "CANCEL";
   program.form3.Command2.Enabled = true;

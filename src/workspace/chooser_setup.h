@@ -28,6 +28,9 @@ void ForgetWaitingList(Program& program);
 /// Shows a message on the prompt line, in front.
 void ShowChooserPrompt(Program& program, int message);
 
+/// Whether the prompt line shows a message.
+bool PromptShows(const Program& program, int message);
+
 /// `Command2` reads "CANCEL" and can be pressed.
 void OfferCancel(Program& program);
 
