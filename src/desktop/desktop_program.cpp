@@ -1,6 +1,6 @@
 #include "desktop/desktop_program.h"
 
-#include "desktop/input/dropped_file.h"
+#include "dialogs/dropped_file.h"
 #include "machine/files/real_leftovers.h"
 #include "program/assemble.h"
 #include "program/event_boundary.h"
@@ -53,11 +53,7 @@ DesktopProgram::DesktopProgram() {
   stage.input.Serve(program.get());
   stage.input.ended = [] { QCoreApplication::exit(); };
   stage.fileDropped = [this](const std::string& path) {
-    stage.input.Do([&] {
-      if (!user::Activate(program->form2)) return false;
-      OpenDroppedFile(*program, path);
-      return true;
-    });
+    stage.input.Do([&] { return OpenDroppedFile(*program, path); });
   };
   QObject::connect(qApp, &QGuiApplication::commitDataRequest, &listener_,
                    [this](QSessionManager& session) { CommitSession(session); });

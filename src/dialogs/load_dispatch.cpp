@@ -12,16 +12,16 @@ void SetTitle(Program& program, ChooserRole role) {
   program.form3.Caption = Message(program.workspace, static_cast<int>(role));
 }
 
-bool MustAsk(const Program& program) {
-  return program.workspace.QuickQuit != kYesWord && program.workspace.DataChanged == dirty::kYes;
-}
-
 void Ask(Program& program, const char* modeWord) {
   AskQuestion(program, Question::LoadWithChanges);
   program.workspace.ModeWord = modeWord;
 }
 
 }  // namespace
+
+bool MustAskBeforeLoading(const Program& program) {
+  return program.workspace.QuickQuit != kYesWord && program.workspace.DataChanged == dirty::kYes;
+}
 
 ChooserRole RoleOfChooser(const Program& program) {
   for (const ChooserRole role : {ChooserRole::LoadList, ChooserRole::LoadData, ChooserRole::Save,
@@ -32,7 +32,7 @@ ChooserRole RoleOfChooser(const Program& program) {
 }
 
 void OpenListChooser(Program& program) {
-  if (MustAsk(program)) return Ask(program, mode::kList);
+  if (MustAskBeforeLoading(program)) return Ask(program, mode::kList);
   SetTitle(program, ChooserRole::LoadList);
   SetUpChooserBoxes(program, {kListPattern}, program.workspace.ListPath);
   OfferCancel(program);
@@ -40,7 +40,7 @@ void OpenListChooser(Program& program) {
 }
 
 void OpenDataChooser(Program& program) {
-  if (MustAsk(program)) return Ask(program, mode::kData);
+  if (MustAskBeforeLoading(program)) return Ask(program, mode::kData);
   SetTitle(program, ChooserRole::LoadData);
   SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);
   OfferCancel(program);
@@ -49,7 +49,7 @@ void OpenDataChooser(Program& program) {
 }
 
 void OpenQuickRatioChooser(Program& program) {
-  if (MustAsk(program)) return Ask(program, mode::kQuickRatio);
+  if (MustAskBeforeLoading(program)) return Ask(program, mode::kQuickRatio);
   SetTitle(program, ChooserRole::QuickRatio);
   SetUpChooserBoxes(program, {kAnyPattern}, program.workspace.DataPath);
   ShowChooserPrompt(program, kQuickRatioPromptMessage);
@@ -57,7 +57,7 @@ void OpenQuickRatioChooser(Program& program) {
 }
 
 void OpenReferenceChooser(Program& program) {
-  if (MustAsk(program)) return Ask(program, mode::kReference);
+  if (MustAskBeforeLoading(program)) return Ask(program, mode::kReference);
   SetTitle(program, ChooserRole::Reference);
   SetUpChooserBoxes(program, {kAnyPattern}, program.workspace.DataPath);
   OfferCancel(program);

@@ -18,6 +18,9 @@ enum class ChooserRole : int {
   Reference = kReferenceTitleMessage,
 };
 
+/// Whether unsaved changes have to be asked about before something else is loaded.
+bool MustAskBeforeLoading(const Program& program);
+
 /// The role that the chooser's title names.
 ChooserRole RoleOfChooser(const Program& program);
 

@@ -227,6 +227,12 @@ void Move(const CommandLine& line) {
   });
 }
 
+void Drop(const CommandLine& line) {
+  Act(line, WindowOf(line), [&](ScriptHand& hand, Program& program, Control& control) {
+    return hand.Drop(program, control.window, line[2]);
+  });
+}
+
 void State(const CommandLine& line) {
   const Target target = WindowOf(line);
   const int state = StateNumber(line[2]);
@@ -276,6 +282,7 @@ const std::vector<Command>& ActionCommands() {
       {"focus", 1, 1, "CONTROL", Focus},
       {"resize", 3, 3, "WINDOW W H", Resize},
       {"move", 3, 3, "WINDOW LEFT TOP", Move},
+      {"drop", 2, 2, "WINDOW PATH", Drop},
       {"state", 2, 2, "WINDOW normal|minimised|maximised", State},
       {"activate", 1, 1, "WINDOW", Activate},
       {"deactivate", 1, 1, "WINDOW", Deactivate},

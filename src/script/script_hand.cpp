@@ -1,5 +1,6 @@
 #include "script/script_hand.h"
 
+#include "dialogs/dropped_file.h"
 #include "program/event_boundary.h"
 #include "simulated/simulated_machine.h"
 
@@ -94,6 +95,10 @@ bool ScriptHand::Activate(Program& program, Window& window) {
 
 bool ScriptHand::Deactivate(Program& program, Window& window) {
   return Do(program, [&] { return user::Deactivate(window); });
+}
+
+bool ScriptHand::Drop(Program& program, Window& window, const std::string& path) {
+  return Do(program, [&] { return &window == &program.form2 && OpenDroppedFile(program, path); });
 }
 
 }  // namespace veldrin

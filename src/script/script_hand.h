@@ -51,6 +51,8 @@ class ScriptHand {
   virtual bool Close(Program& program, Window& window, CloseReason reason);
   virtual bool Activate(Program& program, Window& window);
   virtual bool Deactivate(Program& program, Window& window);
+  /// A file of the machine is dropped on the window; only the main window takes any.
+  virtual bool Drop(Program& program, Window& window, const std::string& path);
 
   /// Writes a picture of the window to a file of the real machine; false where there is nothing to see.
   virtual bool Screenshot(Program& /*program*/, Window& /*window*/, const std::string& /*file*/) {

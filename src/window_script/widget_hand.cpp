@@ -8,15 +8,19 @@
 #include "desktop/controls/spin_widget.h"
 #include "desktop/controls/text_box_widget.h"
 #include "desktop/input/keys.h"
+#include "dialogs/dropped_file.h"
 #include "machine/painting/text_ends.h"
 #include "runtime/text.h"
 #include "simulated/simulated_machine.h"
 #include "window_script/shown_check.h"
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
+#include <QUrl>
 
 #include <utility>
 
@@ -277,6 +281,25 @@ bool WidgetHand::Close(Program& program, Window& window, CloseReason reason) {
     return ScriptHand::Close(program, window, reason);
   }
   return Through([&] { form->close(); });
+}
+
+/// The drag brings a file of the real machine; which one of the simulated machine it stands for, the hand
+/// knows.
+bool WidgetHand::Drop(Program& program, Window& window, const std::string& path) {
+  FormWidget* const form = windows_.FormOf(window);
+  if (form == nullptr || !form->isVisible()) return ScriptHand::Drop(program, window, path);
+  stage_.fileDropped = [&](const std::string&) {
+    stage_.input.Do([&] { return OpenDroppedFile(program, path); });
+  };
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile("/dropped")});
+  return Through([&] {
+    QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(form, &enter);
+    QDropEvent drop(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(form, &drop);
+    QCoreApplication::processEvents();
+  });
 }
 
 bool WidgetHand::Screenshot(Program& /*program*/, Window& window, const std::string& file) {

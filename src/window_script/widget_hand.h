@@ -45,6 +45,7 @@ class WidgetHand : public ScriptHand {
   bool ScrollTo(Program& program, ScrollBar& bar, int value) override;
   bool Resize(Program& program, Window& window, float width, float height) override;
   bool Close(Program& program, Window& window, CloseReason reason) override;
+  bool Drop(Program& program, Window& window, const std::string& path) override;
 
   bool Screenshot(Program& program, Window& window, const std::string& file) override;
   std::vector<Mismatch> Mismatches() override;

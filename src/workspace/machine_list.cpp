@@ -73,12 +73,9 @@ void AskForChangeOfMachine(Program& program, const std::string& path) {
 }
 
 void OpenPlanFile(Program& program, const std::string& path, const std::string& tag) {
-  constexpr int kNameStart = 6;  // behind "FROM:"
   Workspace& workspace = program.workspace;
   workspace.OpenFile = path;
-  const int nameLength = Find(tag, ".") - kNameStart;
-  if (nameLength < 0) Raise(kFaultBadCall);
-  const std::string name = Mid(tag, kNameStart, nameLength);
+  const std::string name = MachineOfPlan(tag);
   if (workspace.MachineKey.empty()) {
     workspace.MachineName = UpperCase(name);
     workspace.MachineKey = LowerCase(workspace.MachineName);
@@ -140,6 +137,13 @@ void ShowBadCommandLine(Program& program) {
   const bool japanese = CountryCode(program, 0) == kJapan;
   program.machine.boxes.Message(BoxIcon::Exclamation, "",
                                 japanese ? kBadCommandLineJapanese : kBadCommandLine, BoxButtons::Ok);
+}
+
+std::string MachineOfPlan(const std::string& tag) {
+  constexpr int kNameStart = 6;  // behind "FROM:"
+  const int nameLength = Find(tag, ".") - kNameStart;
+  if (nameLength < 0) Raise(kFaultBadCall);
+  return Mid(tag, kNameStart, nameLength);
 }
 
 void OpenAnyFile(Program& program, const std::string& path) {

@@ -1,6 +1,6 @@
 #include "desktop/controls/text_box_widget.h"
 
-#include "desktop/input/dropped_file.h"
+#include "desktop/input/dragged_files.h"
 #include "desktop/input/keys.h"
 #include "machine/painting/text_ends.h"
 

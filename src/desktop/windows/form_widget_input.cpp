@@ -1,6 +1,7 @@
-#include "desktop/input/dropped_file.h"
+#include "desktop/input/dragged_files.h"
 #include "desktop/input/keyboard.h"
 #include "desktop/windows/form_widget.h"
+#include "dialogs/dropped_file.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,4 +1,4 @@
-#include "desktop/input/dropped_file.h"
+#include "dialogs/dropped_file.h"
 
 #include "program/assemble.h"
 #include "program/event_boundary.h"
@@ -139,31 +139,6 @@ TEST_F(DroppedFileTest, NothingIsTakenWhileTheProgramAsksOrTheMenuOfFilesIsOff) 
   EXPECT_TRUE(simulated.boxes.shown.empty());
   program->form2.menu_file.Enabled = true;
   EXPECT_TRUE(TakesDroppedFiles(*program));
-}
-
-TEST_F(DroppedFileTest, PathsOfDragsKeepTheirBytes) {
-  const auto path = [](const char* list) {
-    QMimeData data;
-    data.setData("text/uri-list", list);
-    return DroppedPath(data);
-  };
-  EXPECT_EQ(path("file:///tmp/a%20b%25.nx4\r\n"), "/tmp/a b%.nx4");
-  EXPECT_EQ(path("file:///tmp/%8aC.nx4\r\n"),
-            "/tmp/\x8a"
-            "C.nx4");
-  EXPECT_EQ(path("file:///tmp/%E8%A8%88.nx4\r\n"), "/tmp/計.nx4");
-  EXPECT_EQ(path("file:///tmp/a.nx4\r\nfile:///tmp/b.nx4\r\n"), "");
-  EXPECT_EQ(path("https://example.org/a.nx4\r\n"), "");
-  EXPECT_EQ(path(""), "");
-}
-
-TEST_F(DroppedFileTest, LinksToElsewhereAreNoFiles) {
-  QMimeData data;
-  EXPECT_FALSE(CarriesFiles(data));
-  data.setData("text/uri-list", "https://example.org/a.nx4\r\n");
-  EXPECT_FALSE(CarriesFiles(data));
-  data.setData("text/uri-list", "https://example.org/a.nx4\r\nfile:///tmp/a.nx4\r\n");
-  EXPECT_TRUE(CarriesFiles(data));
 }
 
 TEST_F(DroppedFileTest, FileOfNoKnownKindIsTold) {

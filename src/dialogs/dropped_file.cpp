@@ -1,6 +1,6 @@
-#include "desktop/input/dropped_file.h"
+#include "dialogs/dropped_file.h"
 
-#include "machine/files/real_path.h"
+#include "dialogs/load_dispatch.h"
 #include "model/list_tables.h"
 #include "platform/paths.h"
 #include "runtime/fault.h"
@@ -10,25 +10,15 @@
 #include "workspace/machine_list.h"
 #include "workspace/working_files.h"
 
-#include <QUrl>
-
-#include <algorithm>
 #include <memory>
 
 namespace veldrin {
 
 namespace {
 
-constexpr int kChangedMessage = 16;
-constexpr int kDiscardMessage = 25;
-
-bool HasUnsavedChanges(const Program& program) {
-  return program.workspace.DataChanged == dirty::kYes && program.workspace.QuickQuit != kYesWord;
-}
-
 bool AgreesToDiscard(Program& program) {
-  const std::string question = Message(program.workspace, kChangedMessage) + "\r\n\r\n" +
-                               Message(program.workspace, kDiscardMessage) + " ?";
+  const std::string question = Message(program.workspace, kLoadWithChangesMessage) + "\r\n\r\n" +
+                               Message(program.workspace, kLoadWithoutSavingMessage) + " ?";
   return program.machine.boxes.Message(BoxIcon::Question, "", question, BoxButtons::OkCancel) ==
          BoxAnswer::Ok;
 }
@@ -50,13 +40,6 @@ int RefusalOf(int fault) {
                                                                     : kUnknownKindMessage;
 }
 
-/// The machine of a plan file by its tag; empty where the tag names none.
-std::string MachineOfPlan(const std::string& tag) {
-  constexpr std::size_t kNameStart = 5;  // behind "FROM:"
-  const std::size_t end = tag.find('.');
-  return end == std::string::npos || end <= kNameStart ? "" : tag.substr(kNameStart, end - kNameStart);
-}
-
 /// Key of the machine whose list follows in the reader; empty where it cannot be understood. The tables of
 /// the machine that is loaded must not feel the attempt, so it fills others.
 std::string KeyOfList(TextReader& reader, const Workspace& workspace) {
@@ -72,8 +55,9 @@ std::string KeyOfListFile(const Program& program, const std::string& path) {
 
 Drop LookAtPlan(const Program& program, const std::string& tag) {
   const Workspace& workspace = program.workspace;
-  const std::string machine = MachineOfPlan(tag);
-  if (machine.empty()) return {.refusal = kUnknownKindMessage, .listFirst = ""};
+  std::string machine;
+  if (Guarded([&] { machine = MachineOfPlan(tag); }) != 0 || machine.empty())
+    return {.refusal = kUnknownKindMessage, .listFirst = ""};
   if (workspace.MachineKey == LowerCase(machine)) return {};
   const PathRules rules = program.machine.files.Rules();
   const std::string list = JoinPath(rules, workspace.ListPath, machine + ".RAT");
@@ -111,32 +95,21 @@ void Open(Program& program, const std::string& path) {
 
 }  // namespace
 
-bool CarriesFiles(const QMimeData& data) {
-  const QList<QUrl> urls = data.urls();
-  return std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
-}
-
-std::string DroppedPath(const QMimeData& data) {
-  const QList<QUrl> urls = data.urls();
-  if (urls.size() != 1) return "";
-  return BytesOfLocalFile(urls[0]);
-}
-
 bool TakesDroppedFiles(const Program& program) {
   const Form2& form2 = program.form2;
   return !program.ended && user::Reachable(form2) && !form2.Picture20.Visible && form2.menu_file.Enabled;
 }
 
-void OpenDroppedFile(Program& program, const std::string& path) {
-  if (!TakesDroppedFiles(program)) return;
+bool OpenDroppedFile(Program& program, const std::string& path) {
+  if (!TakesDroppedFiles(program) || !user::Activate(program.form2)) return false;
   const Drop drop = LookAt(program, path);
   if (drop.refusal != 0) {
     TellRefusal(program, drop);
-    return;
+    return true;
   }
   Workspace& workspace = program.workspace;
-  if (HasUnsavedChanges(program)) {
-    if (!AgreesToDiscard(program)) return;
+  if (MustAskBeforeLoading(program)) {
+    if (!AgreesToDiscard(program)) return true;
     workspace.DataChanged = dirty::kNo;
   }
   SaveHistory(program);  // that of the machine that may be left
@@ -144,6 +117,7 @@ void OpenDroppedFile(Program& program, const std::string& path) {
   Open(program, path);
   workspace.CallerWord = caller::kUser;
   if (workspace.ResultWord == result::kNotGood) Tell(program, Message(workspace, kUnknownKindMessage));
+  return true;
 }
 
 }  // namespace veldrin
