@@ -1,5 +1,5 @@
-#include "desktop/input/dropped_file.h"
 #include "desktop/windows/placement.h"
+#include "dialogs/dropped_file.h"
 #include "program/assemble.h"
 #include "program/event_boundary.h"
 #include "tests/desktop/main_window.h"

@@ -1,7 +1,7 @@
 // The program's own main window with a plan in it, on widgets.
 #pragma once
 
-#include "desktop/input/dropped_file.h"
+#include "dialogs/dropped_file.h"
 #include "program/assemble.h"
 #include "program/event_boundary.h"
 #include "tests/desktop/sample_files.h"
