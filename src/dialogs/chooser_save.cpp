@@ -1,10 +1,10 @@
 #include "dialogs/chooser_save.h"
 
-#include "dialogs/load_dispatch.h"
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
+#include "workspace/decision_panel_answers.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
 #include "workspace/plan_file.h"
@@ -74,19 +74,6 @@ void ReopenWaitingEntry(Program& program) {
   program.form2.Show();
 }
 
-/// Runs the opener that a mode word names; it finds the chooser up and turns it into its role.
-void RunOpener(Program& program, const std::string& modeWord) {
-  if (modeWord == mode::kReference) {
-    OpenReferenceChooser(program);
-  } else if (modeWord == mode::kQuickRatio) {
-    OpenQuickRatioChooser(program);
-  } else if (modeWord == mode::kData) {
-    OpenDataChooser(program);
-  } else if (modeWord == mode::kList) {
-    OpenListChooser(program);
-  }
-}
-
 void LeaveChooser(Program& program) {
   program.form3.Command1.Enabled = false;
   program.form3.Hide();
@@ -98,7 +85,7 @@ void FinishNewFile(Program& program, const std::string& modeWord) {
   if (pendingAction == pending::kEnding) throw EndOfProgram{};
   if (pendingAction == pending::kChangeLoadHistory) return ReopenWaitingEntry(program);
   if (pendingAction == pending::kChangeLoad) {
-    RunOpener(program, modeWord);
+    OpenChooserFor(program, modeWord);
     TitleSavedPlan(program);
     return;
   }
@@ -114,7 +101,7 @@ void FinishOverwrittenFile(Program& program, const std::string& modeWord) {
   const std::string pendingAction = program.workspace.PendingAction;
   if (pendingAction == pending::kEnding) throw EndOfProgram{};
   if (pendingAction == pending::kChangeLoad) {
-    if (modeWord != mode::kList) RunOpener(program, modeWord);
+    if (modeWord != mode::kList) OpenChooserFor(program, modeWord);
     TitleSavedPlan(program);
     program.form3.Hide();
     return;

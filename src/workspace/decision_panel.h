@@ -32,6 +32,9 @@ void AskQuestion(Program& program, Question question, PanelTexts texts = PanelTe
 /// The panel's three texts alone.
 void SetQuestionTexts(Program& program, Question question);
 
+/// The question whose texts the panel carries, whether it is on show or not.
+Question QuestionOnPanel(const Program& program);
+
 /// Ends the question that waits, unanswered: what it asked about is gone. Without one nothing happens.
 void DropQuestion(Program& program);
 

@@ -1,0 +1,36 @@
+// What a question of the decision panel holds back, and how that comes back. For the panel's own units.
+#pragma once
+
+#include "workspace/program.h"
+
+#include <vector>
+
+namespace veldrin {
+
+using Controls = std::vector<Control*>;
+
+/// Puts controls out of use until the question ends; those that are so already are not remembered.
+void Hold(DecisionPanelState& panel, const Controls& controls);
+
+/// The question has its answer: controls come back, and the load that follows keeps the mode to come back to.
+/// The mode's word still names the chooser that may follow.
+void TakeAnswer(Program& program);
+
+/// The question that waits ends without an answer: controls and mode come back, after a failed search the
+/// request entry. Without one nothing happens.
+void TakeBack(Program& program);
+
+void HidePanel(Program& program);
+
+/// Whether requests are being entered, where the plan's own controls are out of use.
+bool EntersRequests(const Workspace& workspace);
+
+/// Whether the mode's word is that of a load that was asked for.
+bool AwaitsLoad(const Workspace& workspace);
+
+/// The ways out of the request entry that a search has closed.
+void EnableWaysOut(Form2& form2);
+
+void ShowRequestEntry(Form2& form2);
+
+}  // namespace veldrin
