@@ -34,9 +34,6 @@ struct CodePages {
   std::function<std::optional<std::string>(int page, std::string_view text)> encode;
 };
 
-/// Whether `bytes` are well-formed UTF-8, the shortest form of each character.
-bool IsValidUtf8(std::string_view bytes);
-
 /// Bytes of code page 1252 as UTF-8. The five bytes without a character become the control characters of
 /// their numbers.
 std::string DecodeWestern(std::string_view bytes);

@@ -1,61 +1,18 @@
 #include "runtime/text.h"
 
+#include "runtime/utf8.h"
+
 #include <algorithm>
 
 namespace veldrin {
 
 namespace {
 
-/// Bytes of the character that begins with `lead`; 1 for a byte that begins none.
-std::size_t CharacterBytes(std::string_view text, std::size_t at) {
-  const auto lead = static_cast<unsigned char>(text[at]);
-  std::size_t bytes = 1;
-  if (lead >= 0xF0 && lead < 0xF8) {
-    bytes = 4;
-  } else if (lead >= 0xE0) {
-    bytes = 3;
-  } else if (lead >= 0xC2) {
-    bytes = 2;
-  }
-  if (lead >= 0xF8 || at + bytes > text.size()) return 1;
-  for (std::size_t k = 1; k < bytes; ++k) {
-    if ((static_cast<unsigned char>(text[at + k]) & 0xC0) != 0x80) return 1;
-  }
-  return bytes;
-}
-
 /// Byte offset of character `position` (from 1), the text's size when it has fewer characters.
 std::size_t Offset(std::string_view text, int position) {
   std::size_t at = 0;
-  for (int k = 1; k < position && at < text.size(); ++k) at += CharacterBytes(text, at);
+  for (int k = 1; k < position && at < text.size(); ++k) at += CodePointAt(text, at).bytes;
   return at;
-}
-
-char32_t Decode(std::string_view character) {
-  const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(character[k]); };
-  switch (character.size()) {
-    case 2:
-      return static_cast<char32_t>((byte(0) & 0x1F) << 6 | (byte(1) & 0x3F));
-    case 3:
-      return static_cast<char32_t>((byte(0) & 0x0F) << 12 | (byte(1) & 0x3F) << 6 | (byte(2) & 0x3F));
-    default:
-      return byte(0);
-  }
-}
-
-std::string Encode(char32_t code) {
-  std::string character;
-  if (code < 0x80) {
-    character += static_cast<char>(code);
-  } else if (code < 0x800) {
-    character += static_cast<char>(0xC0 | code >> 6);
-    character += static_cast<char>(0x80 | (code & 0x3F));
-  } else {
-    character += static_cast<char>(0xE0 | code >> 12);
-    character += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-    character += static_cast<char>(0x80 | (code & 0x3F));
-  }
-  return character;
 }
 
 /// A run of letters whose other case lies a fixed distance away.
@@ -89,15 +46,13 @@ char32_t Lower(char32_t code) {
 std::string MapCase(std::string_view text, char32_t (*map)(char32_t)) {
   std::string mapped;
   for (std::size_t at = 0; at < text.size();) {
-    const std::size_t bytes = CharacterBytes(text, at);
-    const std::string_view character = text.substr(at, bytes);
-    const bool letter = bytes == 2 || bytes == 3 || static_cast<unsigned char>(character[0]) < 0x80;
-    if (letter) {
-      mapped += Encode(map(Decode(character)));
+    const CodePoint point = CodePointAt(text, at);
+    if (point.valid) {
+      AppendCodePoint(mapped, map(point.code));
     } else {
-      mapped += character;
+      mapped += text[at];
     }
-    at += bytes;
+    at += point.bytes;
   }
   return mapped;
 }
@@ -112,7 +67,7 @@ bool MatchesLower(std::string_view name, std::string_view pattern) {
       return false;
     }
     if (name.empty()) return false;
-    const std::size_t bytes = CharacterBytes(name, 0);
+    const std::size_t bytes = CodePointAt(name, 0).bytes;
     if (pattern.front() == '?') {
       pattern.remove_prefix(1);
     } else {
@@ -128,7 +83,7 @@ bool MatchesLower(std::string_view name, std::string_view pattern) {
 
 int Length(std::string_view text) {
   int length = 0;
-  for (std::size_t at = 0; at < text.size(); at += CharacterBytes(text, at)) ++length;
+  for (std::size_t at = 0; at < text.size(); at += CodePointAt(text, at).bytes) ++length;
   return length;
 }
 
@@ -152,7 +107,7 @@ std::string Mid(std::string_view text, int start) {
 std::vector<std::string> Characters(std::string_view text) {
   std::vector<std::string> characters;
   for (std::size_t at = 0; at < text.size();) {
-    const std::size_t bytes = CharacterBytes(text, at);
+    const std::size_t bytes = CodePointAt(text, at).bytes;
     characters.emplace_back(text.substr(at, bytes));
     at += bytes;
   }

@@ -1,5 +1,7 @@
 #include "platform/text_encoding.h"
 
+#include "runtime/utf8.h"
+
 #include <gtest/gtest.h>
 
 #include <iconv.h>
@@ -43,40 +45,6 @@ constexpr char kPath[] = "C:\\DAT\\RAIN.nx4";
 constexpr char kRain[] = "雨の日の設定です。\r\n";
 // The same in code page 932.
 constexpr char kRainBytes[] = "\x89\x4A\x82\xCC\x93\xFA\x82\xCC\x90\xDD\x92\xE8\x82\xC5\x82\xB7\x81\x42\r\n";
-
-TEST(Utf8, IsToldFromOtherBytes) {
-  struct Case {
-    std::string bytes;
-    bool valid;
-  };
-  const Case cases[] = {
-      {"", true},
-      {"FROM:NX4.RAT\r\n", true},
-      {"\xC3\xA9", true},           // é
-      {"\xE9\x9B\xA8", true},       // 雨
-      {"\xF0\x9F\x8F\x8D", true},   // beyond 16 bits
-      {"\xEF\xBB\xBF", true},       // a byte order mark
-      {"\xF4\x8F\xBF\xBF", true},   // the last character
-      {"\xF4\x90\x80\x80", false},  // one beyond it
-      {"\xC1\xBF", false},          // a letter in two bytes
-      {"\xE0\x9F\xBF", false},      // two bytes would do
-      {"\xF0\x8F\xBF\xBF", false},  // three bytes would do
-      {"\xED\x9F\xBF", true},       // the last before the surrogates
-      {"\xED\xA0\x80", false},      // a surrogate
-      {"\xEE\x80\x80", true},       // the first behind them
-      {"\xC3", false},              // ends inside a character
-      {"\xE9\x9B", false},          //
-      {"\x80", false},              // begins inside one
-      {"\xE9\x9B"
-       "A",
-       false},                         // breaks off
-      {"\xFF", false},                 // no byte of UTF-8
-      {"caf\xE9", false},              // code page 1252
-      {"\x89\x4A", false},             // code page 932
-      {std::string("a\0b", 3), true},  // zero is a character
-  };
-  for (const Case& c : cases) EXPECT_EQ(IsValidUtf8(c.bytes), c.valid) << c.bytes;
-}
 
 TEST(Western, EveryByteGoesThereAndBack) {
   for (int byte = 0; byte < 256; ++byte) {
