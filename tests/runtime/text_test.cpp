@@ -91,6 +91,48 @@ TEST(Text, CaseChangesForLettersAlone) {
   EXPECT_EQ(LowerCase("\xFFZ"), "\xFFz");
 }
 
+TEST(Text, EveryLetterHasItsOtherCase) {
+  struct Run {
+    const char* lower;
+    const char* upper;
+  };
+  const Run runs[] = {
+      {"abcdefghijklmnopqrstuvwxyz", "ABCDEFGHIJKLMNOPQRSTUVWXYZ"},
+      {"àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþ", "ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞ"},
+      {"αβγδεζηθικλμνξοπρστυφχψωϊϋ", "ΑΒΓΔΕΖΗΘΙΚΛΜΝΞΟΠΡΣΤΥΦΧΨΩΪΫ"},
+      {"абвгдежзийклмнопрстуфхцчшщъыьэюя", "АБВГДЕЖЗИЙКЛМНОПРСТУФХЦЧШЩЪЫЬЭЮЯ"},
+      {"ѐёђѓєѕіїјљњћќѝўџ", "ЀЁЂЃЄЅІЇЈЉЊЋЌЍЎЏ"},
+      {"ａｂｃｄｅｆｇｈｉｊｋｌｍｎｏｐｑｒｓｔｕｖｗｘｙｚ",
+       "ＡＢＣＤＥＦＧＨＩＪＫＬＭＮＯＰＱＲＳＴＵＶＷＸＹＺ"},
+  };
+  for (const Run& run : runs) {
+    const std::vector<std::string> lower = Characters(run.lower);
+    const std::vector<std::string> upper = Characters(run.upper);
+    ASSERT_EQ(lower.size(), upper.size()) << run.lower;
+    for (std::size_t k = 0; k < lower.size(); ++k) {
+      EXPECT_EQ(UpperCase(lower[k]), upper[k]);
+      EXPECT_EQ(LowerCase(upper[k]), lower[k]);
+    }
+  }
+}
+
+TEST(Text, WhatLiesBesideTheLettersHasNoOtherCase) {
+  // In front of a run of letters and behind it, then a gap inside of one, then the end of each length of
+  // bytes.
+  for (const char* text :
+       {"@", "[", "`", "{",  "¿",  "×",  "ß",  "÷",    "ΐ",      "\u03A2", "ΰ",      "ς",
+        "ό", "Ѡ", "ѡ", "＠", "［", "｀", "｛", "\x7F", "\u0080", "\u07FF", "\u0800", "\uFFFF"}) {
+    EXPECT_EQ(UpperCase(text), text);
+    EXPECT_EQ(LowerCase(text), text);
+  }
+  for (unsigned char second = 0x80; second < 0xC0; ++second) {
+    const std::string character = {'\xC2', static_cast<char>(second)};  // U+0080 to U+00BF
+    EXPECT_EQ(Length(character), 1);
+    EXPECT_EQ(UpperCase(character), character);
+    EXPECT_EQ(LowerCase(character), character);
+  }
+}
+
 TEST(Text, TrimTakesBlanksFromTheEnds) {
   EXPECT_EQ(Trim("  a b  "), "a b");
   EXPECT_EQ(Trim("   "), "");
