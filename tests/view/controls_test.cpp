@@ -97,6 +97,10 @@ TEST_F(Controls, BeginAsTheirLookSays) {
   EXPECT_EQ(plain.Top.get(), 20);
   EXPECT_EQ(plain.Width.get(), 30);
   EXPECT_EQ(plain.Height.get(), 40);
+  const Button nowhere("Nowhere", form, {});
+  for (const Slot<float>* const place : {&nowhere.Left, &nowhere.Top, &nowhere.Width, &nowhere.Height}) {
+    EXPECT_EQ(place->get(), 0);
+  }
   EXPECT_EQ(plain.Caption, "");
   EXPECT_EQ(plain.ForeColor.get(), kBlack);
   EXPECT_EQ(plain.BackColor.get(), kLightGrey);
@@ -276,15 +280,26 @@ TEST_F(Controls, AComboTakesNoPlaceOutsideItsList) {
   EXPECT_EQ(combo.Text, "MAYBE");
 }
 
+TEST_F(Controls, TheFirstEntryOfAComboCanBePicked) {
+  ComboBox combo("C", form, {}, {}, {"YES", "NO"});
+  combo.ListIndex = 0;
+  EXPECT_EQ(combo.Text, "YES");
+  EXPECT_TRUE(Told().ends_with("event Form.C.Click\n"));
+}
+
 TEST_F(Controls, AComboTellsWhenItsListChanges) {
   windows.tellsContent = true;
   ComboBox combo("C", form, {}, {}, {"YES"});
+  std::size_t shown = 0;
+  windows.lookAtContent = [&](Control&) { shown = combo.entries.size(); };
   combo.ListIndex = 0;
   Forget();
   combo.AddItem("NO");
   EXPECT_EQ(Told(), "content Form.C\n");
+  EXPECT_EQ(shown, 2U) << "who is told finds the new list";
   EXPECT_EQ(combo.entries, (std::vector<std::string>{"YES", "NO"}));
   combo.Clear();
+  EXPECT_EQ(shown, 0U);
   EXPECT_EQ(Told(), "write Form.C.ListIndex -1\ncontent Form.C\n");
   EXPECT_TRUE(combo.entries.empty());
 }
@@ -309,6 +324,12 @@ TEST_F(Controls, AGridHasACellForEachRowAndColumn) {
   grid.Rows = 1;
   EXPECT_EQ(grid.Cell(0, 0), "first");
   EXPECT_EQ(FaultOf([&] { grid.Cell(1, 0); }), kFaultSubscript);
+  for (Slot<int>* const count : {&grid.Rows, &grid.Cols}) {
+    grid.SetCell(0, 0, "first");
+    *count = 0;
+    *count = 1;
+    EXPECT_EQ(grid.Cell(0, 0), "") << "what was taken away does not come back";
+  }
   grid.Rows = -1;
   grid.Cols = -1;
   EXPECT_EQ(FaultOf([&] { grid.Cell(0, 0); }), kFaultSubscript);

@@ -22,6 +22,8 @@ struct TellingWindows : SimulatedWindows {
 
   std::ostringstream lines;
   bool tellsContent = false;
+  /// Looks at what is there at the moment when a changed content is told.
+  std::function<void(Control&)> lookAtContent;
 
   void Loaded(Window& window) override {
     lines << "loaded " << window.name << "\n";
@@ -33,6 +35,7 @@ struct TellingWindows : SimulatedWindows {
   }
   void ContentChanged(Control& control) override {
     if (tellsContent) lines << "content " << control.FullName() << "\n";
+    if (lookAtContent) lookAtContent(control);
   }
   void RunModal(Window& window) override {
     lines << "modal " << window.name << "\n";

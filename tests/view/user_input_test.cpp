@@ -73,6 +73,19 @@ TEST_F(UserInput, ClickMovesTheFocusFirst) {
   EXPECT_EQ(Events(), "Second.MouseDown Second.MouseUp Second.Click");
 }
 
+TEST_F(UserInput, ButtonsAreToldByMouseEventsAlone) {
+  int down = -1;
+  int up = -1;
+  int click = -1;
+  window.Second.MouseDown.Bind([&](int argument) { down = argument; });
+  window.Second.MouseUp.Bind([&](int argument) { up = argument; });
+  window.Second.Click.Bind([&](int argument) { click = argument; });
+  EXPECT_TRUE(user::Click(window.Second));
+  EXPECT_EQ(down, kLeftButton);
+  EXPECT_EQ(up, kLeftButton);
+  EXPECT_EQ(click, 0);
+}
+
 TEST_F(UserInput, RightButtonClicksNothing) {
   int button = 0;
   window.Second.MouseUp.Bind([&](int argument) { button = argument; });
@@ -329,6 +342,193 @@ TEST_F(UserInput, CloseAsksAndMayBeRefused) {
   EXPECT_TRUE(user::Close(window, CloseReason::SessionEnd));
   EXPECT_EQ(reason, static_cast<int>(CloseReason::SessionEnd));
   EXPECT_FALSE(window.loaded);
+}
+
+TEST_F(UserInput, DoubleClickEndsWhereTheClickPutsTheControlOutOfReach) {
+  window.Text.Click.Bind([&](int) { window.Text.Enabled = false; });
+  EXPECT_TRUE(user::DoubleClick(window.Text));
+  EXPECT_EQ(Events(), "Text.MouseDown Text.MouseUp Text.Click");
+  window.Panel.Click.Bind([&](int) { window.Hide(); });
+  EXPECT_TRUE(user::DoubleClick(window.Panel));
+  EXPECT_EQ(Events().find("DblClick"), std::string::npos);
+  EXPECT_FALSE(user::DoubleClick(window.Panel));
+  EXPECT_EQ(Events(), "");
+}
+
+TEST_F(UserInput, DoubleClickOfAFileEndsWhereItIsOutOfReach) {
+  window.Names.Enabled = false;
+  Events();
+  EXPECT_FALSE(user::DoubleClickEntry(window.Names, "A.RAT"));
+  EXPECT_EQ(Events(), "");
+  window.Names.Enabled = true;
+  window.Names.Click.Bind([&](int) { window.Names.Enabled = false; });
+  EXPECT_TRUE(user::DoubleClickEntry(window.Names, "A.RAT")) << "it was picked";
+  EXPECT_EQ(Events(), "First.LostFocus Names.GotFocus Names.Click Names.LostFocus Cells.GotFocus");
+}
+
+TEST_F(UserInput, WindowsAreReachedWhileTheyShowAndNothingModalIsInFront) {
+  EXPECT_TRUE(user::Reachable(window));
+  EXPECT_TRUE(user::Reachable(window.First));
+  window.Enabled = false;
+  EXPECT_FALSE(user::Reachable(window));
+  EXPECT_FALSE(user::Reachable(window.First));
+  window.Enabled = true;
+  Sample other(desk, "Other");
+  EXPECT_FALSE(user::Reachable(other));
+  other.LoadWindow();
+  EXPECT_FALSE(user::Reachable(other)) << "loaded, but hidden";
+  window.Hide();
+  EXPECT_FALSE(user::Reachable(window));
+  Sample unloaded(desk, "Unloaded");
+  unloaded.Visible = true;
+  EXPECT_FALSE(user::Reachable(unloaded)) << "shown, but never loaded";
+}
+
+TEST_F(UserInput, WindowThatHidesWhenItBecomesActiveEndsTheGesture) {
+  window.LoseActivity();
+  window.Activate.Bind([&](int) { window.Hide(); });
+  Events();
+  EXPECT_FALSE(user::Click(window.Second));
+  EXPECT_EQ(Events(), "Activate Deactivate");
+  EXPECT_EQ(window.focus, &window.First);
+}
+
+TEST_F(UserInput, FocusHandlerThatHidesTheWindowEndsEveryGesture) {
+  window.First.LostFocus.Bind([&](int) { window.Hide(); });
+  EXPECT_FALSE(user::EnterText(window.Box, "x"));
+  EXPECT_EQ(window.Box.Text, "ab");
+  const auto again = [&] {
+    window.Show();
+    window.MoveFocus(&window.First);
+    Events();
+  };
+  again();
+  EXPECT_FALSE(user::TypeText(window.Box, "x"));
+  again();
+  EXPECT_FALSE(user::PressKey(window.Box, kKeyEnter));
+  again();
+  EXPECT_FALSE(user::SelectEntry(window.Combo, "y"));
+  again();
+  EXPECT_FALSE(user::OpenFolder(window.Folders, "C:\\VELDRIN\\LIST"));
+  again();
+  EXPECT_FALSE(user::HighlightFolder(window.Folders, "LIST"));
+  again();
+  EXPECT_FALSE(user::PickCell(window.Cells, 0, 0));
+  again();
+  EXPECT_FALSE(user::Focus(window.Second));
+  EXPECT_EQ(window.Box.Text, "ab");
+  EXPECT_EQ(window.Combo.ListIndex.get(), -1);
+  EXPECT_EQ(window.Folders.ListIndex.get(), -1);
+  EXPECT_EQ(window.Folders.Path, "C:\\VELDRIN");
+}
+
+TEST_F(UserInput, FocusGoesToWhatCanHaveIt) {
+  EXPECT_TRUE(user::Focus(window.Second));
+  EXPECT_EQ(Events(), "First.LostFocus Second.GotFocus");
+  EXPECT_FALSE(user::Focus(window.Text));
+  EXPECT_FALSE(user::Focus(window.Bar));
+  window.Box.Enabled = false;
+  EXPECT_FALSE(user::Focus(window.Box));
+  EXPECT_EQ(window.focus, &window.Second);
+}
+
+TEST_F(UserInput, TextGoesIntoBoxesAndEditableCombos) {
+  EXPECT_TRUE(user::TakesText(window.Box));
+  EXPECT_TRUE(user::TakesText(window.Combo));
+  EXPECT_FALSE(user::TakesText(window.Fixed));
+  EXPECT_FALSE(user::TakesText(window.First));
+  EXPECT_FALSE(user::EnterText(window.First, "x"));
+  EXPECT_FALSE(user::TypeText(window.Fixed, "x"));
+  EXPECT_EQ(Events(), "") << "not even the focus moves";
+  EXPECT_TRUE(user::TypeText(window.Combo, "xy"));
+  EXPECT_EQ(window.Combo.Text, "xy");
+  EXPECT_EQ(Events(), "First.LostFocus Combo.GotFocus Combo.Change Combo.Change");
+}
+
+TEST_F(UserInput, ALineEndOfOneCharacterIsOneChangeToo) {
+  window.Box.Text = "";
+  Events();
+  EXPECT_TRUE(user::TypeText(window.Box, "\r\ra\n\r"));
+  EXPECT_EQ(window.Box.Text, "\r\ra\n\r");
+  EXPECT_EQ(Events(), "First.LostFocus Box.GotFocus Box.Change Box.Change Box.Change Box.Change Box.Change");
+}
+
+TEST_F(UserInput, TheEntryAsWrittenGoesBeforeOneThatDiffersInCase) {
+  window.Combo.AddItem("X");
+  EXPECT_TRUE(user::SelectEntry(window.Combo, "X"));
+  EXPECT_EQ(window.Combo.ListIndex.get(), 2);
+  EXPECT_TRUE(user::SelectEntry(window.Combo, "x"));
+  EXPECT_EQ(window.Combo.ListIndex.get(), 0);
+}
+
+TEST_F(UserInput, DrivesArePickedInAnyCase) {
+  EXPECT_TRUE(user::SelectEntry(window.Drives, "d:"));
+  EXPECT_EQ(window.Drives.Drive, "D:");
+  EXPECT_FALSE(user::SelectEntry(window.Drives, "E:"));
+  EXPECT_EQ(window.Drives.Drive, "D:");
+  EXPECT_FALSE(user::SelectEntry(window.Second, "x")) << "no list";
+}
+
+TEST_F(UserInput, AFolderIsHighlightedInAnyCase) {
+  EXPECT_TRUE(user::HighlightFolder(window.Folders, "list"));
+  EXPECT_EQ(window.Folders.ListIndex.get(), 1);
+  EXPECT_TRUE(user::HighlightFolder(window.Folders, "c:\\veldrin\\dat"));
+  EXPECT_EQ(window.Folders.ListIndex.get(), 0);
+  EXPECT_TRUE(user::HighlightFolder(window.Folders, "c:\\veldrin"));
+  EXPECT_EQ(window.Folders.ListIndex.get(), -1);
+}
+
+TEST_F(UserInput, TheFirstAndTheLastCellCanBePicked) {
+  window.Cells.Rows = 2;
+  window.Cells.Cols = 3;
+  EXPECT_TRUE(user::PickCell(window.Cells, 0, 0));
+  EXPECT_TRUE(user::PickCell(window.Cells, 1, 2));
+  window.Cells.Pick.Bind([&](int) {
+    EXPECT_EQ(window.Cells.row, 1);
+    EXPECT_EQ(window.Cells.column, 0);
+  });
+  EXPECT_TRUE(user::PickCell(window.Cells, 1, 0));
+  for (const auto& [row, column] : {std::pair{-1, 0}, {2, 0}, {0, -1}, {0, 3}}) {
+    EXPECT_FALSE(user::PickCell(window.Cells, row, column)) << row << "," << column;
+  }
+  EXPECT_EQ(window.Cells.row, 1);
+  EXPECT_EQ(window.Cells.column, 0);
+}
+
+TEST_F(UserInput, ArrowsAndBarsThatAreDisabledStay) {
+  window.Arrows.Enabled = false;
+  window.Bar.Enabled = false;
+  Events();
+  EXPECT_FALSE(user::Spin(window.Arrows, true));
+  EXPECT_FALSE(user::ScrollTo(window.Bar, 60));
+  EXPECT_EQ(window.Bar.Value.get(), 50);
+  EXPECT_EQ(Events(), "");
+}
+
+TEST_F(UserInput, WindowsOutOfReachStayAsTheyAre) {
+  window.Enabled = false;
+  EXPECT_FALSE(user::Resize(window, 100, 200));
+  EXPECT_FALSE(user::Move(window, 100, 200));
+  EXPECT_FALSE(user::SetState(window, 1));
+  EXPECT_FALSE(user::Close(window, CloseReason::User));
+  EXPECT_FALSE(user::Activate(window));
+  EXPECT_EQ(window.Width.get(), 9000);
+  EXPECT_EQ(window.Left.get(), 0);
+  EXPECT_EQ(window.WindowState.get(), 0);
+  EXPECT_TRUE(window.loaded);
+}
+
+TEST_F(UserInput, DeactivationNeedsAWindowThatShows) {
+  Sample other(desk, "Other");
+  EXPECT_FALSE(user::Deactivate(other));
+  other.LoadWindow();
+  EXPECT_FALSE(user::Deactivate(other));
+  window.Enabled = false;
+  EXPECT_TRUE(user::Deactivate(window)) << "whether or not it can be reached";
+  EXPECT_EQ(Events(), "Deactivate");
+  EXPECT_FALSE(user::Close(other, CloseReason::User));
+  EXPECT_TRUE(user::Close(other, CloseReason::SessionEnd));
+  EXPECT_FALSE(user::Close(other, CloseReason::SessionEnd)) << "no longer there";
 }
 
 }  // namespace
