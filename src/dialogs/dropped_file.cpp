@@ -6,6 +6,7 @@
 #include "runtime/fault.h"
 #include "runtime/text.h"
 #include "view/user_input.h"
+#include "workspace/chooser_setup.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 #include "workspace/working_files.h"
@@ -108,14 +109,18 @@ bool OpenDroppedFile(Program& program, const std::string& path) {
     return true;
   }
   Workspace& workspace = program.workspace;
-  if (MustAskBeforeLoading(program)) {
+  const bool discards = MustAskBeforeLoading(program);
+  if (discards) {
     if (!AgreesToDiscard(program)) return true;
     workspace.DataChanged = dirty::kNo;
   }
+  ForgetWaitingList(program);
   SaveHistory(program);  // that of the machine that may be left
   if (!drop.listFirst.empty()) Open(program, drop.listFirst);
   Open(program, path);
   workspace.CallerWord = caller::kUser;
+  // Nothing has come in the place of the changes: what was read would have left another word.
+  if (discards && workspace.DataChanged == dirty::kNo) workspace.DataChanged = dirty::kYes;
   if (workspace.ResultWord == result::kNotGood) Tell(program, Message(workspace, kUnknownKindMessage));
   return true;
 }
