@@ -3,8 +3,8 @@
 #include "model/decimal.h"
 #include "platform/paths.h"
 #include "runtime/conversion.h"
+#include "runtime/text.h"
 
-#include <algorithm>
 #include <string>
 
 namespace veldrin {
@@ -26,11 +26,6 @@ bool LanguageIsKnown(const Program& program, const std::string& language) {
   if (language == kEnglish || language == kJapanese) return true;
   const Files& files = program.machine.files;
   return files.FileExists(JoinPath(files.Rules(), program.workspace.AppPath, language + ".CAP"));
-}
-
-/// Kept: what lies below "9" passes, digits or not.
-bool HasCharactersOfANumber(const std::string& text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) <= '9'; });
 }
 
 bool LiesWithin(double number, const Limits& limits) {
@@ -64,7 +59,8 @@ bool PassesChecks(Program& program) {
     return false;
   }
   for (int box = 0; box < kBoxes; ++box) {
-    if (HasCharactersOfANumber(form7.Text1[box].Text)) continue;
+    // Kept: what sorts before "9" passes, digits or not.
+    if (!HasLetter(form7.Text1[box].Text.get())) continue;
     form7.Text1[box].Text = " ";
     return false;
   }

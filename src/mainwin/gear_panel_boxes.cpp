@@ -5,11 +5,11 @@
 #include "mainwin/refresh_display.h"
 #include "model/decimal.h"
 #include "runtime/conversion.h"
+#include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"
 #include "workspace/title.h"
 
-#include <algorithm>
 #include <optional>
 #include <string>
 
@@ -53,11 +53,6 @@ void HScroll2_Change(Program& program) {
 }
 
 // ---- Boxes of the running conditions ----
-
-/// Whether a character sorts after "9". Signs, points and commas all sort before it.
-bool HasLetter(const std::string& text) {
-  return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c > '9'; });
-}
 
 /// The number of a text; nothing for one beyond all floats. Raises fault 13 for a text that is no number.
 std::optional<double> NumberOf(const Workspace& workspace, const std::string& text) {

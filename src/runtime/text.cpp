@@ -145,6 +145,10 @@ std::string Trim(std::string_view text) {
   return std::string(text);
 }
 
+bool HasLetter(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c > '9'; });
+}
+
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
   const std::string lowerName = LowerCase(name);
   const std::string lowerPattern = LowerCase(pattern);

@@ -50,6 +50,10 @@ bool ContainsIgnoringCase(std::string_view text, std::string_view part);
 /// `text` without blanks at its ends.
 std::string Trim(std::string_view text);
 
+/// Whether a character of `text` sorts after "9", as letters do. Signs, points, commas and blanks sort before
+/// it, so this alone makes no number of a text.
+bool HasLetter(std::string_view text);
+
 /// Whether `name` matches `pattern`, in which "*" stands for any characters and "?" for one, case aside.
 /// "*.*" matches every name, "*." the names without an extension.
 bool MatchesPattern(std::string_view name, std::string_view pattern);

@@ -140,6 +140,12 @@ TEST(Text, TrimTakesBlanksFromTheEnds) {
   EXPECT_EQ(Trim("　"), "　") << "the ideographic blank is a character";
 }
 
+TEST(Text, LettersSortAfterTheDigits) {
+  for (const char* text : {"", "0123456789", "-1.5", "+1,5", " 7 ", "*#/"})
+    EXPECT_FALSE(HasLetter(text)) << text;
+  for (const char* text : {":", "a", "1e5", "12Z", "٣", "é", "7速"}) EXPECT_TRUE(HasLetter(text)) << text;
+}
+
 TEST(Text, PatternsMatchNamesWithoutRegardToCase) {
   struct Case {
     const char* name;
