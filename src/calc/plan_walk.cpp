@@ -1,12 +1,12 @@
 #include "calc/plan_walk.h"
 
 #include "calc/gear_speed.h"
+#include "calc/plan_rows.h"
 #include "model/list_tables.h"
 #include "runtime/conversion.h"
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 #include <utility>
 
 namespace veldrin {
@@ -101,10 +101,14 @@ void PlanWalk::AddPlan(const Combination& combination, int primary, int final, i
   const int third = BestRow(combination, 3, pass);
   const int fourth = BestRow(combination, 4, pass);
   if (workspace_.M34Matrix(third, fourth) == kEndMark) return;
+  PlanRows plan;
+  plan.primary = static_cast<std::int16_t>(primary);
+  plan.final = static_cast<std::int16_t>(final);
+  for (int gear = 1; gear <= kGears; ++gear) {
+    plan.gear[gear] = static_cast<std::int16_t>(BestRow(combination, gear, pass));
+  }
   ++found.PlanCount;
-  std::string plan = std::to_string(primary) + "," + std::to_string(final);
-  for (int gear = 1; gear <= kGears; ++gear) plan += "," + std::to_string(BestRow(combination, gear, pass));
-  found.PlanList[found.PlanCount] = plan;
+  found.PlanList[found.PlanCount] = ListText(plan);
 }
 
 void PlanWalk::Pass(int pass, Workspace& found, const Blink& blink) {

@@ -1,13 +1,13 @@
 #include "dialogs/plan_dialog.h"
 
 #include "calc/gear_speed.h"
+#include "calc/plan_rows.h"
 #include "calc/plan_search.h"
 #include "mainwin/chart.h"
 #include "mainwin/gear_panel_chart.h"
 #include "mainwin/refresh_display.h"
 #include "mainwin/search.h"
 #include "runtime/conversion.h"
-#include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/captions.h"
 #include "workspace/control_states.h"
@@ -24,6 +24,17 @@ constexpr int kWhiteNumber = 15;
 constexpr int kGreyNumber = 7;
 
 // ---- Showing a plan ----
+
+/// Raises the faults of a plan text that is none; what stands before the fault is taken.
+void TakeApart(const Workspace& workspace, PlanDialogState& dialog) {
+  PlanRows plan{dialog.ShownPrimary, dialog.ShownFinal, dialog.ShownRow};
+  const int fault =
+      Guarded([&] { ReadListText(workspace.PlanList[dialog.ShownPlan], DecimalSeparator(workspace), plan); });
+  dialog.ShownPrimary = plan.primary;
+  dialog.ShownFinal = plan.final;
+  dialog.ShownRow = plan.gear;
+  if (fault != 0) Raise(fault);
+}
 
 void ShowRows(Program& program) {
   const Workspace& workspace = program.workspace;
@@ -84,7 +95,7 @@ void DrawChart(Program& program) {
 
 /// Raises the faults of a plan text that is none, and those of speeds and requests that cannot be drawn.
 void ShowPlan(Program& program) {
-  SplitPlan(program.workspace, program.planDialog, program.planDialog.ShownPlan);
+  TakeApart(program.workspace, program.planDialog);
   ShowRows(program);
   for (int gear = 1; gear <= kGears; ++gear) ShowGear(program, gear);
   DrawChart(program);
@@ -263,21 +274,6 @@ void Form4_Unload(Program& program) {
 }
 
 }  // namespace
-
-void SplitPlan(const Workspace& workspace, PlanDialogState& dialog, int plan) {
-  const std::string& text = workspace.PlanList[plan];
-  int at = 1;
-  const auto next = [&] {
-    const int comma = at <= Length(text) ? Find(text, ",", at) : 0;
-    const int end = comma == 0 ? Length(text) + 1 : comma;
-    const std::string field = Mid(text, at, end - at);
-    at = end + 1;
-    return ParseInt16(field, DecimalSeparator(workspace));
-  };
-  dialog.ShownPrimary = next();
-  dialog.ShownFinal = next();
-  for (int gear = 1; gear <= kGears; ++gear) dialog.ShownRow[gear] = next();
-}
 
 void AttachPlanDialog(Program& program) {
   program.form4.attach = [&program](Form4& form4) {

@@ -1,9 +1,9 @@
 #include "plan/found_plans.h"
 
 #include "calc/gear_speed.h"
+#include "calc/plan_rows.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
-#include "runtime/text_file.h"
 
 namespace veldrin {
 
@@ -11,19 +11,18 @@ namespace {
 
 /// The plan of one text of the list: the rows of primary, final and the six gears.
 FoundPlan PlanOf(const Workspace& workspace, const std::string& text) {
-  TextReader rows(text);
-  const int primary = rows.Int16Field();
-  const int final = rows.Int16Field();
+  PlanRows rows;
+  ReadListText(text, '.', rows);
   FoundPlan plan;
-  plan.primary = Trim(workspace.PrimaryTable[primary].Text);
-  plan.final = Trim(workspace.FinalTable[final].Text);
+  plan.primary = Trim(workspace.PrimaryTable[rows.primary].Text);
+  plan.final = Trim(workspace.FinalTable[rows.final].Text);
   float below = 0;
   for (int gear = 1; gear <= kGears; ++gear) {
-    const int row = rows.Int16Field();
+    const int row = rows.gear[gear];
     FoundGear& found = plan.gears[static_cast<std::size_t>(gear - 1)];
     found.pair = workspace.GearTable(gear, row);
     found.request = workspace.SpeedRequest[gear];
-    found.speed = ToSingle(GearSpeed(workspace, primary, final, gear, row));
+    found.speed = ToSingle(GearSpeed(workspace, rows.primary, rows.final, gear, row));
     if (gear == 1) below = found.speed;
     found.step = found.speed - below;
     found.afterNe = ToSingle(Divide(below, found.speed) * workspace.ShiftNe);
