@@ -1,7 +1,7 @@
+#include "plan/columns.h"
 #include "plan/plan_output.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"
-#include "runtime/text.h"
 
 #include <algorithm>
 
@@ -10,25 +10,6 @@ namespace veldrin {
 namespace {
 
 constexpr const char* kGearNames[] = {"1ST", "2ND", "3RD", "4TH", "5TH", "6TH"};
-
-/// Columns that a text takes on a console: characters of three bytes and more are wide ones.
-int Columns(const std::string& text) {
-  int columns = 0;
-  for (const std::string& character : Characters(text)) columns += character.size() >= 3 ? 2 : 1;
-  return columns;
-}
-
-std::string Blanks(int count) {
-  return std::string(static_cast<std::size_t>(std::max(0, count)), ' ');
-}
-
-std::string Behind(const std::string& text, int width) {
-  return text + Blanks(width - Columns(text));
-}
-
-std::string Before(const std::string& text, int width) {
-  return Blanks(width - Columns(text)) + text;
-}
 
 int WidthOfPairs(const std::vector<FoundPlan>& plans) {
   int width = Columns("pair");
