@@ -59,6 +59,15 @@ TEST(CheckList, RevolutionsBeyondTheChart) {
   });
 }
 
+TEST(CheckList, SpeedsBeyondTheChart) {
+  // 20-60, 12500 rev/min, 1.95 m: 487.5 km/h times the final's 14-40 and 23/21 make 186.9 km/h.
+  Expect({
+      {Insert(18, "MAX_SPEED=187"), {}},
+      {Insert(18, "MAX_SPEED=186"),
+       {"w18: the first plan runs 187 km/h, beyond the chart: MAX_SPEED is 186"}},
+  });
+}
+
 /// The remarks of the sample whose machine, and file, have this name.
 Lines RemarksNamed(const std::string& name) {
   SampleList list;

@@ -1,7 +1,9 @@
 #include "plan/check/machine_check.h"
 
+#include "calc/gear_speed.h"
 #include "plan/machine.h"
 #include "runtime/conversion.h"
+#include "runtime/number_format.h"
 
 #include <algorithm>
 #include <string>
@@ -105,6 +107,17 @@ void CheckWithinChart(const char* key, double value, const Workspace& machine, c
       line, Condition(key, value, places) + ", beyond the chart: " + Condition(kEnd, machine.MaxNe, places));
 }
 
+/// The plan of the lowest rows, with which every machine begins, on a chart whose top the list has set.
+void CheckTopSpeed(const Workspace& machine, const ListPlaces& places, ListRemarks& remarks) {
+  const auto top = places.keys.find("MAX_SPEED");
+  const int row = machine.PlanIndex[kGears];
+  if (top == places.keys.end() || machine.GearTable(kGears, row) == kNoPair) return;
+  const float speed = ToSingle(GearSpeed(machine, 1, 1, kGears, row));
+  if (speed <= static_cast<float>(machine.MaxSpeed)) return;
+  remarks.Warn(top->second, "the first plan runs " + FormatNumber(speed, "0") +
+                                " km/h, beyond the chart: MAX_SPEED is " + std::to_string(machine.MaxSpeed));
+}
+
 }  // namespace
 
 void CheckMachine(const Workspace& machine, const ListPlaces& places, ListRemarks& remarks) {
@@ -112,6 +125,7 @@ void CheckMachine(const Workspace& machine, const ListPlaces& places, ListRemark
   CheckForbiddenPairs(machine, places, remarks);
   CheckWithinChart("SHIFT_NE", machine.ShiftNe, machine, places, remarks);
   CheckWithinChart("CHECK_NE", machine.CheckNe, machine, places, remarks);
+  CheckTopSpeed(machine, places, remarks);
 }
 
 }  // namespace veldrin
