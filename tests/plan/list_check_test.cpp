@@ -38,6 +38,13 @@ TEST(CheckList, Keywords) {
   });
 }
 
+TEST(CheckList, AKeywordIsLookedForUpToTheNextOne) {
+  SampleList list;
+  list[3] = "FINAL-DRVE";
+  list[10] = "FINAL-DRIVE";
+  EXPECT_EQ(Remarks(list.Text()), Lines{"3: expected FINAL-DRIVE, found \"FINAL-DRVE\""});
+}
+
 TEST(CheckList, Sizes) {
   Expect({
       {Put(4, "14,15"), {"5: the end mark 99 of the FINAL-DRIVE list is missing"}},

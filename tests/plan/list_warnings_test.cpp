@@ -66,6 +66,16 @@ TEST(CheckList, SpeedsBeyondTheChart) {
       {Insert(18, "MAX_SPEED=186"),
        {"w18: the first plan runs 187 km/h, beyond the chart: MAX_SPEED is 186"}},
   });
+  const std::string plain = std::string(kPlainList) + "MAX_SPEED=";
+  EXPECT_EQ(Remarks(plain + "140\n", "PLAIN"), Lines{}) << "140 km/h end at the top";
+  EXPECT_EQ(Remarks(plain + "139\n", "PLAIN"),
+            Lines{"w17: the first plan runs 140 km/h, beyond the chart: MAX_SPEED is 139"});
+  SampleList empty;
+  empty[12] = "1A,14,29,2A,17,26,3A,19,24,4A,22,24,5A,26,25,99,0,0";
+  empty[17] = "MAX_SPEED=100";
+  ASSERT_EQ(Remarks(empty.Text()).size(), 1U);
+  EXPECT_EQ(Remarks(empty.Text())[0].substr(0, 12), "w13: gear 6 ")
+      << "a plan on an empty place has no speed";
 }
 
 /// The remarks of the sample whose machine, and file, have this name.
@@ -144,6 +154,10 @@ TEST(CheckList, PairsOutOfTheOrderOfTheirRatios) {
       Remarks(list.Text()),
       Lines{
           "w14: gear 3, row 3: not in the order of the ratios, so a search may pass over the nearest pair"});
+  list[14] = "1C\n16,29\n2C,18,27,3C,18,24,4C,25,26,5C,21,20,6C,25,22";
+  EXPECT_EQ(Remarks(list.Text()).at(0).substr(0, 20), "w14: gear 3, row 3: ")
+      << "a row begins with its first cell";
+  list[14] = "1C,16,29,2C,18,27,3C,18,24,4C,25,26,5C,21,20,6C,25,22";
   list[12] = "1A,14,29,2A,17,26,3A,21,24,4A,22,24,5A,26,25,6A,23,21";
   EXPECT_EQ(Remarks(list.Text()), Lines{}) << "falling is an order as well";
   list[14] = "1C,16,29,2C,18,27,3C,40,50,4C,25,26,5C,21,20,6C,25,22";

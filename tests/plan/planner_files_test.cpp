@@ -115,6 +115,9 @@ TEST_F(Planner, FilesThatCannotBeHadAreOneLine) {
   const std::string large = File("LARGE.RAT", std::string((1 << 20) + 1, ' '));
   EXPECT_EQ(Run({"--check", large}), 2);
   EXPECT_EQ(errors, large + ": too large for a machine list\n");
+  File("LARGE.RAT", std::string(1 << 20, ' '));
+  EXPECT_EQ(Run({"--check", large}), 2);
+  EXPECT_EQ(errors, large + ":1: the file is empty\n");
 }
 
 TEST_F(Planner, FilesThatAreNoListAreOneLine) {

@@ -21,12 +21,6 @@ namespace fs = std::filesystem;
 
 using Words = std::vector<std::string>;
 
-/// At 5000 rev/min and 1 m gear g of this list runs 20 + 20 g km/h with its one pair.
-inline constexpr char kPlainList[] =
-    "LIST\nPLAIN\nFINAL-DRIVE\n20,99\nFINAL-DRIVEN\n20,99\nROWS,1,PRIMARY\n20,60\n99\n-\n-\n"
-    "1A,40,100,\"2,A\",60,100,3\"A,80,100,変速,100,100,5A,120,100,6A,140,100\nM34-ARRAY\n0\n"
-    "TYRE_L=1\nSHIFT_NE=5000\n";
-
 class Planner : public testing::Test {
  protected:
   Planner() { fs::create_directories(folder_); }

@@ -114,10 +114,20 @@ TEST_F(Planner, MoreThan30PlansNameTheOptionThatHelps) {
   // 16 rows of 100 km/h and as many of 101.5: the second pass, which finds all, is needed for more than 16.
   EXPECT_EQ(helpFor(ListOfFinals("1000,1015"), hundreds, {"--min-plan=20"}), "try --min-plan 16\n");
   EXPECT_EQ(Search(path, hundreds, {"--min-plan=16", "--format=csv"}), 0);
+  // One row of 100 km/h, nine of 98.5, 27 of 101.5 and three of 103.
+  const std::string one =
+      "LIST\nPLAIN\nFINAL-DRIVE\n1000,985,985,985,985,985,985,985,985,985\nFINAL-DRIVEN\n1000,99\n"
+      "ROWS,1,PRIMARY\n100,300,103,300,103,300,103,300,99\n-\n-\n"
+      "A,1,1,A,1,1,A,1,1,A,1,1,A,1,1,A,1,1\nM34-ARRAY\n0\nTYRE_L=1\nSHIFT_NE=5000\n";
+  EXPECT_EQ(helpFor(one, hundreds, {"--min-plan=2"}), "try --min-plan 1\n");
   // Of 100 and 102 km/h each misses a gear by 2; within 1 km/h of the first gear's request is but the one.
   EXPECT_EQ(helpFor(ListOfFinals("1000,1020"), "100,100,100,100,100,102", {}), "try --main 1\n");
   EXPECT_EQ(Search(path, "100,100,100,100,100,102", {"--main=1"}), 0);
   EXPECT_EQ(helpFor(ListOfFinals("1000,1020"), "102,100,100,100,100,100", {}), "try --main 1\n");
+  // All miss the first five gears by 3; the 6th runs 48.5 or 51.5.
+  std::string low = ListOfFinals("970,1030");
+  low.replace(low.rfind("A,100,100"), 9, "A,50,100");
+  EXPECT_EQ(helpFor(low, "100,100,100,100,100,49", {}), "try --main 6\n");
   // Of 97 and 103 km/h no gear comes within 1, but beside a MANUAL gear the others rise by 2 at most.
   EXPECT_EQ(helpFor(ListOfFinals("970,1030"), hundreds, {}), "try --manual 1=-21+21\n");
   EXPECT_EQ(Search(path, hundreds, {"--manual=1=-21+21"}), 0);

@@ -1,4 +1,4 @@
-// A small list without faults for the tests of the planner, to be damaged line by line.
+// Small lists without faults for the tests of the planner; one of them to be damaged line by line.
 #pragma once
 
 #include <cstddef>
@@ -6,6 +6,12 @@
 #include <vector>
 
 namespace veldrin {
+
+/// At 5000 rev/min and 1 m gear g of this list runs 20 + 20 g km/h with its one pair.
+inline constexpr char kPlainList[] =
+    "LIST\nPLAIN\nFINAL-DRIVE\n20,99\nFINAL-DRIVEN\n20,99\nROWS,1,PRIMARY\n20,60\n99\n-\n-\n"
+    "1A,40,100,\"2,A\",60,100,3\"A,80,100,変速,100,100,5A,120,100,6A,140,100\nM34-ARRAY\n0\n"
+    "TYRE_L=1\nSHIFT_NE=5000\n";
 
 /// A list by its lines, counted from 1.
 class SampleList {
