@@ -163,8 +163,9 @@ void Spin1_SpinUp(Program& program) {
 // ---- The picker of files ----
 
 /// Append. Where the data folder cannot be had, the boxes stay where they are, or go to its drive as far as
-/// that is there. The pattern goes over "*.*", so that the list is read anew even where it is the same as
-/// before. Kept: the name box gets its item anew each time, and shows three characters of a longer key.
+/// that is there; a drive's root is gone to as such, for its letter alone would be the drive's current
+/// folder. The pattern goes over "*.*", so that the list is read anew even where it is the same as before.
+/// Kept: the name box gets its item anew each time, and shows three characters of a longer key.
 void Command1_Click(Program& program) {
   const Workspace& workspace = program.workspace;
   Form5& form5 = *program.form5;
@@ -172,8 +173,9 @@ void Command1_Click(Program& program) {
   form5.Combo1.AddItem(pattern);
   form5.Combo1.Text = pattern;
   form5.Command4.Enabled = false;
-  Guarded([&] { form5.Drive1.Drive = workspace.DataPath; });
-  Guarded([&] { form5.Dir1.Path = workspace.DataPath; });
+  const std::string folder = WithRoot(program.machine.files.Rules(), workspace.DataPath);
+  Guarded([&] { form5.Drive1.Drive = folder; });
+  Guarded([&] { form5.Dir1.Path = folder; });
   Guarded([&] { form5.File1.Path = form5.Dir1.Path; });
   form5.File1.Pattern = kAnyPattern;
   form5.File1.Pattern = DataPattern(workspace);

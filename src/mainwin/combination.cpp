@@ -59,10 +59,11 @@ void TakeJointRecord(Program& program, TextReader& reader) {
 }
 
 /// Later records replace what earlier ones gave. The cell of 3rd gear has large letters again before the
-/// first one, but only where there is a file. Kept: a cell without a record keeps the caption it had.
+/// first one, but only where there is a file. Blank lines behind the last record are the file's end.
+/// Kept: a cell without a record keeps the caption it had, and a blank line between records ends the command.
 void TakeRecords(Program& program, TextReader& reader, bool separate) {
   if (separate) program.form2.Label32[kThirdGear].FontSize = kLargestFontSize;
-  while (!reader.AtEnd()) {
+  while (!reader.OnlyBlankLinesLeft()) {
     const int gear = reader.Int16Field();
     if (gear == kThirdGear && !separate) {
       TakeJointRecord(program, reader);

@@ -15,6 +15,9 @@ class TextReader {
 
   bool AtEnd() const { return at_ >= text_.size(); }
 
+  /// Whether nothing but blank lines is left.
+  bool OnlyBlankLinesLeft() const { return text_.find_first_not_of(" \t\r\n", at_) == std::string::npos; }
+
   /// The next field as text. Raises fault 62 at the end of the file.
   std::string Field();
 

@@ -143,7 +143,8 @@ void MigrateOlderSettings(Program& program, const std::string& path) {
     if (stored) Store(program, stored->value, stored->text);
   }
   program.files.Close(Handle::OlderSettings);
-  program.machine.files.Delete(path);
+  // One that refuses to go stays: only a first run looks for it.
+  Guarded([&] { program.machine.files.Delete(path); });
 }
 
 void RegisterFileType(Program& program) {
@@ -205,7 +206,8 @@ void CreateSettings(Program& program) {
   Store(program, "NumExtReg", "0");
   RegisterFileType(program);
   const std::string older = JoinPath(program.machine.files.Rules(), workspace.AppPath, kOlderSettingsFile);
-  if (program.machine.files.FileExists(older)) MigrateOlderSettings(program, older);
+  // A file that cannot be read leaves the defaults.
+  if (program.machine.files.FileExists(older)) Guarded([&] { MigrateOlderSettings(program, older); });
 }
 
 std::optional<StoredValue> MigrateLine(const Workspace& workspace, const std::string& line) {

@@ -46,8 +46,8 @@ void ReadRegionalValues(Program& program);
 bool ReadAppPath(Program& program);
 
 /// The first run: `AppPath` becomes the current folder, the store is begun, the file type registered, and
-/// the older settings file in `AppPath` migrated and deleted. Failing writes to the store go unnoticed.
-/// Raises the faults of a file that cannot be read or deleted.
+/// the older settings file in `AppPath` migrated and deleted. Failing writes to the store go unnoticed, and
+/// so does an older file that cannot be read or does not go. Raises nothing.
 void CreateSettings(Program& program);
 
 /// A value of the store with its text.

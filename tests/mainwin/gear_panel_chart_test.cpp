@@ -79,6 +79,17 @@ TEST_F(GearPanelChart, RequestsThatCannotBeDrawnEndNothing) {
   EXPECT_EQ(FirstRay(), 40);
 }
 
+TEST_F(GearPanelChart, IsLeftUnfinishedByAGearWithoutASpeed) {
+  workspace.SpeedNow[3] = 0;
+  RedrawChart(program);
+  EXPECT_EQ(FirstRay(), 20);
+  program.form2.Label38.Visible = true;
+  workspace.ModeWord = mode::kSpeed;
+  workspace.SpeedRequest[3] = 0;
+  RedrawChart(program);
+  EXPECT_EQ(FirstRay(), 40);
+}
+
 TEST_F(GearPanelChart, StaysEmptyBeforeTheFirstPlan) {
   workspace.ModeWord = mode::kBasing;
   workspace.SpeedNow.Clear();

@@ -128,5 +128,19 @@ TEST(TextReader, ReachesTheEndOfEveryText) {
   }
 }
 
+TEST(TextReader, BlankLinesAtTheEndAreNothingLeft) {
+  for (const char* rest : {"", "\r\n", "\n\n", " \t\r\n  ", "   "}) {
+    TextReader reader(std::string("1,A\r\n") + rest);
+    EXPECT_FALSE(reader.OnlyBlankLinesLeft()) << rest;
+    reader.Line();
+    EXPECT_TRUE(reader.OnlyBlankLinesLeft()) << rest;
+  }
+  for (const char* rest : {"2", "\r\n\r\n2", " ,", "\n\"\""}) {
+    TextReader reader(std::string("1,A\r\n") + rest);
+    reader.Line();
+    EXPECT_FALSE(reader.OnlyBlankLinesLeft()) << rest;
+  }
+}
+
 }  // namespace
 }  // namespace veldrin
