@@ -41,10 +41,7 @@ void OpenListChooser(Program& program) {
 
 void OpenDataChooser(Program& program) {
   if (MustAskBeforeLoading(program)) return Ask(program, mode::kData);
-  SetTitle(program, ChooserRole::LoadData);
-  SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);
-  OfferCancel(program);
-  program.form3.Command3.Visible = false;
+  SetUpDataChooser(program);
   ShowChooser(program, program.form3.File1);
 }
 

@@ -75,13 +75,6 @@ void SetUpListChooser(Program& program) {
   SetUpChooserBoxes(program, {kListPattern}, program.workspace.ListPath);
 }
 
-void SetUpDataChooser(Program& program) {
-  program.form3.Caption = Message(program.workspace, kDataTitleMessage);
-  OfferCancel(program);
-  program.form3.Command3.Visible = false;
-  SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);
-}
-
 /// Sets the chooser up and shows it until it hides, so that what the opener wrote on it stays.
 void ShowChooserAtStart(Program& program, void (*setUp)(Program&)) {
   program.workspace.CallerWord = caller::kForm1Timer;

@@ -27,6 +27,14 @@ void SetUpChooserBoxes(Program& program, const std::vector<std::string>& pattern
   form3.Command1.Enabled = false;
 }
 
+void SetUpDataChooser(Program& program) {
+  Form3& form3 = program.form3;
+  form3.Caption = Message(program.workspace, kDataTitleMessage);
+  SetUpChooserBoxes(program, {kListPattern, DataPattern(program.workspace)}, program.workspace.DataPath);
+  OfferCancel(program);
+  form3.Command3.Visible = false;
+}
+
 void ForgetWaitingList(Program& program) {
   if (program.chooser.waitingList.empty()) return;
   program.chooser.waitingList.clear();

@@ -21,6 +21,9 @@ std::string DataPattern(const Workspace& workspace);
 /// is over. Raises nothing.
 void SetUpChooserBoxes(Program& program, const std::vector<std::string>& patterns, const std::string& folder);
 
+/// The chooser in its role for opening plans, not shown yet. Raises nothing.
+void SetUpDataChooser(Program& program);
+
 /// Ends the question for a change of machine, wherever it stands: its list is closed, and the chooser does
 /// not come up again by itself. Raises nothing.
 void ForgetWaitingList(Program& program);

@@ -7,6 +7,7 @@
 #include "workspace/machine_list.h"
 
 #include <string>
+#include <vector>
 
 namespace veldrin {
 
@@ -25,17 +26,25 @@ std::string SelectedPath(const Program& program) {
   return JoinPath(rules, TrimRoot(rules, box.Path), box.FileName);
 }
 
-/// Opens the entry without the chooser's OK; the file box follows where it can.
+/// Whether the chooser's filters are those of the loaded machine's plans.
+bool OffersPlans(const Program& program) {
+  const std::vector<std::string>& patterns = program.form3.Combo2.entries;
+  return !patterns.empty() && patterns.back() == DataPattern(program.workspace);
+}
+
+/// Opens the entry without the chooser's OK; the file box follows where it can. The word holds back the
+/// double click that following fires, and no other: the chooser that tells of a failure is the user's.
 void OpenBesideChooser(Program& program, const std::string& path) {
   Workspace& workspace = program.workspace;
   FileBox& box = program.form3.File1;
   const Files& files = program.machine.files;
   workspace.CallerWord = caller::kCloseOpen;
+  if (!OffersPlans(program)) SetUpDataChooser(program);
   Guarded([&] { box.Path = BoxFolder(files, path); });
   Guarded([&] { box.FileName = LastPartOf(files.Rules(), path); });
   OpenAnyFile(program, path);
-  if (workspace.ResultWord == result::kNotGood) ShowChooser(program, program.form3.File1);
   workspace.CallerWord = caller::kUser;
+  if (workspace.ResultWord == result::kNotGood) ShowChooser(program, program.form3.File1);
 }
 
 /// Moves the file box to the entry; the double click that this fires runs the chooser's OK.
