@@ -303,7 +303,7 @@ TEST_F(Reopen, AVanishedEntryDropsOutAndShowsTheChooser) {
     simulated.files.Remove("C:\\VELDRIN\\DAT\\C.nx4");
     form3.Caption = Message(workspace, role);
     form2.menu_files[1].Click();
-    EXPECT_EQ(modalWords, (std::vector<std::string>{"CLOSE_OPEN"}));
+    EXPECT_EQ(modalWords, (std::vector<std::string>{""}));
     EXPECT_EQ(workspace.CallerWord, "");
     EXPECT_EQ(form3.Caption.get(), "Load Data File Select");
     EXPECT_TRUE(form3.Label4.Visible);
