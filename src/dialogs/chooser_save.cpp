@@ -5,6 +5,7 @@
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
 #include "workspace/decision_panel_answers.h"
+#include "workspace/failure_texts.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
 #include "workspace/plan_file.h"
@@ -42,8 +43,8 @@ void MakeProgramFolderCurrent(Program& program) {
   Guarded([&] { program.machine.files.SetCurrentFolder(program.workspace.AppPath); });
 }
 
-/// Writes the plan. False when that failed: the prompt line tells it, the file stays as it was, and the plan
-/// counts as unsaved.
+/// Writes the plan. False when that failed: the prompt line tells the cause, the file stays as it was, and
+/// the plan counts as unsaved.
 bool WritePlan(Program& program) {
   const int fault = Guarded([&] {
     program.files.OpenOutput(Handle::Plan, TargetPath(program));
@@ -58,8 +59,7 @@ bool WritePlan(Program& program) {
   }
   program.files.Abandon(Handle::Plan);
   program.workspace.DataChanged = dirty::kYes;
-  ShowChooserPrompt(program, kUnknownKindMessage);
-  program.form3.Command1.Enabled = false;
+  ShowFailure(program, fault);
   return false;
 }
 
@@ -158,8 +158,11 @@ void ConfirmingOk(Program& program) {
 
 }  // namespace
 
+// What an earlier try failed by is no question: the next OK, as by Enter in another folder, is a first one.
 void SaveFromChooser(Program& program) {
-  if (program.form3.Label4.Visible) {
+  Label& prompt = program.form3.Label4;
+  if (ShowsFailure(program)) prompt.Visible = false;
+  if (prompt.Visible) {
     ConfirmingOk(program);
   } else {
     FirstOk(program);

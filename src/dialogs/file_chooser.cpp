@@ -11,6 +11,7 @@
 #include "view/bind.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
+#include "workspace/failure_texts.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 #include "workspace/working_files.h"
@@ -74,13 +75,17 @@ void HideClearingEntry(Program& program) {
   program.form2.menu_his_clear[1].Visible = false;
 }
 
-/// The file system is asked for the name first, so a pattern deletes nothing.
-/// Kept: whatever came of it, the button reads "OK" afterwards, and nothing is reported.
+/// The file system is asked for the name first, so a pattern deletes nothing. A file that does not go is told
+/// by the cause.
+/// Kept: whatever came of it, the button reads "OK" afterwards, and a file that is not there is not reported.
 void DeleteFile(Program& program) {
   const std::string name = NameToDelete(program);
   const std::string path = ChosenPath(program, name);
   const bool found = EqualsIgnoringCase(program.machine.files.FindFirst(path), name);
-  if (found && Guarded([&] { program.machine.files.Delete(path); }) == 0) {
+  const int fault = found ? Guarded([&] { program.machine.files.Delete(path); }) : 0;
+  if (fault != 0) {
+    ShowFailure(program, fault);
+  } else if (found) {
     if (RemoveFromHistory(program, path)) HideClearingEntry(program);
     program.form3.Hide();
     program.form2.Show();

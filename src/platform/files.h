@@ -29,8 +29,8 @@ struct FileWriter {
 };
 
 /// The file system. Names are found without regard to case. Operations raise 52 for a name that the system
-/// refuses, 53 for a file that is not there, 70 where writing is denied, 71 for a drive that is not ready,
-/// 75 where the path is a folder or cannot be had, 76 for a folder that is not there.
+/// refuses, 53 for a file that is not there, 70 where reading or writing is denied, 71 for a drive that is
+/// not ready, 75 where the path is a folder or cannot be had, 76 for a folder that is not there.
 struct Files {
   virtual ~Files() = default;
 

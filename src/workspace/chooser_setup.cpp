@@ -43,8 +43,12 @@ void ForgetWaitingList(Program& program) {
 }
 
 void ShowChooserPrompt(Program& program, int message) {
+  ShowChooserPrompt(program, Message(program.workspace, message));
+}
+
+void ShowChooserPrompt(Program& program, const std::string& text) {
   Label& prompt = program.form3.Label4;
-  prompt.Caption = Message(program.workspace, message);
+  prompt.Caption = text;
   prompt.BringToFront();
   prompt.Visible = true;
 }

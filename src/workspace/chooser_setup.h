@@ -28,8 +28,9 @@ void SetUpDataChooser(Program& program);
 /// not come up again by itself. Raises nothing.
 void ForgetWaitingList(Program& program);
 
-/// Shows a message on the prompt line, in front.
+/// Shows a message, or a text, on the prompt line, in front.
 void ShowChooserPrompt(Program& program, int message);
+void ShowChooserPrompt(Program& program, const std::string& text);
 
 /// Whether the prompt line shows a message.
 bool PromptShows(const Program& program, int message);

@@ -5,6 +5,7 @@
 #include "runtime/text.h"
 #include "workspace/control_states.h"
 #include "workspace/decision_panel.h"
+#include "workspace/failure_texts.h"
 #include "workspace/history_menu.h"
 #include "workspace/language.h"
 #include "workspace/plan_file.h"
@@ -20,8 +21,8 @@ constexpr char kBadCommandLine[] = "Bad Command-line Option or Bad File-name or 
 constexpr char kBadCommandLineJapanese[] =
     "コマンドライン引数か、そのファイル名またはファイルの種類が違います";
 
-/// Tells on the chooser that a file is of no known kind.
-void ShowUnknownKind(Program& program) {
+/// Brings to the front what the chooser's prompt line tells of a refused file.
+void ShowRefusal(Program& program) {
   Form3& form3 = program.form3;
   form3.Label4.Visible = true;
   form3.Label4.BringToFront();
@@ -92,7 +93,14 @@ void OpenPlanFile(Program& program, const std::string& path, const std::string& 
   }
 }
 
-/// Answers a file of no known kind (fault 0) or a fault on the way in.
+/// Whether the user waits for the answer at the chooser, and not the start.
+bool ChooserAsked(const Workspace& workspace) {
+  const std::string& word = workspace.CallerWord;
+  return word == caller::kForm3 || word == caller::kForm3DataLoad || word == caller::kCloseOpen;
+}
+
+/// Answers a file of no known kind (fault 0) or a fault on the way in. What failed for the file system's
+/// reasons is told by its cause; what was read and not understood is a file of no known kind.
 void RefuseFile(Program& program, const std::string& path, int fault) {
   Workspace& workspace = program.workspace;
   Form3& form3 = program.form3;
@@ -108,7 +116,8 @@ void RefuseFile(Program& program, const std::string& path, int fault) {
     form3.Label4.Caption = Message(workspace, kMissingFileMessage);
     form3.Label4.Visible = true;
   } else {
-    ShowUnknownKind(program);
+    if (ChooserAsked(workspace) && IsFileFault(fault)) form3.Label4.Caption = FailureText(workspace, fault);
+    ShowRefusal(program);
   }
 }
 
@@ -174,7 +183,7 @@ void ReadMachineList(Program& program) {
   if (!understood) {
     workspace.ResultWord = result::kNotGood;
     program.form3.Label4.Caption = Message(workspace, kUnknownKindMessage);
-    ShowUnknownKind(program);
+    ShowRefusal(program);
     return;
   }
 

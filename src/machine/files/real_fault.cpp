@@ -59,7 +59,6 @@ int SystemFault(const std::error_code& failure) {
 
 int FaultFor(const std::error_code& failure, FileTask task) {
   if (const int fault = SystemFault(failure)) return fault;
-  const bool writes = task == FileTask::Write;
   if (failure == std::errc::no_such_file_or_directory) {
     return task == FileTask::Read ? kFaultFileNotFound : kFaultPathNotFound;
   }
@@ -76,7 +75,7 @@ int FaultFor(const std::error_code& failure, FileTask task) {
                       failure == std::errc::operation_not_permitted ||
                       failure == std::errc::read_only_file_system ||
                       failure == std::errc::device_or_resource_busy || failure == std::errc::text_file_busy;
-  return denied && writes ? kFaultPermissionDenied : kFaultPathAccess;
+  return denied ? kFaultPermissionDenied : kFaultPathAccess;
 }
 
 }  // namespace veldrin

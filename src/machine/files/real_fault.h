@@ -9,7 +9,7 @@ namespace veldrin {
 enum class FileTask { Read, Write, UseFolder };
 
 /// The fault number for a failure: 52 a name that the system refuses, 53 or 76 where nothing is, 61 no room,
-/// 68 no such device, 70 writing denied, 71 a drive that does not answer, 75 everything else. Raises nothing.
+/// 68 no such device, 70 denied, 71 a drive that does not answer, 75 everything else. Raises nothing.
 int FaultFor(const std::error_code& failure, FileTask task);
 
 }  // namespace veldrin

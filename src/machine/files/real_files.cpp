@@ -8,6 +8,7 @@
 #include "runtime/text.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <iterator>
 #include <utility>
@@ -25,7 +26,12 @@ bool HasWildcard(std::string_view name) {
   return name.find_first_of(kWildcards) != std::string_view::npos;
 }
 
-/// The place of a file that is there. Raises 53, 75 and 76.
+/// The fault of a reading that has just failed, by what the system told of it.
+int ReadFault() {
+  return FaultFor({errno, std::generic_category()}, FileTask::Read);
+}
+
+/// The place of a file that is there. Raises 53, 70, 75 and 76.
 fs::path FileAt(const std::string& text) {
   fs::path path = PathOnDisk(text);
   CheckDrive(PathText(path));
@@ -40,7 +46,7 @@ fs::path FileAt(const std::string& text) {
   return path;
 }
 
-/// The place of a folder that can be listed. Raises 68, 71, 75 and 76.
+/// The place of a folder that can be listed. Raises 68, 70, 71, 75 and 76.
 fs::path FolderAt(const std::string& text) {
   fs::path path = PathOnDisk(text);
   CheckDrive(PathText(path));
@@ -114,10 +120,13 @@ std::string RealFiles::ReadText(const std::string& path) {
   const fs::path place = FileAt(path);
   std::error_code failure;
   const std::uintmax_t size = fs::file_size(place, failure);
+  if (failure) Raise(FaultFor(failure, FileTask::Read));
+  if (size > kLargestText) Raise(kFaultPathAccess);
+  errno = 0;
   std::ifstream file(place, std::ios::binary);
-  if (failure || size > kLargestText || !file) Raise(kFaultPathAccess);
+  if (!file) Raise(ReadFault());
   const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  if (file.bad()) Raise(kFaultPathAccess);
+  if (file.bad()) Raise(ReadFault());
   return encoding_->Decode(PathText(place), bytes);
 }
 

@@ -222,16 +222,16 @@ TEST_F(RealFilesTest, AFolderThatDeniesWritingIsFault70) {
   chmod(folder.path().toLocal8Bit().constData(), 0700);
 }
 
-TEST_F(RealFilesTest, WhatMayNotBeReadIsFault75) {
+TEST_F(RealFilesTest, WhatMayNotBeReadIsFault70) {
   Put("plan.nx4", "old");
   MakeFolder("closed");
   chmod(folder.path().toLocal8Bit().constData(), 0755);
   chmod(PathOf("plan.nx4").c_str(), 0000);
   chmod(PathOf("closed").c_str(), 0000);
   EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ReadText(PathOf("plan.nx4")); }); }),
-            kFaultPathAccess);
+            kFaultPermissionDenied);
   EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ResolveFolder(PathOf("closed")); }); }),
-            kFaultPathAccess);
+            kFaultPermissionDenied);
   EXPECT_EQ(AsPlainUser([&] { return files.FileExists(PathOf("closed/x")) ? 1 : 0; }), 0);
 }
 
