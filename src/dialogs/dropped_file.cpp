@@ -45,7 +45,7 @@ int RefusalOf(int fault) {
 /// the machine that is loaded must not feel the attempt, so it fills others.
 std::string KeyOfList(TextReader& reader, const Workspace& workspace) {
   const auto attempt = std::make_unique<Workspace>(workspace);
-  return ReadListTables(reader, *attempt, [] {}) ? attempt->MachineKey : "";
+  return ReadListTables(reader, *attempt) ? attempt->MachineKey : "";
 }
 
 /// The same of a list file. Raises the faults of a file that cannot be read.

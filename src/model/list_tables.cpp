@@ -1,5 +1,6 @@
 #include "model/list_tables.h"
 
+#include "model/list_keys.h"
 #include "model/ratio_sort.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
@@ -77,43 +78,9 @@ void ReadMatrix(TextReader& reader, Workspace& workspace) {
   }
 }
 
-/// A whole-number setting of a key line: taken when the number as written lies in the range.
-template <class Number>
-void TakeWhole(double value, double lowest, double highest, Number& setting) {
-  if (value >= lowest && value <= highest) setting = static_cast<Number>(ToInt16(value));
-}
-
-/// One line "KEY=value". Unknown keys, also one with a blank before the "=", are ignored.
-void ReadKeyLine(const std::string& line, Workspace& workspace, const std::function<void()>& tyreChanged) {
-  const std::size_t equals = line.find('=');
-  if (equals == std::string::npos) return;
-  const std::string key = line.substr(0, equals);
-  const double value = ParseNumber(line.substr(equals + 1), DecimalSeparator(workspace));
-  if (key == "TYRE_L") {
-    if (value < 1.0 || value > 3.0) return;
-    workspace.TyreLength = ToSingle(value);
-    tyreChanged();
-  } else if (key == "CHECK_NE") {
-    TakeWhole(value, 5000, 24000, workspace.CheckNe);
-  } else if (key == "SHIFT_NE") {
-    TakeWhole(value, 5000, 24000, workspace.ShiftNe);
-  } else if (key == "MAX_SPEED") {
-    TakeWhole(value, 100, 340, workspace.MaxSpeed);
-  } else if (key == "MAX_NE") {
-    TakeWhole(value, 5000, 24000, workspace.MaxNe);
-  }
-}
-
-void ReadKeyLines(TextReader& reader, Workspace& workspace, const std::function<void()>& tyreChanged) {
-  while (!reader.AtEnd()) {
-    const std::string line = reader.Line();
-    Guarded([&] { ReadKeyLine(line, workspace, tyreChanged); });
-  }
-}
-
 }  // namespace
 
-bool ReadListTables(TextReader& reader, Workspace& workspace, const std::function<void()>& tyreChanged) {
+bool ReadListTables(TextReader& reader, Workspace& workspace) {
   Guarded([&] { workspace.MachineName = reader.Field(); });
   workspace.MachineKey = LowerCase(workspace.MachineName);
   if (!Keyword(reader, "FINAL-DRIVE")) return false;
@@ -129,7 +96,8 @@ bool ReadListTables(TextReader& reader, Workspace& workspace, const std::functio
   ReadGears(reader, workspace);
   if (!Keyword(reader, "M34-ARRAY")) return false;
   ReadMatrix(reader, workspace);
-  ReadKeyLines(reader, workspace, tyreChanged);
+  ReleaseListKeys(workspace);
+  ReadListKeys(reader, workspace);
   return true;
 }
 

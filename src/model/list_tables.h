@@ -9,14 +9,13 @@
 #include "model/workspace.h"
 #include "runtime/text_file.h"
 
-#include <functional>
-
 namespace veldrin {
 
 /// Reads everything behind the tag. False at a section keyword that differs: reading stops there, and what
 /// was read stays. Any other fault of a statement is skipped: its field is consumed, its variable keeps its
-/// value. `tyreChanged` is called when a key line has set `TyreLength`. Raises nothing.
-bool ReadListTables(TextReader& reader, Workspace& workspace, const std::function<void()>& tyreChanged);
+/// value. The conditions under the last list's keys go back before this list's keys are taken; a list that is
+/// not understood leaves them as they are. Raises nothing.
+bool ReadListTables(TextReader& reader, Workspace& workspace);
 
 /// Builds `FinalTable` from the two lists of sizes: every drive with every driven size, in list order. A
 /// driven size of 0 leaves the row's `Ratio` at 0. Raises nothing.

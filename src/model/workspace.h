@@ -37,6 +37,23 @@ struct RatioRow {
 /// Kept: teeth above 99 lose digits here; `Ratio` still uses the full numbers.
 std::string RatioText(int drive, int driven);
 
+/// A running condition that a key of the machine's list has set.
+template <class Number>
+struct KeyedCondition {
+  bool taken = false;
+  Number before{};  // what the condition was before the key
+  Number set{};     // what the key made it
+};
+
+/// The conditions under keys of the loaded list, which hold as long as its machine.
+struct KeyedConditions {
+  KeyedCondition<float> TyreLength;
+  KeyedCondition<float> CheckNe;
+  KeyedCondition<std::int16_t> ShiftNe;
+  KeyedCondition<std::int16_t> MaxSpeed;
+  KeyedCondition<std::int16_t> MaxNe;
+};
+
 struct Workspace {
   // ---- The machine, constant until the next list is loaded ----
   std::string MachineName;  // as written in the list file
@@ -73,6 +90,7 @@ struct Workspace {
   std::int16_t ReferenceNe = 0;  // rev/min: the baseline speeds belong to these
   std::int16_t MaxSpeed = 0;     // km/h: top of the chart
   std::int16_t MaxNe = 0;        // rev/min: right end of the chart
+  KeyedConditions keyed;         // those that the list's keys have set
 
   // ---- Speeds, km/h ----
   Table<float, 0, kGears> SpeedNow;  // element 0 repeats element 1

@@ -14,7 +14,7 @@ Workspace ReadMachine(const std::string& listText) {
   workspace.MaxSpeed = kDefaultMaxSpeed;
   TextReader reader(listText);
   reader.Field();  // the tag
-  ReadListTables(reader, workspace, [] {});
+  ReadListTables(reader, workspace);
   BuildFinalTable(workspace);
   SortTables(workspace);
   return workspace;

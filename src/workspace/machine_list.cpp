@@ -13,6 +13,8 @@
 #include "workspace/title.h"
 #include "workspace/working_files.h"
 
+#include <string>
+
 namespace veldrin {
 
 namespace {
@@ -40,6 +42,14 @@ void ResetDisplay(Program& program) {
     form2.Label25[step].Caption = "";
   }
   EmptyHistoryMenu(program);
+}
+
+/// The boxes show what is in force under the list's keys.
+void ShowConditions(Program& program) {
+  const Workspace& workspace = program.workspace;
+  program.form2.Text2.Text = SingleText(workspace, workspace.CheckNe);
+  program.form2.Text3.Text = SingleText(workspace, workspace.TyreLength);
+  program.form2.Text4.Text = std::to_string(workspace.ShiftNe);
 }
 
 /// The main window of a machine without a plan.
@@ -173,12 +183,11 @@ void ReadMachineList(Program& program) {
   workspace.SpeedBaseline.Clear();
   ResetDisplay(program);
 
-  const auto showTyre = [&] { form2.Text3.Text = SingleText(workspace, workspace.TyreLength); };
   // Without a waiting file every field is missing, and the first keyword fails.
   TextReader nothing("");
   const bool open = program.files.IsOpen(Handle::Reader);
   TextReader& reader = open ? program.files.Reader(Handle::Reader) : nothing;
-  const bool understood = ReadListTables(reader, workspace, showTyre);
+  const bool understood = ReadListTables(reader, workspace);
   program.files.Close(Handle::Reader);
   if (!understood) {
     workspace.ResultWord = result::kNotGood;
@@ -187,6 +196,7 @@ void ReadMachineList(Program& program) {
     return;
   }
 
+  ShowConditions(program);
   Guarded([&] { program.hooks.UpdateExtensionMenu(); });
   Guarded([&] { LoadHistory(program); });
   Guarded([&] { program.hooks.ChartScale(); });

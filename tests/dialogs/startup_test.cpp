@@ -307,7 +307,7 @@ TEST_F(Reopen, AVanishedEntryDropsOutAndShowsTheChooser) {
     EXPECT_EQ(workspace.CallerWord, "");
     EXPECT_EQ(form3.Caption.get(), "Load Data File Select");
     EXPECT_TRUE(form3.Label4.Visible);
-    EXPECT_EQ(form3.Label4.Caption.get(), "You selected unknown file type.");
+    EXPECT_EQ(form3.Label4.Caption.get(), "Selected File is not exist !!");
     EXPECT_EQ(workspace.HistoryCount, 2);
     modalWords.clear();
   }

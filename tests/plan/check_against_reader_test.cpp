@@ -36,7 +36,7 @@ std::optional<std::string> Reading(const std::string& list, std::int16_t before,
   }
   TextReader reader(list);
   if (reader.AtEnd() || !reader.Field().starts_with("LIST")) return {};
-  if (!ReadListTables(reader, workspace, [] {})) return {};
+  if (!ReadListTables(reader, workspace)) return {};
 
   std::ostringstream all;
   bool usable = !workspace.MachineName.empty() && workspace.PrimaryCount > 0 &&

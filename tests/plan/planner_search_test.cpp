@@ -62,7 +62,7 @@ TEST_F(Planner, FindsWhatTheSearchFinds) {
   workspace.MinPlan = 1;
   TextReader reader(TextOf(Sample("NX4.RAT")));
   reader.Field();
-  ASSERT_TRUE(ReadListTables(reader, workspace, [] {}));
+  ASSERT_TRUE(ReadListTables(reader, workspace));
   BuildFinalTable(workspace);
   SortTables(workspace);
   const int requests[] = {92, 114, 134, 150, 164, 176};
