@@ -5,6 +5,7 @@
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/failure_texts.h"
 #include "workspace/language.h"
 
 #include <string>
@@ -106,6 +107,18 @@ bool AsksOnPromptLine(const Program& program) {
   return PromptShows(program, kOverwriteMessage) || PromptShows(program, kMachineChangeMessage);
 }
 
+/// Whether OK is to read the file that is selected.
+bool ReadsFiles(const Program& program) {
+  const ChooserRole role = RoleOfChooser(program);
+  return role != ChooserRole::Save && role != ChooserRole::Delete && role != ChooserRole::None;
+}
+
+/// A typed name could not be selected, and nothing else is. A pattern is no name.
+void TellMissingFile(Program& program, const std::string& name) {
+  const bool isName = !Trim(name).empty() && name.find_first_of("*?") == std::string::npos;
+  if (isName) ShowFailure(program, kFaultFileNotFound);
+}
+
 /// Selects the typed name, if its extension is the machine's, and runs OK. Selecting an existing file runs OK
 /// already by the double click that it fires; the second run, which comes behind it, is left out where the
 /// first one ended in a question, which it would answer, and in the Save role where the first was the answer,
@@ -122,7 +135,11 @@ void Combo1_Enter(Program& program) {
   const bool saving = RoleOfChooser(program) == ChooserRole::Save;
   const bool askedBefore = form3.Label4.Visible;
   const std::string askedFor = program.workspace.DataPath;
-  Guarded([&] { form3.File1.FileName = dot == 0 ? text + "." + key : text; });
+  const int fault = Guarded([&] { form3.File1.FileName = dot == 0 ? text + "." + key : text; });
+  if (fault == kFaultFileNotFound && ReadsFiles(program) && form3.File1.FileName.get().empty()) {
+    TellMissingFile(program, text);
+    return;
+  }
   const bool asksNow = AsksOnPromptLine(program) && !(askedBefore && askedFor == program.workspace.DataPath);
   const bool saved = !form3.Visible || RoleOfChooser(program) != ChooserRole::Save;
   if (asksNow) {

@@ -114,9 +114,17 @@ void FinishOverwrittenFile(Program& program, const std::string& modeWord) {
   LeaveChooser(program);
 }
 
+/// Nothing but the extension is no name.
+bool IsName(const Program& program, const std::string& name) {
+  const std::string last = Trim(LastPartOf(program.machine.files.Rules(), name));
+  return !EqualsIgnoringCase(last, "." + program.workspace.MachineKey);
+}
+
 void FirstOk(Program& program) {
   Workspace& workspace = program.workspace;
-  workspace.SaveName = NameToSave(program);
+  const std::string name = NameToSave(program);
+  if (!IsName(program, name)) return;
+  workspace.SaveName = name;
   Guarded([&] { program.machine.files.SetCurrentFolder(program.form3.File1.Path); });
   workspace.DataPath = workspace.TempDir;
   if (TargetIsReserved(program)) {
@@ -142,14 +150,13 @@ bool AskedForThisFolder(const Program& program) {
   return LowerCase(program.workspace.DataPath) == LowerCase(program.workspace.TempDir);
 }
 
+bool AsksToOverwrite(const Program& program) {
+  const Label& prompt = program.form3.Label4;
+  return prompt.Visible && prompt.Caption == Message(program.workspace, kOverwriteMessage);
+}
+
 /// The old file goes when the new one is complete and takes its place, by the name that was typed.
-void ConfirmingOk(Program& program) {
-  if (program.form3.Label4.Caption != Message(program.workspace, kOverwriteMessage)) return;
-  if (!AskedForThisFolder(program)) {
-    program.form3.Label4.Visible = false;
-    FirstOk(program);
-    return;
-  }
+void Overwrite(Program& program) {
   const std::string modeWord = program.workspace.ModeWord;
   if (!WritePlan(program)) return;
   Guarded([&] { program.machine.files.Respell(TargetPath(program)); });
@@ -161,12 +168,17 @@ void ConfirmingOk(Program& program) {
 // What an earlier try failed by is no question: the next OK, as by Enter in another folder, is a first one.
 void SaveFromChooser(Program& program) {
   Label& prompt = program.form3.Label4;
-  if (ShowsFailure(program)) prompt.Visible = false;
+  const bool otherFolder = AsksToOverwrite(program) && !AskedForThisFolder(program);
+  if (otherFolder || ShowsFailure(program)) prompt.Visible = false;
   if (prompt.Visible) {
-    ConfirmingOk(program);
+    ConfirmSave(program);
   } else {
     FirstOk(program);
   }
+}
+
+void ConfirmSave(Program& program) {
+  if (AsksToOverwrite(program) && AskedForThisFolder(program)) Overwrite(program);
 }
 
 }  // namespace veldrin

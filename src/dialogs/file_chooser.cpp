@@ -131,10 +131,30 @@ void LoadData(Program& program) {
   OpenAnyFile(program, path);
 }
 
+/// Whether there is a file, or a name of one, for OK to work on.
+bool HasChoice(const Program& program, ChooserRole role) {
+  const Form3& form3 = program.form3;
+  switch (role) {
+    case ChooserRole::Delete:
+      return !Trim(form3.Combo1.Text.get()).empty();
+    case ChooserRole::LoadList:
+    case ChooserRole::LoadData:
+    case ChooserRole::QuickRatio:
+    case ChooserRole::Reference:
+      return !form3.File1.FileName.get().empty();
+    case ChooserRole::Save:
+    case ChooserRole::None:
+      return true;
+  }
+  return true;
+}
+
 /// OK. The folder chosen is kept in the variable of the temporary folder, which who needs that reads anew.
 void Command1_Click(Program& program) {
   program.workspace.TempDir = TrimRoot(program.machine.files.Rules(), program.form3.File1.Path);
-  switch (RoleOfChooser(program)) {
+  const ChooserRole role = RoleOfChooser(program);
+  if (!HasChoice(program, role)) return;
+  switch (role) {
     case ChooserRole::LoadList:
       return LoadList(program);
     case ChooserRole::LoadData:
@@ -148,7 +168,7 @@ void Command1_Click(Program& program) {
     case ChooserRole::Reference:
       return LoadReferenceFile(program);
     case ChooserRole::None:
-      if (program.form3.Label4.Visible) SaveFromChooser(program);
+      return ConfirmSave(program);
   }
 }
 
