@@ -54,8 +54,8 @@ bool HasSpeed(const Speeds& speeds) {
 
 }  // namespace
 
-// Without any speed nothing is drawn, and a gear without one, as while its box is being typed into, leaves the
-// picture unfinished: nobody has asked for a drawing here that could fail.
+// Without any speed nothing is drawn, and a gear without one, as while its box is being typed into, leaves
+// the picture unfinished: nobody has asked for a drawing here that could fail.
 void RedrawChart(Program& program) {
   Guarded([&] {
     if (ShowsRequests(program)) {
