@@ -1,8 +1,8 @@
 // The key lines at the end of a machine list: running conditions that hold for this machine alone.
 #pragma once
 
-#include "runtime/text_file.h"
 #include "model/workspace.h"
+#include "runtime/text_file.h"
 
 namespace veldrin {
 
