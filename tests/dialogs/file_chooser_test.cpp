@@ -2,7 +2,7 @@
 
 #include "program/assemble.h"
 #include "simulated/simulated_machine.h"
-#include "tests/machine_with.h"
+#include "tests/simulated/machine_with.h"
 #include "view/user_input.h"
 
 #include <gtest/gtest.h>
