@@ -151,8 +151,7 @@ bool AskedForThisFolder(const Program& program) {
 }
 
 bool AsksToOverwrite(const Program& program) {
-  const Label& prompt = program.form3.Label4;
-  return prompt.Visible && prompt.Caption == Message(program.workspace, kOverwriteMessage);
+  return PromptShows(program, kOverwriteMessage);
 }
 
 /// The old file goes when the new one is complete and takes its place, by the name that was typed.
