@@ -210,9 +210,7 @@ void Combo1_Change(Program& program) {
 
 /// The next line's number, in the system's spelling or another.
 float ReadDecimal(Program& program) {
-  const Workspace& workspace = program.workspace;
-  const std::string line = program.files.Reader(Handle::Compare).Line();
-  return ParseSingle(FixDecimal(workspace, line), DecimalSeparator(workspace));
+  return RepairedSingle(program.workspace, program.files.Reader(Handle::Compare).Line());
 }
 
 std::string ReadRatio(Program& program) {

@@ -1,5 +1,6 @@
 #include "dialogs/extension_registry.h"
 
+#include "model/decimal.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
@@ -59,7 +60,7 @@ void WriteCount(Program& program, int count) {
 
 /// A number of the store. Raises faults 13 and 6.
 std::int16_t Number(const Program& program, const std::string& text) {
-  return ParseInt16(text, DecimalSeparator(program.workspace));
+  return SystemInt16(program.workspace, text);
 }
 
 // ---- Entries of the menu ----

@@ -16,8 +16,7 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kNeAboveShift = 1000;    // rev/min
-constexpr int kHighestMaxSpeed = 340;  // km/h
+constexpr int kNeAboveShift = 1000;  // rev/min
 
 /// The file on its handle, or an empty one when it could not be opened: every read is then past the end.
 class OpenedReference {
@@ -66,7 +65,7 @@ void FollowTopSpeed(Workspace& workspace) {
   const float top = workspace.SpeedBaseline[kGears];
   if (top <= workspace.MaxSpeed) return;
   const double tens = std::floor(static_cast<double>(top) / 10) * 10 + 20;
-  workspace.MaxSpeed = ToInt16(std::min<double>(tens, kHighestMaxSpeed));
+  workspace.MaxSpeed = ToInt16(std::min<double>(tens, kMaxSpeedLimits.highest));
 }
 
 void AppendRest(Program& program, TextReader& reader) {
@@ -121,9 +120,7 @@ void ReadReferenceSpeed(Program& program, TextReader& reader, int gear) {
   std::string line;
   Guarded([&] { line = reader.Line(); });
   workspace.SpeedRequest[gear] = 0;
-  Guarded([&] {
-    workspace.SpeedBaseline[gear] = ParseSingle(FixDecimal(workspace, line), DecimalSeparator(workspace));
-  });
+  Guarded([&] { workspace.SpeedBaseline[gear] = RepairedSingle(workspace, line); });
   Append(program, line);
 }
 
@@ -159,15 +156,13 @@ void LoadReferenceFile(Program& program) {
   workspace.DataPath = workspace.TempDir;
   workspace.RemarkChanged = dirty::kYes;
   form2.Text6.Text = "";
-  const char separator = DecimalSeparator(workspace);
   {
     OpenedReference file(program);
     TextReader& reader = file.Reader();
     ReadRemarkLine(program, reader);
-    Guarded([&] { workspace.TyreLength = ParseSingle(FixDecimal(workspace, reader.Line()), separator); });
+    Guarded([&] { workspace.TyreLength = RepairedSingle(workspace, reader.Line()); });
     Append(program, SingleText(workspace, workspace.TyreLength));
-    Guarded(
-        [&] { workspace.ShiftNe = ToInt16(ParseSingle(FixDecimal(workspace, reader.Line()), separator)); });
+    Guarded([&] { workspace.ShiftNe = ToInt16(RepairedSingle(workspace, reader.Line())); });
     FollowShiftNe(program);
     workspace.ReferenceNe = workspace.ShiftNe;
     Append(program, std::to_string(workspace.ShiftNe));

@@ -3,7 +3,6 @@
 #include "dialogs/settings_validation.h"
 #include "model/decimal.h"
 #include "platform/paths.h"
-#include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/settings.h"
@@ -22,6 +21,13 @@ constexpr int kLanguageBox = 0;
 constexpr int kQuickQuitBox = 2;
 constexpr int kHistoryBox = 3;
 constexpr int kFontBox = 4;
+
+// Subscripts of `Text1`; they follow `kConditions`.
+constexpr int kTyreBox = 0;
+constexpr int kCheckNeBox = 1;
+constexpr int kShiftNeBox = 2;
+constexpr int kMaxSpeedBox = 3;
+constexpr int kMaxNeBox = 4;
 
 // ---- Load: from the second step on a statement that fails is skipped ----
 
@@ -85,11 +91,11 @@ void SetEnglishCaptions(Form7& form7) {
 void FillFields(Program& program) {
   const Workspace& workspace = program.workspace;
   Form7& form7 = *program.form7;
-  form7.Text1[0].Text = SingleText(workspace, workspace.TyreLength);
-  form7.Text1[1].Text = SingleText(workspace, workspace.CheckNe);
-  form7.Text1[2].Text = std::to_string(workspace.ShiftNe);
-  form7.Text1[3].Text = std::to_string(workspace.MaxSpeed);
-  form7.Text1[4].Text = std::to_string(workspace.MaxNe);
+  form7.Text1[kTyreBox].Text = SingleText(workspace, workspace.TyreLength);
+  form7.Text1[kCheckNeBox].Text = SingleText(workspace, workspace.CheckNe);
+  form7.Text1[kShiftNeBox].Text = std::to_string(workspace.ShiftNe);
+  form7.Text1[kMaxSpeedBox].Text = std::to_string(workspace.MaxSpeed);
+  form7.Text1[kMaxNeBox].Text = std::to_string(workspace.MaxNe);
   form7.Label11[1].Caption = UpperCase(workspace.MachineName + ".rat");
   const PathRules rules = program.machine.files.Rules();
   form7.Label12[1].Caption = StoredFolder(rules, workspace.ListPath);
@@ -161,31 +167,21 @@ void Store(Program& program, const char* value, const std::string& text) {
   WriteSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value, text);
 }
 
-/// The text of a box as a 32-bit float and back. Raises faults 13 and 6.
-std::string AsSingle(const Workspace& workspace, const std::string& text) {
-  return SingleText(workspace, ParseSingle(FixDecimal(workspace, text), DecimalSeparator(workspace)));
-}
-
-/// The text of a box as a 16-bit number and back. Raises faults 13 and 6.
-std::string AsInt16(const Workspace& workspace, const std::string& text) {
-  return std::to_string(ParseInt16(text, DecimalSeparator(workspace)));
+void StoreBox(Program& program, int box) {
+  Store(program, kConditions[box].setting, StoredNumber(program, box));
 }
 
 /// Raises fault 13 for a whole number's box that begins with a number and is none; what stands before it is
 /// written then.
 void WriteSettings(Program& program) {
-  const Workspace& workspace = program.workspace;
   const Form7& form7 = *program.form7;
   const PathRules rules = program.machine.files.Rules();
-  Store(program, "Tyre_L", AsSingle(workspace, form7.Text1[0].Text));
-  Store(program, "Check_Ne", AsInt16(workspace, form7.Text1[1].Text));
-  Store(program, "Shift_Ne", AsInt16(workspace, form7.Text1[2].Text));
+  for (int box = kTyreBox; box <= kShiftNeBox; ++box) StoreBox(program, box);
   Store(program, "List_File", UpperCase(form7.Label11[1].Caption.get()));
   Store(program, "List_Path", StoredFolder(rules, form7.Label12[1].Caption));
   Store(program, "Data_Path", StoredFolder(rules, form7.Label13[1].Caption));
-  Store(program, "Max_Speed", AsInt16(workspace, form7.Text1[3].Text));
-  Store(program, "Max_Ne", AsInt16(workspace, form7.Text1[4].Text));
-  Store(program, "His_Num", AsInt16(workspace, form7.Combo1[kHistoryBox].Text));
+  for (int box = kMaxSpeedBox; box <= kMaxNeBox; ++box) StoreBox(program, box);
+  Store(program, "His_Num", std::to_string(SystemInt16(program.workspace, form7.Combo1[kHistoryBox].Text)));
   Store(program, "QuickQuit", form7.Combo1[kQuickQuitBox].Text);
   Store(program, "Pr_Font", form7.Combo1[kFontBox].Text);
   Store(program, "Language", form7.Combo1[kLanguageBox].Text);

@@ -5,21 +5,14 @@
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 
+#include <iterator>
 #include <string>
 
 namespace veldrin {
 
 namespace {
 
-/// Both ends are allowed.
-struct Limits {
-  double low;
-  double high;
-};
-
-constexpr int kBoxes = 5;
-constexpr int kTyreBox = 0;
-constexpr Limits kLimits[kBoxes] = {{1.0, 3.0}, {5000, 24000}, {5000, 24000}, {100, 340}, {5000, 24000}};
+constexpr int kBoxes = static_cast<int>(std::size(kConditions));
 
 /// Whether the language is one of the program's, or its caption file is there.
 bool LanguageIsKnown(const Program& program, const std::string& language) {
@@ -28,27 +21,14 @@ bool LanguageIsKnown(const Program& program, const std::string& language) {
   return files.FileExists(JoinPath(files.Rules(), program.workspace.AppPath, language + ".CAP"));
 }
 
-bool LiesWithin(double number, const Limits& limits) {
-  return number >= limits.low && number <= limits.high;
-}
-
-/// A text that is no number at all lies in no range.
-bool TyreIsInRange(const Workspace& workspace, const std::string& text) {
-  float length = 0;
-  const int fault =
-      Guarded([&] { length = ParseSingle(FixDecimal(workspace, text), DecimalSeparator(workspace)); });
-  return fault == 0 && LiesWithin(length, kLimits[kTyreBox]);
-}
-
-bool NumberIsInRange(const std::string& text, const Limits& limits) {
-  double number = 0;
-  const int fault = Guarded([&] { number = LeadingNumber(text); });
-  return fault == 0 && LiesWithin(number, limits);
-}
-
+/// A text that is no number at all lies in no range. Of a whole number only what it begins with is looked at.
 bool BoxIsInRange(const Program& program, int box) {
+  const Condition& condition = kConditions[box];
   const std::string& text = program.form7->Text1[box].Text;
-  return box == kTyreBox ? TyreIsInRange(program.workspace, text) : NumberIsInRange(text, kLimits[box]);
+  double number = 0;
+  const int fault = Guarded(
+      [&] { number = condition.whole ? LeadingNumber(text) : RepairedSingle(program.workspace, text); });
+  return fault == 0 && condition.limits.Holds(number);
 }
 
 /// Runs the checks; false at the first failure, whose box is emptied.
@@ -76,6 +56,13 @@ bool PassesChecks(Program& program) {
 
 void Validate(Program& program) {
   program.settingsDialog.ValidationResult = PassesChecks(program) ? kValid : kInvalid;
+}
+
+std::string StoredNumber(const Program& program, int box) {
+  const Workspace& workspace = program.workspace;
+  const std::string& text = program.form7->Text1[box].Text;
+  if (kConditions[box].whole) return std::to_string(SystemInt16(workspace, text));
+  return SingleText(workspace, RepairedSingle(workspace, text));
 }
 
 }  // namespace veldrin

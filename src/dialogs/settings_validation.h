@@ -3,6 +3,8 @@
 
 #include "workspace/program.h"
 
+#include <string>
+
 namespace veldrin {
 
 /// `ValidationResult` in the settings window.
@@ -15,5 +17,9 @@ inline constexpr char kInvalid[] = "NG";
 /// Kept: a number is looked for at the front of a whole number's box only, and ends at anything but a point.
 /// So "6000-1" passes, and where the decimal separator is a comma "24000,9", which is then written as 24001.
 void Validate(Program& program);
+
+/// The number in box `box` of `Text1` as it is stored: read in its width, 32 bits of float for the tyre
+/// length and 16 bits for the others, and written again. Raises faults 13 and 6.
+std::string StoredNumber(const Program& program, int box);
 
 }  // namespace veldrin

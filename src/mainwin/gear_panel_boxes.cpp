@@ -17,14 +17,6 @@ namespace veldrin {
 
 namespace {
 
-struct NumberRange {
-  double lowest;
-  double highest;
-};
-
-constexpr NumberRange kRevolutions{5000, 24000};  // rev/min
-constexpr NumberRange kTyreLength{1.0, 3.0};      // metres
-
 // ---- Scroll bars ----
 
 /// Readers move the bars too, and go on after a fault: the word must not outlast it.
@@ -57,7 +49,7 @@ void HScroll2_Change(Program& program) {
 /// The number of a text; nothing for one beyond all floats. Raises fault 13 for a text that is no number.
 std::optional<double> NumberOf(const Workspace& workspace, const std::string& text) {
   double number = 0;
-  const int fault = Guarded([&] { number = ParseNumber(text, DecimalSeparator(workspace)); });
+  const int fault = Guarded([&] { number = SystemNumber(workspace, text); });
   if (fault == kFaultOverflow) return std::nullopt;
   if (fault != 0) Raise(fault);
   return number;
@@ -71,10 +63,10 @@ void Refuse(Program& program, TextBox& box) {
 /// The number of a box. One with letters or outside the range is refused by a beep and an emptied box.
 /// Kept: a text that is no number ends the program.
 std::optional<double> ValidNumber(Program& program, TextBox& box, const std::string& text,
-                                  const NumberRange& range) {
+                                  const Limits& limits) {
   if (!HasLetter(text)) {
     const std::optional<double> number = NumberOf(program.workspace, text);
-    if (number && *number >= range.lowest && *number <= range.highest) return number;
+    if (number && limits.Holds(*number)) return number;
   }
   Refuse(program, box);
   return std::nullopt;
@@ -83,13 +75,13 @@ std::optional<double> ValidNumber(Program& program, TextBox& box, const std::str
 /// Kept: an empty box is a text without a number like any other, so leaving one that a refusal or a double
 /// click has emptied ends the program.
 std::optional<double> ValidRevolutions(Program& program, TextBox& box) {
-  return ValidNumber(program, box, box.Text, kRevolutions);
+  return ValidNumber(program, box, box.Text, kRevolutionLimits);
 }
 
 /// An empty box is refused as well.
 std::optional<double> ValidTyreLength(Program& program, TextBox& box) {
   if (!box.Text.get().empty()) {
-    return ValidNumber(program, box, FixDecimal(program.workspace, box.Text), kTyreLength);
+    return ValidNumber(program, box, FixDecimal(program.workspace, box.Text), kTyreLimits);
   }
   Refuse(program, box);
   return std::nullopt;

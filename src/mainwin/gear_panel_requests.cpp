@@ -2,6 +2,7 @@
 
 #include "mainwin/chart.h"
 #include "mainwin/search.h"
+#include "model/decimal.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
@@ -13,23 +14,15 @@ namespace veldrin {
 
 namespace {
 
-constexpr double kLowestRequest = 10;  // km/h
-constexpr char kLowestRequestText[] = "10";
 /// Where the shared counter stands after a loop over the gears.
 constexpr int kCounterAfterGears = kGears + 1;
-constexpr int kLowestTolerance = 1;  // km/h
-constexpr int kHighestTolerance = 21;
 constexpr double kNeStep = 50;  // rev/min
 constexpr char kNoTolerance[] = "--";
 
 // ---- Boxes of the request speeds ----
 
-double NumberOf(const Program& program, const std::string& text) {
-  return ParseNumber(text, DecimalSeparator(program.workspace));
-}
-
 double WholeNumberOf(const Program& program, const std::string& text) {
-  return RoundHalfToEven(NumberOf(program, text));
+  return RoundHalfToEven(SystemNumber(program.workspace, text));
 }
 
 std::string NumberText(const Program& program, double number) {
@@ -68,11 +61,12 @@ void Text1_DblClick(Program& program, int gear) {
 
 void HoldAtFloor(Program& program, TextBox& box) {
   const std::string& text = box.Text;
-  if (text.empty() || NumberOf(program, text) < kLowestRequest) box.Text = kLowestRequestText;
+  if (text.empty() || SystemNumber(program.workspace, text) < kLowestRequest)
+    box.Text = std::to_string(kLowestRequest);
 }
 
 void StepBox(Program& program, TextBox& box, int step) {
-  box.Text = NumberText(program, NumberOf(program, box.Text) + step);
+  box.Text = NumberText(program, SystemNumber(program.workspace, box.Text) + step);
   program.machine.windows.Repaint(box);
 }
 
@@ -172,7 +166,7 @@ void Option1_Click(Program& program, int index) {
 /// Moves a tolerance by 1 within its ends and shows it.
 void StepTolerance(std::int16_t& tolerance, Label& label, int step) {
   const int stepped = tolerance + step;
-  if (stepped < kLowestTolerance || stepped > kHighestTolerance) return;
+  if (!kToleranceLimits.Holds(stepped)) return;
   tolerance = static_cast<std::int16_t>(stepped);
   label.Caption = std::to_string(tolerance);
 }

@@ -1,7 +1,7 @@
 #include "mainwin/main_window.h"
 
+#include "model/decimal.h"
 #include "platform/paths.h"
-#include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/chooser_setup.h"
@@ -36,7 +36,7 @@ void SetJapaneseFonts(Form2& form2) {
 
 std::int16_t StoredPlace(const Program& program, const char* value) {
   const std::string text = ReadSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value);
-  return ParseInt16(text, DecimalSeparator(program.workspace));
+  return SystemInt16(program.workspace, text);
 }
 
 /// In the middle of the screen, and then where it last stood.

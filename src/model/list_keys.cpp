@@ -1,5 +1,6 @@
 #include "model/list_keys.h"
 
+#include "model/decimal.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 
@@ -25,9 +26,8 @@ void Release(KeyedCondition<Number>& keyed, Number& condition) {
 
 /// A whole-number condition: taken when the number as written lies in the range.
 template <class Number>
-void TakeWhole(double value, double lowest, double highest, KeyedCondition<Number>& keyed,
-               Number& condition) {
-  if (value >= lowest && value <= highest) Take(keyed, condition, static_cast<Number>(ToInt16(value)));
+void TakeWhole(double value, const Limits& limits, KeyedCondition<Number>& keyed, Number& condition) {
+  if (limits.Holds(value)) Take(keyed, condition, static_cast<Number>(ToInt16(value)));
 }
 
 /// One line. A key with a blank before the "=" is an unknown one.
@@ -35,18 +35,18 @@ void ReadKeyLine(const std::string& line, Workspace& workspace) {
   const std::size_t equals = line.find('=');
   if (equals == std::string::npos) return;
   const std::string key = line.substr(0, equals);
-  const double value = ParseNumber(line.substr(equals + 1), DecimalSeparator(workspace));
+  const double value = SystemNumber(workspace, line.substr(equals + 1));
   KeyedConditions& keyed = workspace.keyed;
   if (key == "TYRE_L") {
-    if (value >= 1.0 && value <= 3.0) Take(keyed.TyreLength, workspace.TyreLength, ToSingle(value));
+    if (kTyreLimits.Holds(value)) Take(keyed.TyreLength, workspace.TyreLength, ToSingle(value));
   } else if (key == "CHECK_NE") {
-    TakeWhole(value, 5000, 24000, keyed.CheckNe, workspace.CheckNe);
+    TakeWhole(value, kRevolutionLimits, keyed.CheckNe, workspace.CheckNe);
   } else if (key == "SHIFT_NE") {
-    TakeWhole(value, 5000, 24000, keyed.ShiftNe, workspace.ShiftNe);
+    TakeWhole(value, kRevolutionLimits, keyed.ShiftNe, workspace.ShiftNe);
   } else if (key == "MAX_SPEED") {
-    TakeWhole(value, 100, 340, keyed.MaxSpeed, workspace.MaxSpeed);
+    TakeWhole(value, kMaxSpeedLimits, keyed.MaxSpeed, workspace.MaxSpeed);
   } else if (key == "MAX_NE") {
-    TakeWhole(value, 5000, 24000, keyed.MaxNe, workspace.MaxNe);
+    TakeWhole(value, kRevolutionLimits, keyed.MaxNe, workspace.MaxNe);
   }
 }
 

@@ -5,6 +5,7 @@
 // Gears are numbered 1 to 6; tables start at 1 unless they say otherwise. Texts are UTF-8.
 #pragma once
 
+#include "model/limits.h"
 #include "model/words.h"
 #include "platform/colour.h"
 #include "runtime/table.h"
@@ -14,14 +15,6 @@
 
 namespace veldrin {
 
-inline constexpr int kGears = 6;
-inline constexpr int kGearRowLimit = 10;     // rows of a gear that the tables hold
-inline constexpr int kPrimaryFileLimit = 8;  // primary rows that a list file can fill
-inline constexpr int kPrimaryLimit = 15;
-inline constexpr int kFinalDriveLimit = 10;
-inline constexpr int kFinalDrivenLimit = 20;
-inline constexpr int kFinalLimit = kFinalDriveLimit * kFinalDrivenLimit;
-inline constexpr int kPlanLimit = 30;
 inline constexpr int kRatioTextLength = 5;
 
 /// A row of the primary or of the final table.
@@ -102,7 +95,7 @@ struct Workspace {
   Table<float, 1, kGears> NeDeviation;  // rev/min away from the baseline
 
   // ---- Requests and the search ----
-  Table<std::int16_t, 1, kGears> ToleranceMinus;  // km/h, 1..21
+  Table<std::int16_t, 1, kGears> ToleranceMinus;  // km/h, within kToleranceLimits
   Table<std::int16_t, 1, kGears> TolerancePlus;
   Table<std::int16_t, 1, kGears> BaseNe;  // rev/min, 0 before the first entry by revolutions
   Table<std::int16_t, 1, kGears> RequestNe;

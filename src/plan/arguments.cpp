@@ -26,13 +26,13 @@ struct BadArgument {
 }
 
 /// The number that `text` spells; refused, with the option's name, when it is none or out of range.
-double Number(const std::string& option, const std::string& text, double lowest, double highest) {
+double Number(const std::string& option, const std::string& text, const Limits& limits) {
   double value = 0;
   if (Guarded([&] { value = ParseNumber(text); }) != 0)
     Refuse(option + ": " + Quoted(text) + " is no number");
-  if (value < lowest || value > highest) {
-    Refuse(option + ": " + text + " is out of range, " + ShortestText(lowest) + " to " +
-           ShortestText(highest));
+  if (!limits.Holds(value)) {
+    Refuse(option + ": " + text + " is out of range, " + std::to_string(limits.lowest) + " to " +
+           std::to_string(limits.highest));
   }
   return value;
 }
@@ -41,8 +41,8 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-int WholeNumber(const std::string& option, const std::string& text, int lowest, int highest) {
-  const double value = Number(option, text, lowest, highest);
+int WholeNumber(const std::string& option, const std::string& text, const Limits& limits) {
+  const double value = Number(option, text, limits);
   if (value != std::floor(value)) Refuse(option + ": " + text + " is not a whole number");
   return static_cast<int>(value);
 }
@@ -59,7 +59,6 @@ std::vector<std::string> SplitAtCommas(const std::string& text) {
 }
 
 void ReadSpeeds(const std::string& text, PlanArguments& result) {
-  constexpr double kLowest = 10;
   const std::vector<std::string> parts = SplitAtCommas(text);
   if (parts.size() != kGears) {
     Refuse("--speed: six speeds are needed, found " + std::to_string(parts.size()));
@@ -70,7 +69,8 @@ void ReadSpeeds(const std::string& text, PlanArguments& result) {
     if (Guarded([&] { value = ParseNumber(part); }) != 0)
       Refuse("--speed: " + Quoted(part) + " is no number");
     if (value != std::floor(value)) Refuse("--speed: " + part + " is not a whole number of km/h");
-    if (value < kLowest) Refuse("--speed: " + part + " is too low, 10 is the least");
+    if (value < kLowestRequest)
+      Refuse("--speed: " + part + " is too low, " + std::to_string(kLowestRequest) + " is the least");
     if (Guarded([&] { result.speed[gear] = ToSingle(value); }) != 0)
       Refuse("--speed: " + part + " is too high");
   }
@@ -83,10 +83,10 @@ void ReadManual(const std::string& text, PlanArguments& result) {
   if (equals == std::string::npos || plus == std::string::npos) {
     Refuse("--manual: " + Quoted(text) + " is not of the form G=-A+B");
   }
-  const int gear = WholeNumber("--manual", text.substr(0, equals), 1, kGears);
+  const int gear = WholeNumber("--manual", text.substr(0, equals), Limits{1, kGears});
   if (result.manual[gear]) Refuse("--manual: gear " + std::to_string(gear) + " is given twice");
-  const int below = WholeNumber("--manual", text.substr(equals + 2, plus - equals - 2), 1, kWidestBound);
-  const int above = WholeNumber("--manual", text.substr(plus + 1), 1, kWidestBound);
+  const int below = WholeNumber("--manual", text.substr(equals + 2, plus - equals - 2), kToleranceLimits);
+  const int above = WholeNumber("--manual", text.substr(plus + 1), kToleranceLimits);
   result.manual[gear] = ManualBounds{static_cast<std::int16_t>(below), static_cast<std::int16_t>(above)};
 }
 
@@ -125,19 +125,21 @@ const std::map<std::string, Reader>& Readers() {
       {"--manual", ReadManual},
       {"--format", ReadFormat},
       {"--encoding", ReadEncoding},
-      {"--main", [](const std::string& text,
-                    PlanArguments& result) { result.mainGear = WholeNumber("--main", text, 1, kGears); }},
+      {"--main",
+       [](const std::string& text, PlanArguments& result) {
+         result.mainGear = WholeNumber("--main", text, Limits{1, kGears});
+       }},
       {"--min-plan",
        [](const std::string& text, PlanArguments& result) {
-         result.minPlan = static_cast<std::int16_t>(WholeNumber("--min-plan", text, 1, kPlanLimit));
+         result.minPlan = static_cast<std::int16_t>(WholeNumber("--min-plan", text, kMinPlanLimits));
        }},
       {"--shift-ne",
        [](const std::string& text, PlanArguments& result) {
-         result.shiftNe = static_cast<std::int16_t>(WholeNumber("--shift-ne", text, 5000, 24000));
+         result.shiftNe = static_cast<std::int16_t>(WholeNumber("--shift-ne", text, kRevolutionLimits));
        }},
       {"--tyre",
        [](const std::string& text, PlanArguments& result) {
-         result.tyreLength = static_cast<float>(Number("--tyre", text, 1, 3));
+         result.tyreLength = static_cast<float>(Number("--tyre", text, kTyreLimits));
        }},
   };
   return readers;

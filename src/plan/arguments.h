@@ -13,9 +13,7 @@ namespace veldrin {
 enum class PlanAction { Search, Check, Help, Version };
 enum class PlanFormat { Table, Csv, Json };
 
-inline constexpr std::int16_t kWidestBound = 21;  // km/h
-
-/// The bounds of a gear set to MANUAL, in km/h, 1 to kWidestBound.
+/// The bounds of a gear set to MANUAL, in km/h, within kToleranceLimits.
 struct ManualBounds {
   std::int16_t minus = 0;
   std::int16_t plus = 0;

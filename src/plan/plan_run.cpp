@@ -36,9 +36,10 @@ std::string ManualGear(PlanArguments arguments, const Workspace& machine) {
   // These do not go together with --manual.
   arguments.mainGear = 0;
   arguments.minPlan = 1;
-  for (int width = kWidestBound; width >= 1; --width) {
+  constexpr auto kWidest = static_cast<std::int16_t>(kToleranceLimits.highest);
+  for (int width = kWidest; width >= kToleranceLimits.lowest; --width) {
     for (int gear = 1; gear <= kGears; ++gear) {
-      const ManualBounds old = arguments.manual[gear].value_or(ManualBounds{kWidestBound, kWidestBound});
+      const ManualBounds old = arguments.manual[gear].value_or(ManualBounds{kWidest, kWidest});
       PlanArguments tried = arguments;
       tried.manual[gear] = ManualBounds{std::min<std::int16_t>(old.minus, static_cast<std::int16_t>(width)),
                                         std::min<std::int16_t>(old.plus, static_cast<std::int16_t>(width))};

@@ -18,9 +18,8 @@ namespace veldrin {
 
 namespace {
 
-constexpr double kHighestMaxSpeed = 340;  // km/h
-constexpr int kRowsToStep = 2;            // primary rows that make stepping worth its arrows
-constexpr int kTeethCharacters = 2;       // of each of the two numbers of a row's text
+constexpr int kRowsToStep = 2;       // primary rows that make stepping worth its arrows
+constexpr int kTeethCharacters = 2;  // of each of the two numbers of a row's text
 
 // ---- Reading ----
 
@@ -37,7 +36,7 @@ void EmptyChart(Picture& chart) {
 }
 
 float ReadDecimal(const Workspace& workspace, TextReader& reader) {
-  return ParseSingle(FixDecimal(workspace, reader.Line()), DecimalSeparator(workspace));
+  return RepairedSingle(workspace, reader.Line());
 }
 
 void ReadSpeeds(Workspace& workspace, TextReader& reader) {
@@ -57,7 +56,8 @@ void RaiseTopSpeed(Program& program) {
   Workspace& workspace = program.workspace;
   const double fastest = workspace.SpeedBaseline[kGears];
   if (fastest <= workspace.MaxSpeed) return;
-  workspace.MaxSpeed = ToInt16(std::min(std::floor(fastest / 10) * 10 + 20, kHighestMaxSpeed));
+  workspace.MaxSpeed =
+      ToInt16(std::min(std::floor(fastest / 10) * 10 + 20, static_cast<double>(kMaxSpeedLimits.highest)));
   program.hooks.ChartScale();
 }
 

@@ -43,15 +43,14 @@ std::string StoredText(const Program& program, const std::string& value, const s
 std::int16_t StoredInt16(const Program& program, const std::string& value, std::int16_t whenZero) {
   const std::string text = Stored(program, value);
   if (text.empty()) return whenZero;
-  const std::int16_t number = ParseInt16(text, DecimalSeparator(program.workspace));
+  const std::int16_t number = SystemInt16(program.workspace, text);
   return number == 0 ? whenZero : number;
 }
 
 float StoredSingle(const Program& program, const std::string& value, float whenZero) {
-  const Workspace& workspace = program.workspace;
   const std::string text = Stored(program, value);
   if (text.empty()) return whenZero;
-  const float number = ParseSingle(FixDecimal(workspace, text), DecimalSeparator(workspace));
+  const float number = RepairedSingle(program.workspace, text);
   return number == 0 ? whenZero : number;
 }
 
@@ -76,23 +75,18 @@ std::string Separator(const Program& program, const char* entry) {
 // ---- Migration ----
 
 /// What the older settings file's text has to be.
-enum class Rule { Anything, UpperCased, Int16, Int32, Single };
+enum class Rule { Anything, UpperCased, Int16, Int32 };
 
 struct MigratedKey {
   const char* key;
   const char* value;
   Rule rule;
-  int low = 0;  // both ends are allowed; no limits where they are equal
-  int high = 0;
 };
+
+/// The keys besides those of the running conditions.
 
 // clang-format off
 constexpr MigratedKey kMigratedKeys[] = {
-    {"TYRE_L",      "Tyre_L",      Rule::Single, 1, 3},
-    {"CHECK_NE",    "Check_Ne",    Rule::Int16, 5000, 24000},
-    {"SHIFT_NE",    "Shift_Ne",    Rule::Int16, 5000, 24000},
-    {"MAX_SPEED",   "Max_Speed",   Rule::Int16, 100, 340},
-    {"MAX_NE",      "Max_Ne",      Rule::Int16, 5000, 24000},
     {"LIST_FILE",   "List_File",   Rule::Anything},
     {"LIST_PATH",   "List_Path",   Rule::Anything},
     {"DATA_PATH",   "Data_Path",   Rule::Anything},
@@ -110,29 +104,26 @@ constexpr MigratedKey kMigratedKeys[] = {
 };
 // clang-format on
 
-/// The number that `text` spells in the width of `rule`. Raises faults 13 and 6.
-double NumberOf(const std::string& text, Rule rule, char separator) {
-  switch (rule) {
-    case Rule::Int16:
-      return ParseInt16(text, separator);
-    case Rule::Int32:
-      return ParseInt32(text, separator);
-    default:
-      return ParseSingle(text, separator);
-  }
+/// `text` as it goes into the store, or nothing when it is none of the numbers that the key takes.
+std::optional<std::string> AcceptedCondition(const Workspace& workspace, const Condition& condition,
+                                             const std::string& text) {
+  double number = 0;
+  const int fault = Guarded(
+      [&] { number = condition.whole ? SystemInt16(workspace, text) : RepairedSingle(workspace, text); });
+  if (fault != 0 || !condition.limits.Holds(number)) return std::nullopt;
+  return condition.whole ? text : FixDecimal(workspace, text);
 }
 
-/// `text` as it goes into the store, or nothing when the key does not take it.
-std::optional<std::string> Accepted(const Workspace& workspace, const MigratedKey& key,
-                                    const std::string& text) {
-  if (key.rule == Rule::Anything) return text;
-  if (key.rule == Rule::UpperCased) return UpperCase(text);
-  const std::string repaired = key.rule == Rule::Single ? FixDecimal(workspace, text) : text;
-  double number = 0;
-  const int fault = Guarded([&] { number = NumberOf(repaired, key.rule, DecimalSeparator(workspace)); });
-  const bool limited = key.low != key.high;
-  if (fault != 0 || (limited && (number < key.low || number > key.high))) return std::nullopt;
-  return repaired;
+/// The same for a key that has no limits.
+std::optional<std::string> Accepted(const Workspace& workspace, Rule rule, const std::string& text) {
+  if (rule == Rule::Anything) return text;
+  if (rule == Rule::UpperCased) return UpperCase(text);
+  const int fault = Guarded([&] {
+    if (rule == Rule::Int16) SystemInt16(workspace, text);
+    if (rule == Rule::Int32) ParseInt32(text, DecimalSeparator(workspace));
+  });
+  if (fault != 0) return std::nullopt;
+  return text;
 }
 
 void MigrateOlderSettings(Program& program, const std::string& path) {
@@ -214,11 +205,17 @@ std::optional<StoredValue> MigrateLine(const Workspace& workspace, const std::st
   const std::size_t equals = line.find('=');
   if (equals == std::string::npos) return std::nullopt;
   const std::string key = line.substr(0, equals);
+  const std::string text = line.substr(equals + 1);
+  const auto stored = [](const char* value,
+                         const std::optional<std::string>& accepted) -> std::optional<StoredValue> {
+    if (!accepted) return std::nullopt;
+    return StoredValue{value, *accepted};
+  };
+  for (const Condition& condition : kConditions) {
+    if (key == condition.key) return stored(condition.setting, AcceptedCondition(workspace, condition, text));
+  }
   for (const MigratedKey& migrated : kMigratedKeys) {
-    if (key != migrated.key) continue;
-    const std::optional<std::string> text = Accepted(workspace, migrated, line.substr(equals + 1));
-    if (!text) return std::nullopt;
-    return StoredValue{migrated.value, *text};
+    if (key == migrated.key) return stored(migrated.value, Accepted(workspace, migrated.rule, text));
   }
   return std::nullopt;
 }
@@ -226,11 +223,11 @@ std::optional<StoredValue> MigrateLine(const Workspace& workspace, const std::st
 void ReadSettings(Program& program) {
   Workspace& workspace = program.workspace;
   const PathRules rules = program.machine.files.Rules();
-  workspace.TyreLength = StoredSingle(program, "Tyre_l", 1.9F);
-  workspace.CheckNe = StoredInt16(program, "Check_Ne", 10000);
-  workspace.ShiftNe = StoredInt16(program, "Shift_Ne", 13000);
-  workspace.MaxSpeed = StoredInt16(program, "Max_Speed", 340);
-  workspace.MaxNe = StoredInt16(program, "Max_Ne", 15000);
+  workspace.TyreLength = StoredSingle(program, "Tyre_l", kDefaultTyreLength);
+  workspace.CheckNe = StoredInt16(program, "Check_Ne", kDefaultCheckNe);
+  workspace.ShiftNe = StoredInt16(program, "Shift_Ne", kDefaultShiftNe);
+  workspace.MaxSpeed = StoredInt16(program, "Max_Speed", kDefaultMaxSpeed);
+  workspace.MaxNe = StoredInt16(program, "Max_Ne", kDefaultMaxNe);
   workspace.ListFile = StoredText(program, "List_File", "NX4.RAT");
   workspace.ListPath = StoredText(program, "List_Path", JoinPath(rules, workspace.AppPath, "LIST"));
   workspace.DataPath = StoredText(program, "Data_Path", JoinPath(rules, workspace.AppPath, "DAT"));

@@ -1,5 +1,6 @@
 #include "plan/check/key_check.h"
 
+#include "model/limits.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
@@ -11,24 +12,11 @@ namespace veldrin {
 
 namespace {
 
-/// A key of the key lines, with the range of its values.
-struct KeyRange {
-  const char* key;
-  double lowest;
-  double highest;
-  bool whole;
-};
-
-constexpr KeyRange kKeys[] = {
-    {"TYRE_L", 1, 3, false},       {"CHECK_NE", 5000, 24000, true}, {"SHIFT_NE", 5000, 24000, true},
-    {"MAX_SPEED", 100, 340, true}, {"MAX_NE", 5000, 24000, true},
-};
-
 /// The key of this very name; nothing when there is none.
-const KeyRange* KeyNamed(const std::string& name) {
-  const auto* const found =
-      std::find_if(std::begin(kKeys), std::end(kKeys), [&](const KeyRange& k) { return name == k.key; });
-  return found == std::end(kKeys) ? nullptr : found;
+const Condition* KeyNamed(const std::string& name) {
+  const auto* const found = std::find_if(std::begin(kConditions), std::end(kConditions),
+                                         [&](const Condition& condition) { return name == condition.key; });
+  return found == std::end(kConditions) ? nullptr : found;
 }
 
 /// A line that names a key but sets nothing.
@@ -39,13 +27,13 @@ void CheckRemark(SectionReader& list, int line, const std::string& text) {
 }
 
 void CheckUnknownKey(SectionReader& list, int line, const std::string& key) {
-  const KeyRange* const meant = KeyNamed(UpperCase(Trim(key)));
+  const Condition* const meant = KeyNamed(UpperCase(Trim(key)));
   std::string text = "unknown key " + Quoted(key);
   if (meant != nullptr) text += std::string("; ") + meant->key + " has capitals and no blank beside it";
   list.remarks.Warn(line, text);
 }
 
-void CheckValue(SectionReader& list, int line, const KeyRange& known, const std::string& value) {
+void CheckValue(SectionReader& list, int line, const Condition& known, const std::string& value) {
   const std::string key = known.key;
   const std::string shown = Trim(value);
   double number = 0;
@@ -53,9 +41,9 @@ void CheckValue(SectionReader& list, int line, const KeyRange& known, const std:
     list.remarks.Warn(line, key + ": " + Quoted(shown) + " is no number");
     return;
   }
-  if (number < known.lowest || number > known.highest) {
-    list.remarks.Warn(line, key + ": " + shown + " is out of range, " + ShortestText(known.lowest) + " to " +
-                                ShortestText(known.highest));
+  if (!known.limits.Holds(number)) {
+    list.remarks.Warn(line, key + ": " + shown + " is out of range, " + std::to_string(known.limits.lowest) +
+                                " to " + std::to_string(known.limits.highest));
     return;
   }
   if (known.whole && number != RoundHalfToEven(number)) {
@@ -81,7 +69,7 @@ void CheckKeyLines(SectionReader& list) {
       continue;
     }
     const std::string key = text.substr(0, equals);
-    const KeyRange* const known = KeyNamed(key);
+    const Condition* const known = KeyNamed(key);
     if (known == nullptr) {
       CheckUnknownKey(list, line, key);
     } else {

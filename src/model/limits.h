@@ -1,0 +1,64 @@
+// The limits of the program's numbers, and what the running conditions are where nothing else is said. Lists,
+// settings, boxes and the console's options all hold to this one table.
+#pragma once
+
+#include <cstdint>
+
+namespace veldrin {
+
+// ---- How much the tables hold ----
+
+inline constexpr int kGears = 6;
+inline constexpr int kGearRowLimit = 10;     // rows of a gear that the tables hold
+inline constexpr int kPrimaryFileLimit = 8;  // primary rows that a list file can fill
+inline constexpr int kPrimaryLimit = 15;
+inline constexpr int kFinalDriveLimit = 10;
+inline constexpr int kFinalDrivenLimit = 20;
+inline constexpr int kFinalLimit = kFinalDriveLimit * kFinalDrivenLimit;
+inline constexpr int kPlanLimit = 30;
+
+// ---- What numbers may be ----
+
+/// Both ends are allowed.
+struct Limits {
+  int lowest;
+  int highest;
+
+  constexpr bool Holds(double number) const { return number >= lowest && number <= highest; }
+};
+
+inline constexpr Limits kTyreLimits{1, 3};               // metres
+inline constexpr Limits kRevolutionLimits{5000, 24000};  // rev/min
+inline constexpr Limits kMaxSpeedLimits{100, 340};       // km/h
+inline constexpr Limits kToleranceLimits{1, 21};         // km/h
+inline constexpr Limits kMinPlanLimits{1, kPlanLimit};
+inline constexpr int kLowestRequest = 10;  // km/h
+
+/// A running condition that lists and settings give.
+struct Condition {
+  const char* key;      // in a list's key lines and in the older settings file
+  const char* setting;  // in the store
+  Limits limits;
+  bool whole;
+};
+
+/// In the order of the settings window's boxes.
+// clang-format off
+inline constexpr Condition kConditions[] = {
+    {"TYRE_L",    "Tyre_L",    kTyreLimits,       false},
+    {"CHECK_NE",  "Check_Ne",  kRevolutionLimits, true},
+    {"SHIFT_NE",  "Shift_Ne",  kRevolutionLimits, true},
+    {"MAX_SPEED", "Max_Speed", kMaxSpeedLimits,   true},
+    {"MAX_NE",    "Max_Ne",    kRevolutionLimits, true},
+};
+// clang-format on
+
+// ---- The running conditions of a new installation ----
+
+inline constexpr float kDefaultTyreLength = 1.9F;       // metres
+inline constexpr std::int16_t kDefaultShiftNe = 13000;  // rev/min
+inline constexpr std::int16_t kDefaultCheckNe = 10000;  // rev/min
+inline constexpr std::int16_t kDefaultMaxNe = 15000;    // rev/min
+inline constexpr std::int16_t kDefaultMaxSpeed = 340;   // km/h
+
+}  // namespace veldrin
