@@ -118,12 +118,11 @@ void CloseRequests(Program& program) {
   HideAll({&form2.Label38, &form2.Picture30, &form2.Picture1, &form2.Picture4});
   ChartPlan(program);
   form2.f_calc.Enabled = false;
-  EnableAll({&form2.menu_save, &form2.Command3, &form2.Command4, &form2.Command5, &form2.menu_print,
-             &form2.menu_comb, &form2.menu_edit, &form2.Command11, &form2.HScroll1, &form2.HScroll2,
+  EnableOutput(program, true);
+  EnableAll({&form2.Command3, &form2.Command4, &form2.Command11, &form2.HScroll1, &form2.HScroll2,
              &form2.Label6, &form2.Label8});
   ShowAll({&form2.Command11, &form2.Picture2, &form2.Picture3, &form2.Picture12});
   form2.Picture12.BringToFront();
-  form2.Picture28.MousePointer = kPointerDefault;
   form2.Text2.Text = SingleText(workspace, workspace.CheckNe);
   EnableRowSpins(program);
 }

@@ -106,12 +106,7 @@ void TestForbiddenPair(Program& program, int gear) {
       workspace.M34Matrix(workspace.PlanIndex[kThirdGear], workspace.PlanIndex[kFourthGear]) == kEndMark;
   form2.Label12[kThirdGear].BackColor = forbidden ? kRed : kLightGrey;
   form2.Label12[kFourthGear].BackColor = forbidden ? kRed : kLightGrey;
-  form2.Command5.Enabled = !forbidden;
-  form2.menu_save.Enabled = !forbidden;
-  form2.menu_comb.Enabled = !forbidden;
-  form2.menu_edit.Enabled = !forbidden;
-  form2.menu_print.Enabled = !forbidden;
-  form2.Picture28.MousePointer = forbidden ? kPointerNoDrop : kPointerDefault;
+  EnableOutput(program, !forbidden);
   if (!forbidden) return;
   form2.Picture9.Visible = false;
   program.machine.sound.Beep();

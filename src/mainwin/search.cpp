@@ -114,9 +114,8 @@ void SearchTimer_Timer(Program& program) {
   }
   if (program.workspace.ResultWord == result::kNoPlan) return;
   Form4& dialog = program.form4.Load();
-  EnableAll({&form2.Command2, &form2.Command3, &form2.Command4, &form2.f_comp, &form2.Command5,
-             &form2.menu_save, &form2.menu_print, &form2.menu_comb, &form2.menu_edit});
-  form2.Picture28.MousePointer = kPointerDefault;
+  EnableAll({&form2.Command2, &form2.Command3, &form2.Command4, &form2.f_comp});
+  EnableOutput(program, true);
   form2.Hide();
   dialog.Show();
 }

@@ -4,7 +4,7 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kRowsToStep = 2;
+constexpr int kRowsToStep = 2;  // primary rows that make stepping worth its arrows
 
 }  // namespace
 

@@ -65,9 +65,8 @@ void ShowNoPlan(Program& program) {
   form2.Picture24.Visible = false;
   form2.Text6.Text = "";
   form2.Picture21.surface.Clear();
-  form2.Picture28.MousePointer = kPointerNoDrop;
-  DisableAll({&form2.Command5, &form2.Command7, &form2.menu_save, &form2.menu_print, &form2.menu_comb,
-              &form2.menu_edit, &form2.f_calc, &form2.f_rest, &form2.HScroll1, &form2.HScroll2});
+  EnableOutput(program, false);
+  DisableAll({&form2.Command7, &form2.f_calc, &form2.f_rest, &form2.HScroll1, &form2.HScroll2});
   form2.Label12[3].BackColor = kLightGrey;
   form2.Label12[4].BackColor = kLightGrey;
 }

@@ -18,7 +18,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kRowsToStep = 2;       // primary rows that make stepping worth its arrows
 constexpr int kTeethCharacters = 2;  // of each of the two numbers of a row's text
 
 // ---- Reading ----
@@ -166,12 +165,10 @@ void ShowPlanControls(Program& program) {
   // Entry by revolutions, which the plan may take the place of, had hidden it.
   form2.Command11.Visible = true;
   HideAll({&form2.Picture4, &form2.Picture9, &form2.Picture30, &form2.Label38});
-  EnableAll({&form2.Label6, &form2.Label8, &form2.Command11, &form2.Command5, &form2.menu_save,
-             &form2.menu_print, &form2.menu_comb, &form2.menu_edit, &form2.HScroll1, &form2.HScroll2});
-  EnableSpin(form2.Spin5);
-  if (workspace.PrimaryCount >= kRowsToStep) EnableSpin(form2.Spin4);
+  EnableAll({&form2.Label6, &form2.Label8, &form2.Command11, &form2.HScroll1, &form2.HScroll2});
+  EnableOutput(program, true);
+  EnableRowSpins(program);
   form2.f_calc.Enabled = false;
-  form2.Picture28.MousePointer = kPointerDefault;
 }
 
 /// The first refresh of a plan that was read.
