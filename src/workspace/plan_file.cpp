@@ -157,6 +157,8 @@ void TakePlan(Program& program, TextReader& reader) {
 void ShowPlanControls(Program& program) {
   const Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
+  // What was half typed goes with the plan before, in the box that no plan has a number for as well.
+  form2.Text2.Text = SingleText(workspace, workspace.CheckNe);
   form2.Text3.Text = SingleText(workspace, workspace.TyreLength);
   form2.Text4.Text = std::to_string(workspace.ShiftNe);
   ShowAll({&form2.Text6, &form2.Label13, &form2.Picture2, &form2.Picture3, &form2.Picture12, &form2.Picture14,
