@@ -1,5 +1,5 @@
-// Where the chart's points lie, as numbers: the scale, ticks and numerals, rays and the saw-tooth. Drawing
-// them is left to those who have a surface.
+// Where the chart's points lie, as numbers: the scale, rays and the saw-tooth. Drawing them is left to those
+// who have a surface, the axes to view/chart_axes.h.
 #pragma once
 
 #include "model/workspace.h"
@@ -34,23 +34,5 @@ float TwipsPerTwentyKmh(const Workspace& workspace);
 
 /// The chart's scale for a surface.
 Scale ChartUnits(const Workspace& workspace);
-
-/// Where the tick of a number of thousand revolutions and that of a number of 20 km/h lie in the panel.
-inline float TickAcross(int thousands, float thousandNe) {
-  // Kept: the factor is part of the rule.
-  return static_cast<float>((thousands * static_cast<double>(thousandNe) + 480) * 1.008);
-}
-inline float TickUp(int twenties, float twentyKmh) {
-  return static_cast<float>(5520 - twenties * static_cast<double>(twentyKmh));
-}
-
-/// Where the numeral of 5, 10, 15 or 20 thousand revolutions begins, by its index, and the top of that of a
-/// number of 20 km/h.
-inline float NumeralLeft(int index, float thousandNe) {
-  return thousandNe * static_cast<float>(5 * (index + 1)) + (index == 0 ? 450.0F : 400.0F);
-}
-inline float NumeralTop(int twenties, float twentyKmh) {
-  return 5430 - twentyKmh * static_cast<float>(twenties);
-}
 
 }  // namespace veldrin

@@ -109,6 +109,25 @@ typename ControlArray<T>::Maker Elements(const char* name, Control& parent,
   };
 }
 
+/// One place for all elements.
+inline std::function<Place(int)> At(const Place& place) {
+  return [place](int) { return place; };
+}
+
+/// Places below each other, and beside each other, `step` twips apart; `place` is that of subscript `first`.
+inline std::function<Place(int)> Downward(const Place& place, float step, int first = 0) {
+  return [=](int index) {
+    const float top = place.top + step * static_cast<float>(index - first);
+    return Place{place.left, top, place.width, place.height};
+  };
+}
+inline std::function<Place(int)> Rightward(const Place& place, float step, int first = 0) {
+  return [=](int index) {
+    const float left = place.left + step * static_cast<float>(index - first);
+    return Place{left, place.top, place.width, place.height};
+  };
+}
+
 /// Places of a column of gears: gear 6 on top, 480 twips apart down to gear 1. Subscript 0 is the column's
 /// head, at `headTop`.
 inline std::function<Place(int)> GearColumn(float left, float width, float height, float topOfGear6 = 360,

@@ -32,6 +32,11 @@ ControlArray<Label>::Maker Form2::Column(const char* name, Control& parent, floa
   return [head, rows](int index) { return index == 0 ? head(index) : rows(index); };
 }
 
+ControlArray<Grid>::Maker Form2::InPanels(const char* name, ControlArray<Picture>& panels, const Place& place,
+                                          const Look& look) {
+  return [=, &panels](int index) { return std::make_unique<Grid>(name, panels[index], place, look); };
+}
+
 ControlArray<Menu>::Maker Form2::Entries(const char* name, Menu& parent,
                                          const std::vector<const char*>& captions, const Look& look) {
   return [=, &parent](int index) {

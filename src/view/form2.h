@@ -6,7 +6,7 @@
 // between their rows, 195 high, as if gear 6 had one at 150.
 #pragma once
 
-#include "view/control_array.h"
+#include "view/chart_axes.h"
 
 namespace veldrin {
 
@@ -53,10 +53,6 @@ struct Form2 : Window {
   static constexpr Look kHidden{.visible = false};
   static constexpr Look kHiddenAndOff{.visible = false, .enabled = false};
 
-  /// Twips per 1000 rev/min and per 20 km/h of the chart at the scales 15000 and 340.
-  static constexpr float kTickNe = 3960000.0F / 15000;
-  static constexpr float kTickSpeed = 110400.0F / 340;
-
   /// A look with a caption.
   static constexpr Look Titled(const char* caption, Look look) {
     look.caption = caption;
@@ -66,6 +62,9 @@ struct Form2 : Window {
   /// Makes the labels of a column of gears: subscript 0 is its head, the others look like `row`.
   static ControlArray<Label>::Maker Column(const char* name, Control& parent, float left, float width,
                                            const Look& row, const std::vector<const char*>& captions);
+  /// Makes grids, each in the panel of its own subscript.
+  static ControlArray<Grid>::Maker InPanels(const char* name, ControlArray<Picture>& panels,
+                                            const Place& place, const Look& look);
   /// Makes the entries of a menu array. Those that it grows by have no caption.
   static ControlArray<Menu>::Maker Entries(const char* name, Menu& parent,
                                            const std::vector<const char*>& captions, const Look& look = {});
@@ -98,13 +97,13 @@ struct Form2 : Window {
   Label        Label38  {"Label38",   Picture21, {1305,  120, 1800,  285}, {.caption = "Request Mode", .fore = kYellow, .back = kBlack, .fontSize = 12, .fontBold = true, .transparent = true, .visible = false}};
   Line         Line1    {"Line1",     Picture19,  480,    0,  480, 5520};
   Line         Line2    {"Line2",     Picture19,  480, 5520, 4460, 5520};
-  ControlArray<Line> Line3{0, 18, [this](int i) { return std::make_unique<Line>("Line3", Picture19, 360.0F, 5520 - static_cast<float>(i) * kTickSpeed, 480.0F, 5520 - static_cast<float>(i) * kTickSpeed); }};
-  ControlArray<Line> Line4{0, 24, [this](int i) { return std::make_unique<Line>("Line4", Picture19, (static_cast<float>(i) * kTickNe + 480) * 1.008F, 5520.0F, (static_cast<float>(i) * kTickNe + 480) * 1.008F, 5640.0F); }};
-  Label        Label18  {"Label18",   Picture19, {150, 5430 - 15 * kTickSpeed, 285, 195}, Titled("300", kNumeral)};
-  Label        Label19  {"Label19",   Picture19, {150, 5430 - 10 * kTickSpeed, 285, 195}, Titled("200", kNumeral)};
-  Label        Label20  {"Label20",   Picture19, {150, 5430 - 5 * kTickSpeed, 285, 195}, Titled("100", kNumeral)};
+  ControlArray<Line> Line3{0, 18, TicksUp("Line3", Picture19)};
+  ControlArray<Line> Line4{0, 24, TicksAcross("Line4", Picture19)};
+  Label        Label18  {"Label18",   Picture19, {150, NumeralTop(15), 285, 195}, Titled("300", kNumeral)};
+  Label        Label19  {"Label19",   Picture19, {150, NumeralTop(10), 285, 195}, Titled("200", kNumeral)};
+  Label        Label20  {"Label20",   Picture19, {150, NumeralTop( 5), 285, 195}, Titled("100", kNumeral)};
   Label        Label21  {"Label21",   Picture19, { 360, 5640,  120,  195}, Titled("0", kSmallTitle)};
-  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, [](int i) { return i == 4 ? Place{3480, 5805, 900, 195} : Place{static_cast<float>(5 * i + 5) * kTickNe + (i == 0 ? 450 : 400), 5640, 240, 195}; }, kSmallTitle, {"5", "10", "15", "20", "(x1000rpm)"})};
+  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, NumeralsAcross(900), kSmallTitle, NumeralTexts())};
   TimerControl Timer2   {"Timer2",    Picture19, 100};
   TimerControl Timer3   {"Timer3",    Picture19, 200};
 
@@ -158,7 +157,7 @@ struct Form2 : Window {
   ControlArray<Label> Label39{1, 5, Elements<Label>("Label39", Picture25, GearColumn(0, 345, 195, 150), kStep)};
   Picture Picture14{"Picture14", Picture12, { 345,    0,  480, 3105}, kPanel};
   ControlArray<Label> Label9{0, 6, Column("Label9", Picture14, 0, 480, kSpeed, {"CHG"})};
-  ControlArray<Picture> Picture26{0, 0, Elements<Picture>("Picture26", Picture12, [](int) { return Place{825, 0, 345, 3105}; }, kPanel)};
+  ControlArray<Picture> Picture26{0, 0, Elements<Picture>("Picture26", Picture12, At({825, 0, 345, 3105}), kPanel)};
   ControlArray<Label> Label40{1, 5, Elements<Label>("Label40", Picture26[0], GearColumn(0, 345, 195, 150), kStep)};
   Picture Picture16{"Picture16", Picture12, {1170,    0,  630, 3510}, kPanel};
   ControlArray<Label> Label11{0, 6, Column("Label11", Picture16, 15, 600, kFigure, {"Shift"})};
@@ -216,7 +215,7 @@ struct Form2 : Window {
 
   // Lists to pick from, and the question of the decision panel.
   ControlArray<Picture> Picture23{1, 6, Elements<Picture>("Picture23", *this, GearColumn(4880, 465, 380, 1260), {.back = kDarkBlue, .border = true, .visible = false})};
-  ControlArray<Grid> Grid2{1, 6, [this](int gear) { return std::make_unique<Grid>("Grid2", Picture23[gear], Place{0, 0, 435, 350}, kBox); }};
+  ControlArray<Grid> Grid2{1, 6, InPanels("Grid2", Picture23, {0, 0, 435, 350}, kBox)};
   Picture Picture24    {"Picture24",     *this,     {3780,  900, 1155, 3250}, kHiddenPanel};
   Grid    Grid1        {"Grid1",         Picture24, {   0,    0, 1155, 3250}, kBox};
   Picture Picture20    {"Picture20",     *this,     {   0,    0, 5415, 1215}, {.back = kDarkBlue, .border = true, .visible = false}};

@@ -1,8 +1,8 @@
 // The plan dialog: the position among the plans found, the plan's figures in columns by gear, and its small
-// chart. The design places of ticks and numerals are those of a chart up to 15000 rev/min and 340 km/h.
+// chart.
 #pragma once
 
-#include "view/control_array.h"
+#include "view/chart_axes.h"
 
 namespace veldrin {
 
@@ -34,13 +34,13 @@ struct Form4 : Window {
   Picture Picture21{"Picture21", Picture19, { 490,     0, 3975, 5525}, {.back = kBlack}};
   Line    Line1    {"Line1",     Picture19,   480,     0,  480, 5520};
   Line    Line2    {"Line2",     Picture19,   480,  5520, 4460, 5520};
-  ControlArray<Line>  Line3  {0, 18, [this](int i) { return std::make_unique<Line>("Line3", Picture19, 360, 5520 - 324.7F * static_cast<float>(i), 480, 5520 - 324.7F * static_cast<float>(i)); }};
-  ControlArray<Line>  Line4  {0, 24, [this](int i) { return std::make_unique<Line>("Line4", Picture19, (264.0F * static_cast<float>(i) + 480) * 1.008F, 5520, (264.0F * static_cast<float>(i) + 480) * 1.008F, 5640); }};
-  Label   Label18  {"Label18",   Picture19, { 150,   560,  300,  195}, {.caption = "300", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  Label   Label19  {"Label19",   Picture19, { 150,  2183,  300,  195}, {.caption = "200", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  Label   Label20  {"Label20",   Picture19, { 150,  3806,  300,  195}, {.caption = "100", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  ControlArray<Line>  Line3  {0, 18, TicksUp("Line3", Picture19)};
+  ControlArray<Line>  Line4  {0, 24, TicksAcross("Line4", Picture19)};
+  Label   Label18  {"Label18",   Picture19, {150, NumeralTop(15), 300, 195}, {.caption = "300", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  Label   Label19  {"Label19",   Picture19, {150, NumeralTop(10), 300, 195}, {.caption = "200", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  Label   Label20  {"Label20",   Picture19, {150, NumeralTop( 5), 300, 195}, {.caption = "100", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
   Label   Label21  {"Label21",   Picture19, { 360,  5640,  120,  195}, {.caption = "0",   .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, [](int i) { return i == 4 ? Place{3480, 5805, 960, 195} : Place{i == 0 ? 1770 : 1720 + 1320.0F * static_cast<float>(i), 5640, 240, 195}; }, {.fore = kLightGrey, .back = kDarkBlue, .fontSize = 8, .transparent = true}, {"5", "10", "15", "20", "(x1000rpm)"})};
+  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, NumeralsAcross(960), {.fore = kLightGrey, .back = kDarkBlue, .fontSize = 8, .transparent = true}, NumeralTexts())};
 
   Button  Command1 {"Command1",  *this,     {  60,  5535, 1080,  420}, {.caption = "O K"}};
   Button  Command2 {"Command2",  *this,     {1290,  5535, 1080,  420}, {.caption = "Cancel"}};

@@ -1,9 +1,8 @@
 // File Compare: up to three plans on one place, each with a chart of its own, and the picker of plan files
-// that lies over them all. The design places of ticks and numerals are those of a chart up to 15000 rev/min
-// and 340 km/h.
+// that lies over them all.
 #pragma once
 
-#include "view/control_array.h"
+#include "view/chart_axes.h"
 
 namespace veldrin {
 
@@ -22,10 +21,10 @@ struct Form5 : Window {
   Button     Command2{"Command2", *this, {1875, 1350,  975, 375}, {.caption = "Exit"}};
 
   Picture    Picture13{"Picture13", *this,     { 120, 1920, 2835, 1455}, {.back = kDarkBlue}};
-  ControlArray<Label> Label5{0, 0, Elements<Label>("Label5", Picture13, [](int) { return Place{  60,  60,  960, 270}; }, {.fore = kLightGrey, .back = kDarkBlue}, {"Primary"})};
-  ControlArray<Label> Label6{0, 0, Elements<Label>("Label6", Picture13, [](int) { return Place{1080,  60, 1695, 270}; }, {.align = Align::Centre})};
-  ControlArray<Label> Label7{0, 0, Elements<Label>("Label7", Picture13, [](int) { return Place{  60, 405,  960, 270}; }, {.fore = kLightGrey, .back = kDarkBlue}, {"Final"})};
-  ControlArray<Label> Label8{0, 0, Elements<Label>("Label8", Picture13, [](int) { return Place{1080, 405, 1695, 270}; }, {.align = Align::Centre})};
+  ControlArray<Label> Label5{0, 0, Elements<Label>("Label5", Picture13, At({  60,  60,  960, 270}), {.fore = kLightGrey, .back = kDarkBlue}, {"Primary"})};
+  ControlArray<Label> Label6{0, 0, Elements<Label>("Label6", Picture13, At({1080,  60, 1695, 270}), {.align = Align::Centre})};
+  ControlArray<Label> Label7{0, 0, Elements<Label>("Label7", Picture13, At({  60, 405,  960, 270}), {.fore = kLightGrey, .back = kDarkBlue}, {"Final"})};
+  ControlArray<Label> Label8{0, 0, Elements<Label>("Label8", Picture13, At({1080, 405, 1695, 270}), {.align = Align::Centre})};
   Label      Label17  {"Label17",   Picture13, {  60,  750,  960,  270}, {.caption = "TYRE_L", .fore = kLightGrey, .back = kDarkBlue}};
   Label      Label15  {"Label15",   Picture13, {1080,  750, 1695,  270}, {.align = Align::Centre}};
   Label      Label23  {"Label23",   Picture13, {  60, 1095,  960,  270}, {.caption = "Shift_Ne", .fore = kLightGrey, .back = kDarkBlue}};
@@ -36,7 +35,7 @@ struct Form5 : Window {
   Picture    Picture2 {"Picture2",  *this,     { 120, 3420,  555, 3195}, {.back = kDarkBlue}};
   ControlArray<Label> Label3 {1, 6, Elements<Label>("Label3",  Picture2,  GearColumn(0, 555, 255), {.back = kBlack}, {"", "1ST", "2ND", "3RD", "4TH", "5TH", "6TH"})};
   Picture    Picture14{"Picture14", *this,     { 690, 3420,  555, 3195}, {.back = kDarkBlue}};
-  ControlArray<Label> Label9 {0, 7, [this](int i) { return std::make_unique<Label>("Label9", i == 0 ? Picture2 : Picture14, GearColumn(0, 555, 255)(i % 7), Look{.caption = i == 0 ? "GEAR" : i == 7 ? "SPEED" : "", .fore = kLightGrey, .back = kBlack, .align = i == 0 ? Align::Left : Align::Right}); }};
+  ControlArray<Label> Label9 {0, 7, Speeds()};
   Picture    Picture25{"Picture25", *this,     {1260, 3420,  480, 3195}, {.back = kDarkBlue}};
   ControlArray<Label> Label39{1, 5, Elements<Label>("Label39", Picture25, GearColumn(0, 480, 255, 120), {.fore = kLightGrey, .back = kDarkBlue, .align = Align::Right})};
   Picture    Picture16{"Picture16", *this,     {1755, 3420,  600, 3195}, {.back = kDarkBlue}};
@@ -45,16 +44,16 @@ struct Form5 : Window {
   ControlArray<Label> Label12{0, 6, Elements<Label>("Label12", Picture17, GearColumn(0, 570, 255), {.align = Align::Centre}, {"PLAN"})};
 
   Picture    Picture19{"Picture19", *this,     {3000,  780, 4455, 6015}, {.back = kDarkBlue}};
-  ControlArray<Picture> Picture21{0, 2, Elements<Picture>("Picture21", Picture19, [](int) { return Place{490, 0, 3975, 5525}; }, {.back = kBlack})};
+  ControlArray<Picture> Picture21{0, 2, Elements<Picture>("Picture21", Picture19, At({490, 0, 3975, 5525}), {.back = kBlack})};
   Line       Line1    {"Line1",     Picture19,   480,    0,  480, 5520};
   Line       Line2    {"Line2",     Picture19,   480, 5520, 4460, 5520};
-  ControlArray<Line>  Line3  {0, 18, [this](int i) { return std::make_unique<Line>("Line3", Picture19, 360, 5520 - 324.7F * static_cast<float>(i), 480, 5520 - 324.7F * static_cast<float>(i)); }};
-  ControlArray<Line>  Line4  {0, 24, [this](int i) { return std::make_unique<Line>("Line4", Picture19, (264.0F * static_cast<float>(i) + 480) * 1.008F, 5520, (264.0F * static_cast<float>(i) + 480) * 1.008F, 5640); }};
-  Label      Label18  {"Label18",   Picture19, { 150,  560,  300,  195}, {.caption = "300", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  Label      Label19  {"Label19",   Picture19, { 150, 2183,  300,  195}, {.caption = "200", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  Label      Label20  {"Label20",   Picture19, { 150, 3806,  300,  195}, {.caption = "100", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  ControlArray<Line>  Line3  {0, 18, TicksUp("Line3", Picture19)};
+  ControlArray<Line>  Line4  {0, 24, TicksAcross("Line4", Picture19)};
+  Label      Label18  {"Label18",   Picture19, {150, NumeralTop(15), 300, 195}, {.caption = "300", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  Label      Label19  {"Label19",   Picture19, {150, NumeralTop(10), 300, 195}, {.caption = "200", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  Label      Label20  {"Label20",   Picture19, {150, NumeralTop( 5), 300, 195}, {.caption = "100", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
   Label      Label21  {"Label21",   Picture19, { 360, 5640,  120,  195}, {.caption = "0",   .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, [](int i) { return i == 4 ? Place{3480, 5805, 960, 195} : Place{i == 0 ? 1770 : 1720 + 1320.0F * static_cast<float>(i), 5640, 240, 195}; }, {.fore = kLightGrey, .back = kDarkBlue, .fontSize = 8, .transparent = true}, {"5", "10", "15", "20", "(x1000rpm)"})};
+  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, NumeralsAcross(960), {.fore = kLightGrey, .back = kDarkBlue, .fontSize = 8, .transparent = true}, NumeralTexts())};
 
   Picture    Picture3 {"Picture3",  *this,     { 120, 1800, 2955, 4935}, {.border = true, .visible = false}};
   DriveBox   Drive1   {"Drive1",    Picture3,  { 120,  120, 2670,  315}, {.back = kWhite}};
@@ -64,6 +63,10 @@ struct Form5 : Window {
   Button     Command4 {"Command4",  Picture3,  { 120, 4380, 1275,  405}, {.caption = "Load"}};
   Button     Command5 {"Command5",  Picture3,  {1515, 4380, 1275,  405}, {.caption = "Cancel"}};
   // clang-format on
+
+ private:
+  /// Makes the column of speeds and the two heads.
+  ControlArray<Label>::Maker Speeds();
 };
 
 }  // namespace veldrin
