@@ -70,22 +70,11 @@ void SetEnglishCaptions(Form7& form7) {
   for (Control* control : form7.controls) {
     if (const AnySlot* font = control->FindSlot("FontName")) *std::get<Slot<std::string>*>(*font) = "Arial";
   }
-  form7.Caption = "Initialize";
-  form7.Label1[0].Caption = "Language";
-  form7.Label1[1].Caption = "English Only";
-  form7.Label3[0].Caption = "No Confirmation";
-  form7.Label3[1].Caption = "No Confirmation when data change";
-  form7.Label4[0].Caption = "File history";
-  form7.Label4[1].Caption = "Number of File history on menu";
-  form7.Label5.Caption = "Print Font";
-  form7.Label6.Caption = "Tyre 1round Length(m)";
-  form7.Label7.Caption = "Check Ne";
-  form7.Label8.Caption = "Shift Ne";
-  form7.Label9.Caption = "Max Speed";
-  form7.Label10.Caption = "Max Ne";
-  form7.Label11[0].Caption = "List File";
-  form7.Label12[0].Caption = "Dir. of List File(s)";
-  form7.Label13[0].Caption = "Dir. of Data File(s)";
+  form7.Caption = form7.look.english;
+  for (Control* control : form7.controls) {
+    if (*control->look.english == '\0') continue;
+    *std::get<Slot<std::string>*>(*control->FindSlot("Caption")) = control->look.english;
+  }
 }
 
 void FillFields(Program& program) {

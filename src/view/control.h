@@ -50,6 +50,7 @@ enum class Align { Left, Right, Centre };
 /// What the description of a window says of a control beside its place.
 struct Look {
   const char* caption = "";  // the text of a box
+  const char* english = "";  // the caption that takes its place in English, where it is in Japanese
   Colour fore = kBlack;
   Colour back = kLightGrey;
   float fontSize = 9;

@@ -2,12 +2,13 @@
 
 namespace veldrin {
 
-Form7::Form7(Desk& theDesk) : Window(theDesk, "Form7", {0, 0, 9600, 6000}, {.caption = "初期設定"}) {}
+Form7::Form7(Desk& theDesk)
+    : Window(theDesk, "Form7", {0, 0, 9600, 6000}, {.caption = "初期設定", .english = "Initialize"}) {}
 
-ControlArray<Label>::Maker Form7::Pair(const char* arrayName, const Place& captionPlace, const char* caption,
+ControlArray<Label>::Maker Form7::Pair(const char* arrayName, const Place& captionPlace, const Look& caption,
                                        const Place& secondPlace, const Look& second) {
   return [=, this](int i) {
-    return i == 0 ? std::make_unique<Label>(arrayName, *this, captionPlace, Look{.caption = caption})
+    return i == 0 ? std::make_unique<Label>(arrayName, *this, captionPlace, caption)
                   : std::make_unique<Label>(arrayName, *this, secondPlace, second);
   };
 }
