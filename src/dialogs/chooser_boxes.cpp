@@ -119,10 +119,36 @@ void TellMissingFile(Program& program, const std::string& name) {
   if (isName) ShowFailure(program, kFaultFileNotFound);
 }
 
-/// Selects the typed name, if its extension is the machine's, and runs OK. Selecting an existing file runs OK
-/// already by the double click that it fires; the second run, which comes behind it, is left out where the
-/// first one ended in a question, which it would answer, and in the Save role where the first was the answer,
-/// so that the chooser has gone or stands in another role.
+/// What the chooser shows, as far as Enter in the box for the name goes by it.
+struct Standing {
+  ChooserRole role;
+  bool shown;
+  bool prompt;    // something stands on the prompt line
+  bool question;  // and OK would answer it
+  std::string path;
+};
+
+Standing StandingOf(const Program& program) {
+  return {RoleOfChooser(program), program.form3.Visible, program.form3.Label4.Visible,
+          AsksOnPromptLine(program), program.workspace.DataPath};
+}
+
+/// What selecting the typed name did: an existing file runs OK already, by the double click that it fires.
+enum class Selection {
+  Asked,    // OK ended in a question, which is the user's to answer
+  Saved,    // OK was the answer, so that the chooser has gone or stands in another role
+  LeavesOk  // anything else; OK is still to be run
+};
+
+Selection WhatSelectingDid(const Standing& before, const Standing& after) {
+  const bool stoodBefore = before.prompt && before.path == after.path;
+  if (after.question && !stoodBefore) return Selection::Asked;
+  const bool stillSaving = after.shown && after.role == ChooserRole::Save;
+  if (before.role == ChooserRole::Save && !stillSaving) return Selection::Saved;
+  return Selection::LeavesOk;
+}
+
+/// Selects the typed name, if its extension is the machine's, and runs OK where that is left to do.
 void Combo1_Enter(Program& program) {
   Form3& form3 = program.form3;
   const std::string text = form3.Combo1.Text;
@@ -132,20 +158,21 @@ void Combo1_Enter(Program& program) {
     form3.Combo1.Text = "";
     return;
   }
-  const bool saving = RoleOfChooser(program) == ChooserRole::Save;
-  const bool askedBefore = form3.Label4.Visible;
-  const std::string askedFor = program.workspace.DataPath;
+  const Standing before = StandingOf(program);
   const int fault = Guarded([&] { form3.File1.FileName = dot == 0 ? text + "." + key : text; });
   if (fault == kFaultFileNotFound && ReadsFiles(program) && form3.File1.FileName.get().empty()) {
     TellMissingFile(program, text);
     return;
   }
-  const bool asksNow = AsksOnPromptLine(program) && !(askedBefore && askedFor == program.workspace.DataPath);
-  const bool saved = !form3.Visible || RoleOfChooser(program) != ChooserRole::Save;
-  if (asksNow) {
-    form3.Command1.Enabled = true;  // the user's to press
-  } else if (!(saving && saved)) {
-    Guarded([&] { form3.Command1.Click(); });
+  switch (WhatSelectingDid(before, StandingOf(program))) {
+    case Selection::Asked:
+      form3.Command1.Enabled = true;
+      break;
+    case Selection::Saved:
+      break;
+    case Selection::LeavesOk:
+      Guarded([&] { form3.Command1.Click(); });
+      break;
   }
 }
 
