@@ -2,6 +2,7 @@
 
 import argparse
 import os
+import re
 import sys
 import time
 
@@ -23,7 +24,7 @@ only the survivors are tried again."""
 def arguments():
     parser = argparse.ArgumentParser(prog="scripts/mutate", description=DESCRIPTION)
     parser.add_argument("places", nargs="*", metavar="FOLDER|FILE",
-                        help="folders below src/ by their names, or files; all of src/ but the desktop when none is given")
+                        help="folders below src/ by their names, or files; all rooms that are built when none is given")
     parser.add_argument("--count", type=int, metavar="N", help="a draw of N mutants instead of all")
     parser.add_argument("--seed", type=int, default=1, metavar="S", help="another draw for each number (default 1)")
     parser.add_argument("--kind", action="append", metavar="KIND",
@@ -47,7 +48,7 @@ def sources_of(root, places, with_desktop):
         if name.endswith((".cpp", ".h"))
     ]
     if not places:
-        return sorted(name for name in every if with_desktop or not reads_qt(root, name))
+        return sorted(name for name in every if with_desktop or not name.startswith(rooms_with_qt(root)))
     found = set()
     for place in places:
         path = place.strip("/").removeprefix("src/")
@@ -58,9 +59,10 @@ def sources_of(root, places, with_desktop):
     return sorted(found)
 
 
-def reads_qt(root, name):
-    """Whether the file needs Qt: folders that do have a list of their own for CMake."""
-    return os.path.isfile(os.path.join(root, *name.split("/")[:2], "CMakeLists.txt"))
+def rooms_with_qt(root):
+    """The rooms that CMake's table of the house names as such."""
+    with open(os.path.join(root, "CMakeLists.txt"), encoding="utf-8") as text:
+        return tuple(f"src/{room}/" for room in re.findall(r"^veldrin_qt_room\((\S+)", text.read(), re.MULTILINE))
 
 
 def draw(mutants, seed, count):

@@ -98,6 +98,18 @@ TEST_F(ModalWindows, ShownModallyAgainComeToTheFrontAndReturnAtOnce) {
   EXPECT_EQ(loops, 1);
 }
 
+TEST_F(ModalWindows, AreLoadedBeforeTheyAreModal) {
+  windows.modalLoop = [&](Window&) { dialog.Hide(); };
+  dialog.Load.Bind([&](int) {
+    EXPECT_FALSE(dialog.isModal);
+    EXPECT_TRUE(desk.modal.empty());
+    inner.Show();
+    EXPECT_EQ(desk.active, &inner) << "what is shown while they load comes to the front";
+  });
+  dialog.ShowModal();
+  EXPECT_EQ(desk.active, &inner);
+}
+
 TEST_F(ModalWindows, ShownBeforeBecomeModal) {
   dialog.Show();
   int loops = 0;
