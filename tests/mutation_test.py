@@ -9,7 +9,7 @@ import unittest
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 sys.path.insert(0, os.path.join(ROOT, "scripts", "mutation"))
 
-from judged import block_of, key_of, read_judged  # noqa: E402
+from judged import block_of, is_judged, outdated, read_judged  # noqa: E402
 from mutants import mutants_of  # noqa: E402
 from processes import run  # noqa: E402
 from record import KILLED, SURVIVED, Record  # noqa: E402
@@ -101,7 +101,19 @@ class Judged(unittest.TestCase):
     def test_a_block_is_found_by_the_lines_texts(self):
         (mutant,) = mutants_of("src/a/b.cpp", "  int x = a + b;")
         judged = read_judged("# What this is.\n\n" + block_of(mutant) + "\nIt makes\nno difference.\n")
-        self.assertEqual(judged[key_of(mutant)].reason, ["It makes", "no difference."])
+        self.assertTrue(is_judged(mutant, judged))
+        (judgement,) = judged.values()
+        self.assertEqual(judgement.reason, ["It makes", "no difference."])
+        (other,) = mutants_of("src/a/b.cpp", "  int x = a * b;")
+        self.assertFalse(is_judged(other, judged))
+
+    def test_a_line_may_be_judged_whatever_becomes_of_it(self):
+        judged = read_judged("b.cpp\n- Fill(1, kRed);\n+ *\nAny red will do.\n")
+        self.assertTrue(all(is_judged(mutant, judged) for mutant in mutants_of("src/a/b.cpp", "Fill(1, kRed);")))
+        others = mutants_of("src/a/b.cpp", "Fill(2, kRed);")
+        self.assertFalse(any(is_judged(mutant, judged) for mutant in others))
+        self.assertEqual(len(outdated(judged, others)), 1)
+        self.assertEqual(len(outdated(judged, mutants_of("src/a/b.cpp", "Fill(1, kRed);"))), 0)
 
     def test_a_block_without_a_reason_is_refused(self):
         with self.assertRaises(ValueError):

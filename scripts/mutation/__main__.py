@@ -1,13 +1,14 @@
 """scripts/mutate [FOLDER|FILE...]: the run itself."""
 
 import argparse
+import fcntl
 import os
 import re
 import sys
 import time
 
 from judged import FILE as JUDGED
-from judged import block_of, key_of, read_judged
+from judged import block_of, is_judged, outdated, read_judged
 from mutants import mutants_of
 from record import KILLED, NOT_COMPILED, SURVIVED, TIMED_OUT, UNNOTICED, Record
 from scratch import Scratch
@@ -73,6 +74,17 @@ def draw(mutants, seed, count):
     return [mutant for mutant in mutants if id(mutant) in chosen]
 
 
+def locked(base):
+    """The copy is one run's alone while the file that this returns is open."""
+    os.makedirs(base, exist_ok=True)
+    lock = open(os.path.join(base, "lock"), "w", encoding="utf-8")
+    try:
+        fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+    except BlockingIOError:
+        sys.exit("scripts/mutate: another run is under way here")
+    return lock
+
+
 def folder_of(file):
     return os.path.dirname(file).removeprefix("src/")
 
@@ -112,6 +124,7 @@ def main():
         with open(os.path.join(root, file), encoding="utf-8", newline="") as text:
             sources[file] = text.read()
         mutants += mutants_of(file, sources[file], told.tables)
+    every = mutants
     if told.kind:
         mutants = [mutant for mutant in mutants if mutant.kind in told.kind]
     mutants = draw(mutants, told.seed, told.count)
@@ -125,13 +138,18 @@ def main():
     if os.path.exists(JUDGED):
         with open(JUDGED, encoding="utf-8") as text:
             judged = read_judged(text.read())
+    for judgement in outdated(judged, every):
+        print(f"{JUDGED}: no longer in {judgement.file}: {' '.join(judgement.before)}")
     base = os.path.join(root, "build", "mutate", "qt" if told.qt else "core")
+    lock = locked(base)
     scratch = Scratch(root, base, ["-DVELDRIN_DESKTOP=ON"] if told.qt else [], told.jobs)
     tree = scratch.sync()
     record = Record(os.path.join(base, "record.jsonl"), tree)
     if not told.figures:
         try_all(mutants, sources, record, scratch, judged, told.nearby)
-    return report(mutants, sources, record, judged, told.nearby)
+    report(mutants, sources, record, judged, told.nearby)
+    lock.close()
+    return 0
 
 
 def try_all(mutants, sources, record, scratch, judged, nearby):
@@ -151,7 +169,7 @@ def try_all(mutants, sources, record, scratch, judged, nearby):
         seconds = time.monotonic() - begin
         record.add(keys[id(mutant)], mutant.file, outcome, by, seconds)
         said = f" [{number}/{len(due)}, {seconds:.0f} s] {outcome}" + (f" by {by}" if by else "")
-        if outcome in {SURVIVED, UNNOTICED} and key_of(mutant) not in judged:
+        if outcome in {SURVIVED, UNNOTICED} and not is_judged(mutant, judged):
             print_mutant(mutant, said)
         else:
             print(f"{mutant.file}:{mutant.line}: {mutant.kind}{said}")
@@ -168,7 +186,7 @@ def report(mutants, sources, record, judged, nearby):
             untried += 1
             continue
         outcome = SURVIVED if result.outcome == UNNOTICED else result.outcome
-        if outcome == SURVIVED and key_of(mutant) in judged:
+        if outcome == SURVIVED and is_judged(mutant, judged):
             outcome = "judged"
         elif outcome == SURVIVED:
             survivors.append(mutant)
@@ -182,7 +200,6 @@ def report(mutants, sources, record, judged, nearby):
     print_figures(rows)
     if untried:
         print(f"{untried} are still to be tried")
-    return 0
 
 
 sys.exit(main())

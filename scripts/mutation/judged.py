@@ -6,11 +6,13 @@ nothing prescribes. They stand in tests/mutants-judged.txt, one block each:
     + what they become
     Why that is all the same.
 
-Lines are told by their texts and files by their names, so that both may move."""
+Lines are told by their texts and files by their names, so that both may move. "+ *" stands for whatever becomes of
+the lines, where all of it is a matter of taste."""
 
 from dataclasses import dataclass, field
 
 FILE = "tests/mutants-judged.txt"
+ANYTHING = ("*",)
 
 
 @dataclass
@@ -46,8 +48,20 @@ def read_judged(text):
     return judged
 
 
-def key_of(mutant):
-    return mutant.file.rsplit("/", 1)[-1], mutant.before, mutant.after
+def keys_of(mutant):
+    name = mutant.file.rsplit("/", 1)[-1]
+    return (name, mutant.before, mutant.after), (name, mutant.before, ANYTHING)
+
+
+def is_judged(mutant, judged):
+    return any(key in judged for key in keys_of(mutant))
+
+
+def outdated(judged, mutants):
+    """Those on files of which mutants were made, though none of these is what was judged."""
+    names = {mutant.file.rsplit("/", 1)[-1] for mutant in mutants}
+    made = {key for mutant in mutants for key in keys_of(mutant)}
+    return [judgement for key, judgement in judged.items() if judgement.file in names and key not in made]
 
 
 def block_of(mutant):
