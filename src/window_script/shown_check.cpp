@@ -143,7 +143,7 @@ void CheckWindow(FormWidget& form, const Stage& stage, std::vector<Mismatch>& fo
   Checker checker(window, found);
   checker.CompareText("Caption", std::optional<std::string>(form.Title()));
   checker.Compare<bool>("Visible", std::optional<bool>(form.isVisible()));
-  const QSize wanted = ClientPixels(window, stage.zoom);
+  const QSize wanted = form.ContentFor(ClientPixels(window, stage.zoom));
   const QSize shown = form.Client().size();
   if (shown != wanted) checker.Tell("size in pixels", RectText({{}, wanted}), RectText({{}, shown}));
   const auto* focused = dynamic_cast<const ControlView*>(form.focusWidget());

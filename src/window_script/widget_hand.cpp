@@ -267,12 +267,13 @@ bool WidgetHand::Resize(Program& program, Window& window, float width, float hei
   const bool whole =
       stage_.zoom.Twips(pixels.width()) == inner && stage_.zoom.Twips(pixels.height()) == innerHeight;
   const bool serves = form != nullptr && form->isVisible() && form->UserCanResize() && whole;
-  const QSize now = form == nullptr ? QSize() : form->Client().size();
-  // Sizes between pixels, and one that is there already, no pointer can draw.
-  if (!serves || pixels == now || !user::Reachable(window)) {
+  const QSize frame = serves ? form->FrameFor(pixels) : QSize();
+  // Sizes between pixels, one that is there already, and less than the least no pointer can draw.
+  if (!serves || frame == form->size() || frame != frame.expandedTo(form->minimumSize()) ||
+      !user::Reachable(window)) {
     return ScriptHand::Resize(program, window, width, height);
   }
-  return Through([&] { form->resize(form->size() + (pixels - now)); });
+  return Through([&] { form->resize(frame); });
 }
 
 bool WidgetHand::Close(Program& program, Window& window, CloseReason reason) {

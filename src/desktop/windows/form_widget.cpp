@@ -45,7 +45,8 @@ FormWidget::FormWidget(Window& window, Stage& stage, FormFinder formOf)
       ring_(new ReachRing(*client_, stage.zoom)),
       factor_(stage.zoom.Factor()),
       factorNormal_(factor_),
-      normal_(window.Width, window.Height),
+      asDescribed_(window.Width, window.Height),
+      normal_(asDescribed_),
       normalBefore_(normal_) {
   const Applying applying(stage);
   setObjectName(QString::fromStdString(window.name));

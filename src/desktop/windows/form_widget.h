@@ -4,10 +4,12 @@
 // The program counts a window's outer size with a frame of its own time, 120 twips wider and 690 (405 without
 // a menu) higher than the area inside. The real frame and menu bar are as large as the desktop makes them;
 // the area inside is what is kept to. Where that is larger than the screen it scrolls, and so does what a
-// maximised window has no room for: the inside is never smaller there than before.
+// maximised window has no room for: the inside is never smaller there than before. A window that the user
+// draws smaller than it is described tells the program so, and scrolls what it has no room for.
 //
 //   form_widget.cpp         the controls inside, the focus, showing and hiding, also in front of others
-//   form_widget_frame.cpp   zoom, size, place and state, by the program and by the desktop
+//   form_widget_frame.cpp   zoom, place and state, by the program and by the desktop
+//   form_widget_size.cpp    size, and what scrolls
 //   form_widget_input.cpp   what the user does with the window as a whole: keys, the wheel, closing, coming
 //                           back to it, dropping files on it
 #pragma once
@@ -19,6 +21,7 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QScrollArea>
+#include <QSize>
 #include <QWidget>
 
 #include <cstddef>
@@ -58,7 +61,11 @@ class FormWidget : public QWidget {
   /// The window as it looks without its frame, whole even where the screen has no room for it.
   QPixmap Picture();
   /// Whether the area inside follows when the user draws at the frame now.
-  bool UserCanResize() const { return CanResize() && !Scrolls() && ellipse_.isNull(); }
+  bool UserCanResize() const { return CanResize() && !KeepsSize() && ellipse_.isNull(); }
+  /// The frame, with its scroll bars, that leaves this much of the area inside to be seen.
+  QSize FrameFor(const QSize& inside) const;
+  /// The area that the controls have where so much of it is to be seen.
+  QSize ContentFor(const QSize& inside) const;
   /// The title as the program wrote it.
   std::string Title() const;
   /// The area that the controls lie on.
@@ -81,6 +88,9 @@ class FormWidget : public QWidget {
   bool focusNextPrevChild(bool /*next*/) override { return false; }
 
  private:
+  /// What a window's real frame and the desktop's bars may take of the screen.
+  static constexpr QSize kFrameRoom{16, 48};
+
   void FollowControls();
   void MakeMissingViews();
   void DropLostViews();
@@ -105,7 +115,10 @@ class FormWidget : public QWidget {
   void FrameStateChanged(Qt::WindowStates before);
   void EndRestoring();
   QSize InsideOfFrame() const;
+  QSize RoomOnScreen(const QSize& otherwise) const;
+  QSize Bars(bool down, bool across) const;
   QSize BarsFor(const QSize& whole, const QSize& room) const;
+  QSize LeastFrame() const;
   void ShowBars();
   void TellFrameSoon();
   void TellFrame();
@@ -117,8 +130,10 @@ class FormWidget : public QWidget {
   QPoint Corner() const;
   /// Whether the program lays its window out for any size.
   bool CanResize() const { return window_->Resize.Claims() > 0; }
+  /// Whether the area inside keeps at least its normal size, however small the frame is.
+  bool KeepsSize() const { return clipped_ || isMaximized(); }
   /// Whether the inside may be larger than the frame.
-  bool Scrolls() const { return clipped_ || isMaximized(); }
+  bool Scrolls() const;
   bool FillsScreen() const;
   QSize InsidePixels(const QSizeF& outer) const;
 
@@ -139,8 +154,9 @@ class FormWidget : public QWidget {
   QRect ellipse_;             // in pixels of the program; null for none
   QPointer<QWidget> raised_;  // a panel that came to the front in this event
 
-  double factor_;        // the zoom that the window's place in twips belongs to
-  double factorNormal_;  // the zoom when the frame was last neither maximised nor minimised
+  double factor_;             // the zoom that the window's place in twips belongs to
+  double factorNormal_;       // the zoom when the frame was last neither maximised nor minimised
+  const QSizeF asDescribed_;  // outer size in twips; nothing is laid out for less
   /// Outer size in twips of the frame when it is not maximised, and before the desktop last changed it.
   QSizeF normal_;
   QSizeF normalBefore_;

@@ -6,12 +6,8 @@
 #include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTimer>
 
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <utility>
 
 namespace veldrin {
@@ -19,26 +15,15 @@ namespace veldrin {
 namespace {
 
 constexpr float kMenuFontSize = 9;
-constexpr int kSmallestPixels = 160;
-/// What a window's real frame and the desktop's bars may take of the screen.
-constexpr QSize kFrameRoom(16, 48);
 constexpr int kTitleHeight = 32;
 constexpr int kRestoringTime = 300;  // ms until a desktop has given a window its normal size back
 
 constexpr Qt::WindowStates kAway = Qt::WindowMaximized | Qt::WindowMinimized;
 
-QSize RoomOn(const QScreen* screen, const QSize& otherwise) {
-  return screen == nullptr ? otherwise : screen->availableGeometry().size() - kFrameRoom;
-}
-
 /// The program counts places from where the primary screen begins, which is the only one that it knows.
 QPoint Origin() {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   return screen == nullptr ? QPoint() : screen->geometry().topLeft();
-}
-
-bool IsLarger(const QSize& size, const QSize& room) {
-  return size.width() > room.width() || size.height() > room.height();
 }
 
 }  // namespace
@@ -82,120 +67,6 @@ void FormWidget::Rescale() {
   window_->Top = twips(window_->Top, corner.y());
   Reveal(focusWidget());
   if (isMaximized()) TellFrameSoon();
-}
-
-// ---- size ----
-
-QPixmap FormWidget::Picture() {
-  if (!Scrolls()) return grab();
-  const int menu = MenuHeight();
-  const QSize whole = client_->size() + QSize(0, menu);
-  QPixmap picture(whole * devicePixelRatioF());
-  picture.setDevicePixelRatio(devicePixelRatioF());
-  if (menuBar_ != nullptr) {
-    menuBar_->setGeometry(0, 0, whole.width(), menu);
-    menuBar_->render(&picture);
-    PlaceInside();
-  }
-  client_->render(&picture, QPoint(0, menu));
-  return picture;
-}
-
-int FormWidget::MenuHeight() const {
-  return menuBar_ == nullptr ? 0 : menuBar_->sizeHint().height();
-}
-
-/// The area inside of an outer size in twips.
-QSize FormWidget::InsidePixels(const QSizeF& outer) const {
-  const Zoom& zoom = stage_->zoom;
-  const float frameWidth = window_->Width - window_->InnerWidth();
-  const float frameHeight = window_->Height - window_->InnerHeight();
-  return {std::max(1, qRound(zoom.Pixels(outer.width() - static_cast<double>(frameWidth)))),
-          std::max(1, qRound(zoom.Pixels(outer.height() - static_cast<double>(frameHeight))))};
-}
-
-/// Logical pixels that a frame may lose where they are no whole number of the screen's.
-int FormWidget::Rounding() const {
-  return devicePixelRatioF() == std::floor(devicePixelRatioF()) ? 0 : 1;
-}
-
-/// What the scroll bars take where `whole` has no room in `room`.
-QSize FormWidget::BarsFor(const QSize& whole, const QSize& room) const {
-  const int besides = scroll_->verticalScrollBar()->sizeHint().width() + Rounding();
-  const int below = scroll_->horizontalScrollBar()->sizeHint().height() + Rounding();
-  bool down = whole.height() > room.height();
-  const bool across = whole.width() > room.width() - (down ? besides : 0);
-  down = down || (across && whole.height() > room.height() - below);
-  return {down ? besides : 0, across ? below : 0};
-}
-
-/// The area inside that the frame asks for as it is. What scrolls keeps at least its normal size.
-QSize FormWidget::InsideOfFrame() const {
-  const QSize room(width(), height() - MenuHeight());
-  if (!Scrolls()) return room;
-  const QSize least = InsidePixels(normal_);
-  return (room - BarsFor(least, room)).expandedTo(least);
-}
-
-/// The desktop gives a maximised window the size of the screen. It does so before or behind its word that the
-/// window is maximised.
-bool FormWidget::FillsScreen() const {
-  const QSize room = RoomOn(screen(), size());
-  return width() >= room.width() && height() >= room.height();
-}
-
-void FormWidget::TakeSize() {
-  if (!ellipse_.isNull()) {
-    TakePosition();
-    return;
-  }
-  client_->resize(ClientPixels(*window_, stage_->zoom));
-  if (isMaximized() || isMinimized()) {
-    ShowBars();
-    PlaceInside();
-    return;
-  }
-  if (!tellingFrame_ || !clipped_) normal_ = {window_->Width, window_->Height};
-  // A frame that the user is drawing at is not pulled out of his hand.
-  if (tellingFrame_) return;
-  normalBefore_ = normal_;
-  FitFrame();
-}
-
-/// Gives the frame the size that the area inside wants, or what the screen has of it.
-void FormWidget::FitFrame() {
-  const QSize whole = client_->size() + QSize(0, MenuHeight());
-  const QSize room = RoomOn(screen(), whole);
-  clipped_ = window_->hasFrame && IsLarger(whole, room);
-  const QSize withBars = clipped_ ? whole + BarsFor(whole, room) : whole;
-  const QSize size = clipped_ ? withBars.boundedTo(room) : whole;
-  if (CanResize()) {
-    setMinimumSize(kSmallestPixels, kSmallestPixels);
-    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  } else if (clipped_) {
-    setMinimumSize(kSmallestPixels, kSmallestPixels);
-    setMaximumSize(withBars);
-  } else {
-    setMinimumSize(size);
-    setMaximumSize(size);
-  }
-  ShowBars();
-  resize(size);
-  PlaceInside();
-}
-
-void FormWidget::ShowBars() {
-  const auto bars = Scrolls() ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
-  scroll_->setHorizontalScrollBarPolicy(bars);
-  scroll_->setVerticalScrollBarPolicy(bars);
-}
-
-/// Menu on top, the area inside below it.
-void FormWidget::PlaceInside() {
-  if (!ellipse_.isNull()) return;
-  const int menu = MenuHeight();
-  if (menuBar_ != nullptr) menuBar_->setGeometry(0, 0, width(), menu);
-  scroll_->setGeometry(0, menu, width(), std::max(0, height() - menu));
 }
 
 // ---- place and state ----
@@ -298,7 +169,7 @@ void FormWidget::EndRestoring() {
   if (!std::exchange(restoring_, false) || window_ == nullptr) return;
   {
     const Applying applying(*stage_);
-    client_->resize(InsidePixels(normal_));
+    client_->resize(ContentFor(InsidePixels(normal_)));
     FitFrame();
   }
   TellFrame();
@@ -312,6 +183,7 @@ void FormWidget::moveEvent(QMoveEvent* event) {
 void FormWidget::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   PlaceInside();
+  ShowBars();
   if (restoring_) {
     QTimer::singleShot(0, this, [this] { EndRestoring(); });
   } else if (stage_->applying == 0) {
@@ -344,33 +216,6 @@ void FormWidget::TellPlace() {
   }
   // The program may have wished for another place.
   if (window_ != nullptr && Corner() != now) TakeWindowSlot("Left");
-}
-
-void FormWidget::TellSize() {
-  const Zoom& zoom = stage_->zoom;
-  const QSize before = ClientPixels(*window_, zoom);
-  const QSize normal = InsidePixels(normal_);
-  const QSize now = InsideOfFrame();
-  const QSize change = now - before;
-  if (std::max(std::abs(change.width()), std::abs(change.height())) <= Rounding()) return;
-  // A side that was not drawn at keeps its length to the twip, and gets its old one back so.
-  Window& window = *window_;
-  const auto length = [&](int pixels, int same, float twips, int old, double oldTwips, float inner) {
-    if (pixels == same) return twips;
-    if (pixels == old) return static_cast<float>(oldTwips);
-    return static_cast<float>(zoom.Twips(pixels)) + (twips - inner);
-  };
-  const float newWidth =
-      length(now.width(), before.width(), window.Width, normal.width(), normal_.width(), window.InnerWidth());
-  const float newHeight = length(now.height(), before.height(), window.Height, normal.height(),
-                                 normal_.height(), window.InnerHeight());
-  normalBefore_ = normal_;
-  {
-    const QScopedValueRollback<bool> telling(tellingFrame_, true);
-    stage_->input.Do([&] { return user::Resize(window, newWidth, newHeight); });
-  }
-  // The handler may have wished for another size.
-  if (window_ != nullptr && ClientPixels(*window_, zoom) != now) TakeWindowSlot("Width");
 }
 
 }  // namespace veldrin
