@@ -70,5 +70,16 @@ TEST_F(ChartStretchTest, TheFrameIsAsManyTimesLargerAsItsPanel) {
   EXPECT_NEAR(twice.height(), before.height() * 2, 2);
 }
 
+TEST_F(ChartStretchTest, ANumeralAtTheTopEdgeIsWholeOrNotThere) {
+  Label& numeral = program->form2.Label18;
+  numeral.Top = -90;  // its tick is the edge
+  EXPECT_EQ(WidgetOf(numeral).y(), 0);
+  EXPECT_EQ(WidgetOf(numeral).height(), 13);
+  numeral.Top = -120;  // its tick lies above
+  EXPECT_LE(WidgetOf(numeral).geometry().bottom(), 0);
+  numeral.Top = 30;
+  EXPECT_EQ(WidgetOf(numeral).y(), 2);
+}
+
 }  // namespace
 }  // namespace veldrin

@@ -59,6 +59,9 @@ QRectF PlaceInParent(const Control& control, const Zoom& zoom) {
     if (place.left() < panel.width() && place.right() > panel.width()) {
       place.moveRight(std::max(panel.width(), place.width()));
     }
+    if (place.top() < 0 && place.bottom() > 0) {
+      place.center().y() >= 0 ? place.moveTop(0) : place.moveBottom(0);
+    }
   }
   return place;
 }

@@ -3,7 +3,7 @@
 // A child is placed in twips, but for the children of a picture whose surface has a user scale that begins at
 // (0, 0) and runs downward: these are placed in the units of that scale, stretched over the picture. A label
 // that the right edge of its panel would cut stands back inside it: the numeral at the end of the chart's
-// axis.
+// axis. So does one at the top edge whose middle, and so its tick, is inside; another is not to be seen.
 #pragma once
 
 #include "desktop/windows/zoom.h"
