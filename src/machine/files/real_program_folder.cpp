@@ -28,9 +28,8 @@ void CopyFile(const QString& from, const QString& to) {
   QFile::setPermissions(to, QFile::permissions(to) | QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
-/// Copies a folder that is not there yet, with all that is in it.
+/// Copies all that is in a folder.
 void CopyFolder(const QString& from, const QString& to) {
-  if (QFileInfo::exists(to)) return;
   QDir().mkpath(to);
   QDirIterator entries(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
   while (entries.hasNext()) {
@@ -42,6 +41,22 @@ void CopyFolder(const QString& from, const QString& to) {
       QDir().mkpath(QFileInfo(target).path());
       CopyFile(entry, target);
     }
+  }
+}
+
+/// Whether a folder is missing or has nothing in it.
+bool IsBare(const QString& folder) {
+  return QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+/// Copies lists and plans: those that have no folder yet, and both as long as there is no list, as after a
+/// first run that found nothing to copy.
+void CopySamples(const QDir& from, const QString& to) {
+  const bool hasLists = !IsBare(to + "/" + kListFolder);
+  for (const char* name : {kListFolder, kPlanFolder}) {
+    const QString target = to + "/" + name;
+    const bool wanted = hasLists ? !QFileInfo::exists(target) : IsBare(target);
+    if (wanted && from.exists(name)) CopyFolder(from.filePath(name), target);
   }
 }
 
@@ -67,11 +82,13 @@ bool HoldsLists(const QString& folder) {
 
 }  // namespace
 
-QString InstalledFolder() {
-  const QString program = QCoreApplication::applicationDirPath();
-  // Beside the program, PREFIX/bin, and build/PRESET/bin of the repository.
-  QStringList candidates = {program, program + "/share/veldrin", program + "/../share/veldrin",
-                            program + "/../../../share/veldrin"};
+QString InstalledFolder(const QString& program) {
+  QStringList candidates = {program};
+  // PREFIX/bin, a program that was copied with its share folder, and any build folder of the repository.
+  QDir around(program);
+  do {
+    candidates += around.filePath("share/veldrin");
+  } while (around.cdUp());
   for (const QString& folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
     if (folder == QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) continue;
     candidates += folder + "/veldrin";
@@ -87,9 +104,7 @@ bool FillProgramFolder(const QString& folder, const QString& installed) {
   if (!QDir().mkpath(folder) || !QFileInfo(folder).isWritable()) return false;
   if (!installed.isEmpty() && QFileInfo(installed) != QFileInfo(folder)) {
     const QDir from(installed);
-    for (const char* name : {kListFolder, kPlanFolder}) {
-      if (from.exists(name)) CopyFolder(from.filePath(name), folder + "/" + name);
-    }
+    CopySamples(from, folder);
     // Sounds and captions; a program that stands in the same folder stays where it is.
     for (const QString& name : from.entryList({"*.wav", "*.CAP", "*.cap"}, QDir::Files)) {
       CopyFile(from.filePath(name), folder + "/" + name);
@@ -103,7 +118,7 @@ fs::path ProgramFolder() {
   const fs::path named = NamedFolder();
   if (!named.empty()) return named;
   const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/veldrin";
-  const QString installed = InstalledFolder();
+  const QString installed = InstalledFolder(QCoreApplication::applicationDirPath());
   if (FillProgramFolder(own, installed)) return NativePath(own.toStdString());
   return NativePath((installed.isEmpty() ? QDir::homePath() : installed).toStdString());
 }

@@ -7,7 +7,7 @@
 //
 // The user's folder is made at the first run, with copies of what was installed. Later runs add files that
 // came with a newer program; what lies in LIST and DAT is the user's, and a folder that is there gets
-// nothing.
+// nothing, unless the user has no list at all.
 #pragma once
 
 #include <QString>
@@ -20,9 +20,10 @@ namespace veldrin {
 /// user's own cannot be made it is the installed one, or the user's home.
 std::filesystem::path ProgramFolder();
 
-/// The folder with what was installed: beside the program, in the share folder of its prefix or of the
-/// repository that it was built in, or in one of the system's data folders. Empty when there is none.
-QString InstalledFolder();
+/// The folder with what was installed for the program in the folder `program`: beside it, in a folder
+/// share/veldrin there or in any folder around it, or in one of the system's data folders (XDG_DATA_DIRS).
+/// Empty when there is none.
+QString InstalledFolder(const QString& program);
 
 /// Makes `folder` and copies what it still lacks from `installed`. False when it cannot be made or denies
 /// writing.

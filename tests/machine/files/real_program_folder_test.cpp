@@ -27,7 +27,7 @@ class RealProgramFolderTest : public ::testing::Test, protected ScratchFolder {
   }
   void TearDown() override {
     qunsetenv("VELDRIN_HOME");
-    qunsetenv("XDG_DATA_HOME");
+    for (const char* name : {"XDG_DATA_HOME", "XDG_DATA_DIRS"}) qunsetenv(name);
   }
 };
 
@@ -58,6 +58,48 @@ TEST_F(RealProgramFolderTest, BothFoldersAreThereWithoutAnythingInstalled) {
   EXPECT_TRUE(FillProgramFolder(In("own"), ""));
   EXPECT_TRUE(QFileInfo(In("own/LIST")).isDir());
   EXPECT_TRUE(QFileInfo(In("own/DAT")).isDir());
+}
+
+TEST_F(RealProgramFolderTest, SamplesThatWereInstalledLaterAreCopiedWhereThereIsNoList) {
+  FillProgramFolder(In("own"), "");
+  EXPECT_TRUE(FillProgramFolder(In("own"), In("installed")));
+  EXPECT_EQ(Bytes("own/LIST/NX4.RAT"), "list");
+  EXPECT_EQ(Bytes("own/DAT/Sample.nx4"), "plan");
+}
+
+TEST_F(RealProgramFolderTest, PlansThatTheUserDeletedStayDeleted) {
+  FillProgramFolder(In("own"), In("installed"));
+  QFile::remove(In("own/DAT/Sample.nx4"));
+  FillProgramFolder(In("own"), In("installed"));
+  EXPECT_FALSE(QFile::exists(In("own/DAT/Sample.nx4")));
+}
+
+TEST_F(RealProgramFolderTest, PlansWithoutAListAreNotMixedWithTheSamples) {
+  Put("own/DAT/Mine.nx4", "mine");
+  FillProgramFolder(In("own"), In("installed"));
+  EXPECT_EQ(Bytes("own/LIST/NX4.RAT"), "list");
+  EXPECT_FALSE(QFile::exists(In("own/DAT/Sample.nx4")));
+}
+
+TEST_F(RealProgramFolderTest, SamplesAreFoundWhereverTheProgramWasPut) {
+  Put("beside/LIST/A.RAT", "");
+  EXPECT_EQ(InstalledFolder(In("beside")), In("beside"));
+  Put("copied/share/veldrin/LIST/A.RAT", "");
+  EXPECT_EQ(InstalledFolder(In("copied")), In("copied/share/veldrin"));
+  Put("prefix/share/veldrin/LIST/A.RAT", "");
+  Put("prefix/bin/veldrin", "");
+  EXPECT_EQ(InstalledFolder(In("prefix/bin")), In("prefix/share/veldrin"));
+  Put("prefix/build/bin/veldrin", "");
+  EXPECT_EQ(InstalledFolder(In("prefix/build/bin")), In("prefix/share/veldrin"));
+  Put("prefix/build/release/bin/veldrin", "");
+  EXPECT_EQ(InstalledFolder(In("prefix/build/release/bin")), In("prefix/share/veldrin"));
+}
+
+TEST_F(RealProgramFolderTest, SamplesAreFoundInTheSystemsDataFolders) {
+  Put("elsewhere/bin/veldrin", "");
+  Put("second/veldrin/LIST/A.RAT", "");
+  qputenv("XDG_DATA_DIRS", (In("first") + ":" + In("second")).toUtf8());
+  EXPECT_EQ(InstalledFolder(In("elsewhere/bin")), In("second/veldrin"));
 }
 
 TEST_F(RealProgramFolderTest, AFolderThatCannotBeMadeIsToldAsSuch) {
