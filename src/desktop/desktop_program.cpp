@@ -24,6 +24,14 @@ constexpr int kPrepareAfter = 20;  // ms
 
 constexpr char kNotPrinted[] = "The page could not be printed.";
 constexpr char kNotPrintedJapanese[] = "印刷できませんでした。";
+constexpr char kNoLists[] =
+    "No machine list (*.RAT) was found.\r\n\r\n"
+    "Sample machines come with the program, in its folder share/veldrin/LIST. Copy them to the folder below, "
+    "or choose a list of your own here.\r\n\r\n";
+constexpr char kNoListsJapanese[] =
+    "機種ファイル（*.RAT）が見つかりません。\r\n\r\n"
+    "サンプルの機種ファイルは、プログラムに付属の share/veldrin/LIST フォルダにあります。"
+    "下記のフォルダにコピーするか、この画面でお手持ちの機種ファイルを選択してください。\r\n\r\n";
 
 }  // namespace
 
@@ -46,9 +54,10 @@ DesktopProgram::DesktopProgram() {
                           BoxButtons::Ok);
   };
   program = AssembleProgram(machine.machine);
-  windows.eventComes = [this](const Event& event) {
-    if (&event != &program->form2.Unload) return;
-    DeleteLeftovers(machine.files, machine.instances, machine.environment.Variable("TEMP"));
+  windows.eventComes = [this](const Event& event) { HearEvent(event); };
+  stage.input.afterEvent = [this, settle = std::exchange(stage.input.afterEvent, {})] {
+    settle();
+    LayOutForPlan();
   };
   stage.input.Serve(program.get());
   stage.input.ended = [] { QCoreApplication::exit(); };
@@ -57,6 +66,39 @@ DesktopProgram::DesktopProgram() {
   };
   QObject::connect(qApp, &QGuiApplication::commitDataRequest, &listener_,
                    [this](QSessionManager& session) { CommitSession(session); });
+}
+
+void DesktopProgram::HearEvent(const Event& event) {
+  const Workspace& workspace = program->workspace;
+  const Form3& form3 = program->form3;
+  if (&event == &program->form2.Resize) {
+    layoutDue_ = workspace.ModeWord == mode::kBasing;
+  } else if (&event == &program->form2.Unload) {
+    DeleteLeftovers(machine.files, machine.instances, machine.environment.Variable("TEMP"));
+  } else if (&event == &form3.Activate && workspace.MachineKey.empty() && form3.File1.entries.empty()) {
+    if (!std::exchange(missingTold_, true)) QTimer::singleShot(0, &listener_, [this] { TellMissingLists(); });
+  }
+}
+
+/// The main window passes over a size that it is given before there is a plan, as when it is maximised then.
+/// It is laid out for it as soon as there is one.
+void DesktopProgram::LayOutForPlan() {
+  const Workspace& workspace = program->workspace;
+  const bool rests = !program->ended && program->eventDepth == 0;
+  if (!layoutDue_ || !rests || workspace.ModeWord == mode::kBasing) return;
+  layoutDue_ = false;
+  stage.input.Do([this] {
+    program->form2.Resize();
+    return true;
+  });
+}
+
+/// The chooser has come up with nothing to choose.
+void DesktopProgram::TellMissingLists() {
+  const bool japanese = program->workspace.Language == kJapanese;
+  machine.boxes.Message(BoxIcon::Information, "",
+                        (japanese ? kNoListsJapanese : kNoLists) + program->workspace.ListPath,
+                        BoxButtons::Ok);
 }
 
 DesktopProgram::~DesktopProgram() {

@@ -17,7 +17,7 @@
 
 namespace veldrin {
 
-/// The windows, and a word before the main window's last event, from whatever side it comes.
+/// The windows, and a word before each event, from whatever side it comes.
 class ProgramWindows : public DesktopWindows {
  public:
   using DesktopWindows::DesktopWindows;
@@ -59,10 +59,15 @@ class DesktopProgram {
   void TakeZoom();
   void ZoomChanged();
   void CommitSession(QSessionManager& session);
+  void HearEvent(const Event& event);
+  void LayOutForPlan();
+  void TellMissingLists();
   /// The last event of the program; ends it.
   void CloseUnasked();
 
-  QObject listener_;  // what would be told to the program is not told any more when it is gone
+  bool layoutDue_ = false;    // the main window has a size that it was not laid out for
+  bool missingTold_ = false;  // the user knows that there are no machine lists
+  QObject listener_;          // what would be told to the program is not told any more when it is gone
   EndSignals signals_{[this] { EndAtOnce(); }};
 };
 

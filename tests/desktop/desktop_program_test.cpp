@@ -1,17 +1,9 @@
-#include "desktop/desktop_program.h"
-
 #include "program/event_boundary.h"
-#include "tests/desktop/program_folders.h"
+#include "tests/desktop/running_program.h"
 
-#include <QApplication>
 #include <QFontInfo>
-#include <QMessageBox>
-#include <QTimer>
-#include <gtest/gtest.h>
 
 #include <csignal>
-#include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -20,36 +12,8 @@ namespace {
 
 constexpr char kHistory[] = "Software\\Tarn Ridge\\Veldrin\\Ext\\Sub";
 
-/// The program as it runs on the desktop, in folders of its own. A test that hangs ends after a while.
-class DesktopProgramTest : public ::testing::Test, protected ProgramFolders {
+class DesktopProgramTest : public RunningProgramTest {
  protected:
-  void SetUp() override { program_ = std::make_unique<DesktopProgram>(); }
-  void TearDown() override { program_.reset(); }
-
-  DesktopProgram& Desktop() { return *program_; }
-  Program& Main() { return *program_->program; }
-
-  /// Calls `then` as soon as `ready` holds.
-  static void When(const std::function<bool()>& ready, const std::function<void()>& then) {
-    QTimer::singleShot(5, qApp, [=] { ready() ? then() : When(ready, then); });
-  }
-
-  /// Runs the program and calls `work` when the main window has come up.
-  int Run(const std::string& commandLine, const std::function<void()>& work) {
-    When([this] { return Main().ended || (Main().eventDepth == 0 && Main().form2.Visible); }, work);
-    return Finish(commandLine);
-  }
-
-  int Finish(const std::string& commandLine) {
-    QTimer guard;
-    QObject::connect(&guard, &QTimer::timeout, [] {
-      ADD_FAILURE() << "the program does not end";
-      QCoreApplication::exit();
-    });
-    guard.start(60000);
-    return Desktop().Run(commandLine);
-  }
-
   void SetChanged(const char* word) {
     RunEvent(Main(), [&] { Main().workspace.DataChanged = word; });
   }
@@ -74,11 +38,6 @@ class DesktopProgramTest : public ::testing::Test, protected ProgramFolders {
     EXPECT_EQ(Setting(kSettings, "Last Left"), "1500");
     EXPECT_EQ(Setting(kSettings, "Last Top"), "900");
   }
-
-  static QMessageBox* OpenBox() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
-
- private:
-  std::unique_ptr<DesktopProgram> program_;
 };
 
 TEST_F(DesktopProgramTest, RunsFromTheSplashToTheEndOfTheMainWindow) {
