@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QEvent>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -97,12 +98,30 @@ bool HasDialog() {
 
 #endif
 
+/// Keeps a part of a dialog of Qt's from being seen, whenever that shows it. There may be no such part.
+class KeptHidden : public QObject {
+ public:
+  explicit KeptHidden(QWidget* part) {
+    if (part == nullptr) return;
+    part->installEventFilter(this);
+    part->hide();
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ShowToParent)
+      QMetaObject::invokeMethod(watched, "hide", Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
+  }
+};
+
 bool AskForPrinter(QPrinter& device) {
   if (!HasDialog()) return AskForPdf(device);
   QPrintDialog dialog(&device, Owner());
   dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+  // Qt's own dialog offers pages all the same.
+  const KeptHidden range(dialog.findChild<QWidget*>("gbPrintRange"));
 #ifdef _WIN32
   // What Windows writes to such a file is the printer's language and no PDF.
   dialog.setOption(QAbstractPrintDialog::PrintToFile, false);

@@ -62,7 +62,7 @@ bool RealPrinter::PrintPage() {
   QPrinter& device = Device();
   QPainter painter;
   if (!painter.begin(&device)) return false;
-  const double pixelsPerTwip = device.resolution() / kTwipsPerPrintedInch;
+  const double pixelsPerTwip = sheet_.factor * device.resolution() / kTwipsPerPrintedInch;
   const QRectF area(0, 0, page_.PhysicalWidth() * pixelsPerTwip, page_.PhysicalHeight() * pixelsPerTwip);
   PaintDrawing(painter, page_.Drawing(), {area, pixelsPerTwip, Qt::white});
   if (!painter.end() || device.printerState() == QPrinter::Error) return false;
@@ -79,8 +79,8 @@ QPrinter& RealPrinter::Device() {
 }
 
 void RealPrinter::BeginPage() {
-  const QSizeF size = Device().pageLayout().paintRect(QPageLayout::Point).size() * kTwipsPerPoint;
-  page_.SetSize(size.width(), size.height());
+  sheet_ = SheetFor(Device().pageLayout().paintRect(QPageLayout::Point).size() * kTwipsPerPoint);
+  page_.SetSize(sheet_.size.width(), sheet_.size.height());
 }
 
 }  // namespace veldrin

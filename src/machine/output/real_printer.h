@@ -1,6 +1,8 @@
-// The printer, or the PDF file that stands in for one. Its page is a surface of the printable area's size.
+// The printer, or the PDF file that stands in for one. Its page is a surface of the printable area's size, or
+// where the report would not do on that, of the sheet that is scaled to fit into it.
 #pragma once
 
+#include "machine/output/report_sheet.h"
 #include "platform/screen.h"
 
 #include <QPrinter>
@@ -22,7 +24,7 @@ class RealPrinter : public Printer {
   /// The fonts that the program asks for by itself, and then the system's.
   std::vector<std::string> Fonts() const override;
   void SetCopies(int copies) override;
-  /// As large as the printable area of the paper that is set at this moment, when nothing is drawn yet.
+  /// As large as the paper that is set at this moment wants it, when nothing is drawn yet.
   Surface& Page() override;
   /// What cannot be printed is dropped, and `failed` called.
   void EndDocument() override;
@@ -37,6 +39,7 @@ class RealPrinter : public Printer {
   bool PrintPage();
 
   const TextMetrics* metrics_;
+  Sheet sheet_;
   Surface page_;
   std::unique_ptr<QPrinter> device_;
 };

@@ -1,5 +1,7 @@
 #include "machine/painting/fitted_text.h"
 
+#include "machine/painting/fonts.h"
+
 #include <QFontMetricsF>
 #include <QTextLayout>
 
@@ -43,6 +45,12 @@ bool FitsWrapped(const QTextLayout& layout, const QSizeF& room) {
   return Pitch(layout, room.height()) * layout.lineCount() <= room.height() + 0.5;
 }
 
+/// Where the letters of a font stand whose line lies in the middle of a height. Told by the font that was
+/// asked for: characters that come from another one share the line.
+double LineWithin(double height, const QFont& font, QPaintDevice* device) {
+  return (height - LineHeightOf(font, device)) / 2 + AscentOf(font, device);
+}
+
 bool DrawWrapped(QPainter& painter, const QRectF& room, QString text, QFont font, int smallest,
                  Qt::Alignment across) {
   text.replace('\n', QChar::LineSeparator);
@@ -52,9 +60,10 @@ bool DrawWrapped(QPainter& painter, const QRectF& room, QString text, QFont font
     if (font.pixelSize() > smallest && !FitsWrapped(layout, room.size())) continue;
     const double pitch = Pitch(layout, room.height());
     const double top = std::max(0.0, (room.height() - pitch * layout.lineCount()) / 2);
+    const double first = top + LineWithin(pitch, font, painter.device());
     for (int i = 0; i < layout.lineCount(); ++i) {
       QTextLine line = layout.lineAt(i);
-      line.setPosition(QPointF(0, top + pitch * i + (pitch - line.height()) / 2));
+      line.setPosition(QPointF(0, first + pitch * i - line.ascent()));
     }
     layout.draw(&painter, room.topLeft());
     return FitsWrapped(layout, room.size());
@@ -86,8 +95,9 @@ bool IsPath(const QString& text) {
   return text.contains('/') || text.contains('\\');
 }
 
-bool DrawOneLine(QPainter& painter, const QRectF& room, const QString& text, const QFont& asked, int smallest,
+bool DrawOneLine(QPainter& painter, const QRectF& room, QString text, const QFont& asked, int smallest,
                  Qt::Alignment across) {
+  text.replace('\n', ' ');
   const QFont font = FontForOneLine(asked, room.size(), text, smallest);
   painter.setFont(font);
   const QFontMetricsF metrics(font, painter.device());
@@ -98,12 +108,12 @@ bool DrawOneLine(QPainter& painter, const QRectF& room, const QString& text, con
   // The font's lines stand in the middle, so that texts beside each other share theirs; in a tight room the
   // text moves as far as keeps it whole.
   const QRectF ink = metrics.tightBoundingRect(shown);
-  const double line = room.top() + (room.height() - metrics.height()) / 2 + metrics.ascent();
+  const double line = room.top() + LineWithin(room.height(), font, painter.device());
   const double lowest = room.bottom() - ink.bottom();
   const double highest = room.top() - ink.top();
-  const double above = std::max(highest, std::min(line, lowest)) - metrics.ascent();
-  painter.drawText(QRectF(room.left(), above, room.width(), metrics.height()),
-                   across | Qt::AlignTop | Qt::TextSingleLine | Qt::TextDontClip, shown);
+  const double left = room.width() - metrics.horizontalAdvance(shown);  // room that is left over
+  const double before = across == Qt::AlignRight ? left : across == Qt::AlignHCenter ? left / 2 : 0;
+  painter.drawText(QPointF(room.left() + before, std::max(highest, std::min(line, lowest))), shown);
   return shown == text;
 }
 

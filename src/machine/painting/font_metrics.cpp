@@ -14,9 +14,9 @@ constexpr double kTwipsPerFinePixel = kTwipsPerInch / (kPixelsPerInch * kFine);
 }  // namespace
 
 TextSize FontMetrics::Measure(const Font& font, const std::string& text) const {
-  const QFontMetricsF metrics(FontFor(font, kPixelsPerInch * kFine));
-  const QString line = QString::fromStdString(text);
-  return {metrics.horizontalAdvance(line) * kTwipsPerFinePixel, metrics.height() * kTwipsPerFinePixel};
+  const QFont found = FontFor(font, kPixelsPerInch * kFine);
+  const double width = QFontMetricsF(found).horizontalAdvance(QString::fromStdString(text));
+  return {width * kTwipsPerFinePixel, LineHeightOf(found) * kTwipsPerFinePixel};
 }
 
 }  // namespace veldrin

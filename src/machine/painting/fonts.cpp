@@ -1,6 +1,8 @@
 #include "machine/painting/fonts.h"
 
+#include <QFontMetricsF>
 #include <QStringList>
+#include <QStringView>
 
 #include <algorithm>
 #include <cmath>
@@ -10,18 +12,28 @@ namespace veldrin {
 namespace {
 
 constexpr int kPointsPerInch = 72;
+constexpr double kCellAscent = 220.0 / 256;  // of the Japanese fonts, in heights of their cell
+
+constexpr QStringView kGothic(u"ＭＳ ゴシック");
+constexpr QStringView kProportionalGothic(u"ＭＳ Ｐゴシック");
+
+/// Whether one of the Japanese fonts was asked for, whatever was found.
+bool IsJapanese(const QFont& font) {
+  const QString asked = font.families().value(0);
+  return asked == kGothic || asked == kProportionalGothic;
+}
 
 /// The families to look for, the wanted one first. A Japanese one stands in every list: without it the
 /// system may take Chinese forms of the characters.
 QStringList Families(const std::string& name) {
   const QString wanted = QString::fromStdString(name);
   const QStringList proportional = {"Noto Sans CJK JP", "IPAPGothic", "VL PGothic", "TakaoPGothic"};
-  if (wanted == QStringLiteral("ＭＳ ゴシック")) {
+  if (wanted == kGothic) {
     return QStringList{wanted,      "MS Gothic", "Noto Sans Mono CJK JP",
                        "IPAGothic", "VL Gothic", "TakaoGothic"} +
            proportional;
   }
-  if (wanted == QStringLiteral("ＭＳ Ｐゴシック")) return QStringList{wanted, "MS PGothic"} + proportional;
+  if (wanted == kProportionalGothic) return QStringList{wanted, "MS PGothic"} + proportional;
   return QStringList{wanted, "Liberation Sans", "Arimo"} + proportional;
 }
 
@@ -35,6 +47,14 @@ QFont FontFor(const Font& font, double pixelsPerInch) {
   found.setBold(font.bold);
   found.setItalic(font.italic);
   return found;
+}
+
+double AscentOf(const QFont& font, QPaintDevice* device) {
+  return IsJapanese(font) ? font.pixelSize() * kCellAscent : QFontMetricsF(font, device).ascent();
+}
+
+double LineHeightOf(const QFont& font, QPaintDevice* device) {
+  return IsJapanese(font) ? font.pixelSize() : QFontMetricsF(font, device).height();
 }
 
 QFont FontFor(const PlacedControl& control, double zoom) {

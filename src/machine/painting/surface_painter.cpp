@@ -2,7 +2,6 @@
 
 #include "machine/painting/fonts.h"
 
-#include <QFontMetricsF>
 #include <QImage>
 #include <QPen>
 
@@ -34,9 +33,8 @@ class PrimitivePainter {
   void operator()(const TextPrimitive& text) const {
     painter_->setFont(FontFor(text.font, place_->pixelsPerTwip * kTwipsPerInch));
     painter_->setPen(ToQColor(text.colour));
-    const QFontMetricsF metrics(painter_->font(), painter_->device());
-    const QPointF corner = Point(text.x, text.y);
-    painter_->drawText(QPointF(corner.x(), corner.y() + metrics.ascent()), QString::fromStdString(text.text));
+    const double ascent = AscentOf(painter_->font(), painter_->device());
+    painter_->drawText(Point(text.x, text.y) + QPointF(0, ascent), QString::fromStdString(text.text));
   }
 
   void operator()(const FillPrimitive& fill) const {

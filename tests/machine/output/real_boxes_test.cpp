@@ -7,6 +7,8 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -128,6 +130,26 @@ TEST_F(RealBoxesTest, ThePrinterDialogTellsCancelAndCopies) {
   const PrintChoice choice = boxes.ChoosePrinter();
   EXPECT_EQ(choice.error, 0);
   EXPECT_EQ(choice.copies, 2);
+}
+
+TEST_F(RealBoxesTest, ThePrinterDialogOffersNeitherPagesNorASelection) {
+  printer.Device().setOutputFormat(QPrinter::PdfFormat);
+  WhenShown<QPrintDialog>([&](QPrintDialog& dialog) {
+    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+      if (button->isCheckable() || button->text().contains("Options")) button->click();
+    }
+    QCoreApplication::processEvents();
+    const auto copies = dialog.findChildren<QSpinBox*>("copies");
+    ASSERT_EQ(copies.size(), 1);
+    EXPECT_TRUE(copies.front()->isVisible()) << "the page of options is not open";
+    int choices = 0;
+    for (const QRadioButton* choice : dialog.findChildren<QRadioButton*>()) {
+      choices += choice->isVisible() ? 1 : 0;
+    }
+    EXPECT_EQ(choices, 0);
+    dialog.reject();
+  });
+  boxes.ChoosePrinter();
 }
 
 }  // namespace

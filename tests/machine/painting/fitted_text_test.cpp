@@ -1,5 +1,7 @@
 #include "machine/painting/fitted_text.h"
 
+#include "machine/painting/fonts.h"
+
 #include <QImage>
 #include <gtest/gtest.h>
 
@@ -108,6 +110,25 @@ TEST(FittedText, TwoJapaneseLinesKeepTheirSizeInARoomForTwo) {
   const QRect ink = InkOf(text, room, font);
   EXPECT_TRUE(QRect(QPoint(0, 0), room).contains(ink));
   EXPECT_LT(ink.width(), 6 * 18 + 9) << "the second half begins on the first line";
+}
+
+TEST(FittedText, JapaneseLettersStandInTheMiddleWhateverFontTheyComeFrom) {
+  const QSize room(200, 40);
+  for (const char* name : {"Arial", "ＭＳ ゴシック", "ＭＳ Ｐゴシック"}) {
+    const QFont font = FontFor({name, 15, false, false}, 96);  // 20 pixels
+    const QRect ink = InkOf(QString::fromUtf8("国"), room, font);
+    EXPECT_NEAR(ink.top() + ink.bottom() + 1, room.height(), 3) << name;
+  }
+}
+
+TEST(FittedText, TextsStandToTheLeftInTheMiddleOrToTheRight) {
+  const QSize room(200, 40);
+  const QRect left = InkOf("HHH", room, Arial(20), Qt::AlignLeft);
+  const QRect middle = InkOf("HHH", room, Arial(20), Qt::AlignHCenter);
+  const QRect right = InkOf("HHH", room, Arial(20), Qt::AlignRight);
+  EXPECT_LE(left.left(), 4);
+  EXPECT_NEAR(middle.left() + middle.right() + 1, room.width(), 4);
+  EXPECT_GE(right.right(), room.width() - 5);
 }
 
 TEST(FittedText, ARoomForOneLineDoesNotWrap) {

@@ -5,6 +5,9 @@
 #include <QImage>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+
 namespace veldrin {
 namespace {
 
@@ -101,6 +104,42 @@ TEST_F(SurfacePainterTest, NothingIsPaintedBesideTheArea) {
   for (int x = kSize / 2; x < image.width(); ++x) {
     for (int y = 0; y < image.height(); ++y) ASSERT_EQ(image.pixelColor(x, y), QColor(Qt::white));
   }
+}
+
+/// The rows of the first and the last black pixel.
+std::pair<int, int> Rows(const QImage& image) {
+  int first = image.height();
+  int last = -1;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (qGray(image.pixel(x, y)) > 64) continue;
+      first = std::min(first, y);
+      last = y;
+    }
+  }
+  return {first, last};
+}
+
+TEST_F(SurfacePainterTest, JapaneseTextsStandInTheirCellWhateverFontStandsIn) {
+  constexpr int kCell = 40;  // pixels: 30 points
+  for (const char* font : {"ＭＳ ゴシック", "ＭＳ Ｐゴシック"}) {
+    surface.Clear();
+    surface.font = {font, 30, false, false};
+    surface.Print(150, 300, "国");  // fills its cell but for a thin edge
+    const auto [first, last] = Rows(Painted());
+    EXPECT_GE(first, 20) << font;
+    EXPECT_LE(first, 20 + kCell / 8) << font;
+    EXPECT_LT(last, 20 + kCell) << font;
+    EXPECT_GE(last, 20 + kCell - kCell / 8) << font;
+  }
+}
+
+TEST_F(SurfacePainterTest, CapitalsOfOtherFontsStandBelowTheirTop) {
+  surface.font = {"Arial", 30, false, false};
+  surface.Print(150, 300, "E");
+  const auto [first, last] = Rows(Painted());
+  EXPECT_GT(first, 20);
+  EXPECT_LT(last, 20 + 40);
 }
 
 }  // namespace
