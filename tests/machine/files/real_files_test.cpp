@@ -1,6 +1,5 @@
 #include "machine/files/real_files.h"
 
-#include "machine/files/real_code_pages.h"
 #include "platform/system_code_pages.h"
 #include "runtime/fault.h"
 #include "tests/desktop/child_process.h"

@@ -1,6 +1,5 @@
 #include "machine/output/real_pictures.h"
 
-#include "machine/files/real_code_pages.h"
 #include "platform/system_code_pages.h"
 #include "runtime/fault.h"
 

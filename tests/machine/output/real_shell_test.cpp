@@ -1,6 +1,5 @@
 #include "machine/output/real_shell.h"
 
-#include "machine/files/real_code_pages.h"
 #include "machine/files/real_files.h"
 #include "platform/system_code_pages.h"
 #include "runtime/fault.h"

@@ -1,6 +1,5 @@
 #include "machine/output/real_sound.h"
 
-#include "machine/files/real_code_pages.h"
 #include "machine/files/real_files.h"
 #include "platform/system_code_pages.h"
 #include "tests/desktop/scratch_folder.h"
