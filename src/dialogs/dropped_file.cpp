@@ -7,6 +7,7 @@
 #include "runtime/text.h"
 #include "view/user_input.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/kept_machine.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 #include "workspace/working_files.h"
@@ -118,6 +119,7 @@ bool OpenDroppedFile(Program& program, const std::string& path) {
   SaveHistory(program);  // that of the machine that may be left
   if (!drop.listFirst.empty()) Open(program, drop.listFirst);
   Open(program, path);
+  SettleMachine(program);
   workspace.CallerWord = caller::kUser;
   // Nothing has come in the place of the changes: what was read would have left another word.
   if (discards && workspace.DataChanged == dirty::kNo) workspace.DataChanged = dirty::kYes;

@@ -12,6 +12,7 @@
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
 #include "workspace/failure_texts.h"
+#include "workspace/kept_machine.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 #include "workspace/working_files.h"
@@ -45,9 +46,13 @@ void Form3_Activate(Program& program) {
   program.form3.Dir1.Refresh();
 }
 
+/// The chooser hides when another window, or another program, becomes active. What hides it from inside looks
+/// after the machine by itself.
 void Form3_Deactivate(Program& program) {
+  const bool leftByUser = program.form3.Visible;
   program.form3.Command1.Caption = "O K";
   program.form3.Hide();
+  if (leftByUser) SettleMachine(program);
 }
 
 /// The close box is CANCEL: the window lives as long as the program, which only its main window ends.
@@ -95,6 +100,7 @@ void DeleteFile(Program& program) {
 
 void LoadList(Program& program) {
   Workspace& workspace = program.workspace;
+  KeepMachine(program);
   workspace.ListPath = workspace.TempDir;
   workspace.CallerWord = caller::kForm3;
   program.form3.Command1.Enabled = false;
@@ -105,8 +111,10 @@ void LoadList(Program& program) {
 }
 
 /// A list file was picked for a plan, and the user has confirmed the change of machine: the file is still
-/// open, behind its tag.
+/// open, behind its tag. The history of the machine that leaves is stored, as before any other list.
 void ReadConfirmedList(Program& program) {
+  KeepMachine(program);
+  SaveHistory(program);
   ClearMachine(program.workspace);
   ReadMachineList(program);
   program.chooser.waitingList.clear();
@@ -149,11 +157,7 @@ bool HasChoice(const Program& program, ChooserRole role) {
   return true;
 }
 
-/// OK. The folder chosen is kept in the variable of the temporary folder, which who needs that reads anew.
-void Command1_Click(Program& program) {
-  program.workspace.TempDir = TrimRoot(program.machine.files.Rules(), program.form3.File1.Path);
-  const ChooserRole role = RoleOfChooser(program);
-  if (!HasChoice(program, role)) return;
+void RunRole(Program& program, ChooserRole role) {
   switch (role) {
     case ChooserRole::LoadList:
       return LoadList(program);
@@ -172,6 +176,15 @@ void Command1_Click(Program& program) {
   }
 }
 
+/// OK. The folder chosen is kept in the variable of the temporary folder, which who needs that reads anew.
+void Command1_Click(Program& program) {
+  program.workspace.TempDir = TrimRoot(program.machine.files.Rules(), program.form3.File1.Path);
+  const ChooserRole role = RoleOfChooser(program);
+  if (!HasChoice(program, role)) return;
+  RunRole(program, role);
+  if (!program.form3.Visible) SettleMachine(program);
+}
+
 /// The user has backed out of "Save and Load" or "Not save. Load": the plan counts as unsaved again.
 void CancelPendingLoad(Program& program) {
   Workspace& workspace = program.workspace;
@@ -186,6 +199,7 @@ void CancelPendingLoad(Program& program) {
 void Command2_Click(Program& program) {
   Workspace& workspace = program.workspace;
   Form3& form3 = program.form3;
+  SettleMachine(program);
   const ChooserRole role = RoleOfChooser(program);
   if (role == ChooserRole::LoadData) {
     form3.Label4.Visible = false;

@@ -5,6 +5,7 @@
 #include "view/bind.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/history_reopen.h"
+#include "workspace/kept_machine.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 #include "workspace/settings.h"
@@ -102,6 +103,7 @@ void StartWithFile(Program& program, bool machineLoaded) {
   workspace.CallerWord = caller::kForm1;
   OpenAnyFile(program, std::string(workspace.CommandFile));
   if (machineLoaded && workspace.ResultWord == result::kNotGood) {
+    SettleMachine(program);  // a list that was refused has overwritten the default one
     HandOverToMainWindow(program);
     ShowChooserAtStart(program, SetUpDataChooser);
   } else if (!machineLoaded && workspace.ResultWord == result::kOk) {
@@ -117,6 +119,8 @@ void StartWithFile(Program& program, bool machineLoaded) {
 void FirstTick(Program& program) {
   program.form2.LoadWindow();
   program.form3.LoadWindow();
+  // Kept: a default list that was refused leaves what was read of it, its name included, and counts as loaded.
+  ForgetKeptMachine(program);
   const bool machineLoaded = !program.workspace.MachineKey.empty();
   if (program.workspace.CommandFile.empty()) {
     StartWithoutFile(program, machineLoaded);
@@ -138,7 +142,9 @@ void SecondTick(Program& program) {
   } else if (word == result::kAnother) {
     const PathRules rules = program.machine.files.Rules();
     OpenAnyFile(program, JoinPath(rules, workspace.ListPath, workspace.MachineName + ".RAT"));
+    SettleMachine(program);  // without its list the plan meets the default machine again
     OpenAnyFile(program, file);
+    SettleMachine(program);
     HandOverToMainWindow(program);
   } else if (word == result::kOk) {
     HandOverToMainWindow(program);

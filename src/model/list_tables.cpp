@@ -141,6 +141,7 @@ void ClearMachine(Workspace& workspace) {
   workspace.FinalDrivenList.Clear();
   workspace.FinalDriveList.Clear();
   workspace.MachineKey.clear();
+  workspace.LoadedMachine.clear();
 }
 
 }  // namespace veldrin

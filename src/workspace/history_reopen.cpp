@@ -3,6 +3,7 @@
 #include "platform/paths.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
+#include "workspace/kept_machine.h"
 #include "workspace/language.h"
 #include "workspace/machine_list.h"
 
@@ -88,6 +89,7 @@ void ReopenFromHistory(Program& program, int index) {
   const std::string path = program.form2.menu_files[index].Caption;
   if (workspace.DataChanged != dirty::kYes || workspace.QuickQuit == kYesWord) {
     OpenEntry(program, path);
+    SettleMachine(program);
   } else {
     AskForChanges(program, index);
   }

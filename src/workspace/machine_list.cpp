@@ -7,6 +7,7 @@
 #include "workspace/decision_panel.h"
 #include "workspace/failure_texts.h"
 #include "workspace/history_menu.h"
+#include "workspace/kept_machine.h"
 #include "workspace/language.h"
 #include "workspace/plan_file.h"
 #include "workspace/settings.h"
@@ -86,6 +87,7 @@ void OpenPlanFile(Program& program, const std::string& path, const std::string& 
   Workspace& workspace = program.workspace;
   workspace.OpenFile = path;
   const std::string name = MachineOfPlan(tag);
+  if (workspace.LoadedMachine.empty()) KeepMachine(program);
   if (workspace.MachineKey.empty()) {
     workspace.MachineName = UpperCase(name);
     workspace.MachineKey = LowerCase(workspace.MachineName);
@@ -96,6 +98,8 @@ void OpenPlanFile(Program& program, const std::string& path, const std::string& 
     workspace.MachineName = name;
     workspace.ResultWord = result::kAnother;
   } else {
+    // A plan of another machine may have been tried before this one.
+    if (!workspace.LoadedMachine.empty()) workspace.MachineName = workspace.LoadedMachine;
     AddToHistory(program, path);
     workspace.DataPath = FolderOf(program.machine.files.Rules(), path);
     ReadPlanFile(program);
@@ -175,6 +179,8 @@ void OpenAnyFile(Program& program, const std::string& path) {
 void ReadMachineList(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
+  KeepMachine(program);
+  workspace.LoadedMachine.clear();
   workspace.ResultWord = result::kOk;
   program.form3.Command3.Visible = false;
   workspace.DataChanged = dirty::kNo;
@@ -195,6 +201,8 @@ void ReadMachineList(Program& program) {
     return;
   }
 
+  ForgetKeptMachine(program);
+  workspace.LoadedMachine = workspace.MachineName;
   ShowConditions(program);
   Guarded([&] { program.hooks.UpdateExtensionMenu(); });
   Guarded([&] { LoadHistory(program); });

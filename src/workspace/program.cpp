@@ -1,5 +1,7 @@
 #include "workspace/program.h"
 
+#include "workspace/kept_machine.h"
+
 namespace veldrin {
 
 Program::Program(Machine& theMachine) : machine(theMachine), files(theMachine.files), desk(theMachine) {}

@@ -17,6 +17,7 @@
 #include "workspace/file_handles.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace veldrin {
@@ -56,6 +57,8 @@ struct Hooks {
   Hook OpenDeleteChooser;
 };
 
+struct KeptMachine;
+
 struct Program {
   explicit Program(Machine& theMachine);
   ~Program();
@@ -68,6 +71,8 @@ struct Program {
   ChooserState chooser;
   SettingsDialogState settingsDialog;
   DecisionPanelState decisionPanel;
+  /// What stood before another machine was tried; null while none is.
+  std::unique_ptr<KeptMachine> kept;
   Hooks hooks;
 
   /// How the program ended: not at all, at its own word (fault 0), or by a fault.

@@ -4,6 +4,7 @@
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "workspace/history_menu.h"
+#include "workspace/kept_machine.h"
 #include "workspace/settings.h"
 
 #include <algorithm>
@@ -77,6 +78,16 @@ void UnloadLastEntry(Program& program) {
   --program.workspace.HistoryCount;
 }
 
+void StoreEntries(Program& program) {
+  const Workspace& workspace = program.workspace;
+  const std::string key = HistoryKey(workspace);
+  if (workspace.ExtSlot == 0) Store(program, key, kDefaultValue, workspace.LoadedMachine);
+  for (int i = 1; i <= workspace.HistoryCount; ++i) {
+    Store(program, key, std::to_string(i), program.form2.menu_files[i].Caption);
+  }
+  Store(program, key, kCountValue, std::to_string(workspace.HistoryCount));
+}
+
 void StoreWindowPlace(Program& program) {
   Workspace& workspace = program.workspace;
   const Form2& form2 = program.form2;
@@ -133,12 +144,8 @@ void LoadHistory(Program& program) {
 
 void SaveHistory(Program& program) {
   const Workspace& workspace = program.workspace;
-  const std::string key = HistoryKey(workspace);
-  if (workspace.ExtSlot == 0) Store(program, key, kDefaultValue, workspace.MachineName);
-  for (int i = 1; i <= workspace.HistoryCount; ++i) {
-    Store(program, key, std::to_string(i), program.form2.menu_files[i].Caption);
-  }
-  Store(program, key, kCountValue, std::to_string(workspace.HistoryCount));
+  // Tables of no machine have no history, and what the store holds is another one's.
+  if (!workspace.LoadedMachine.empty()) StoreEntries(program);
   StoreWindowPlace(program);
 }
 
@@ -181,6 +188,7 @@ void ClearHistory(Program& program) {
 }
 
 void EndProgram(Program& program) {
+  SettleMachine(program);
   Files& files = program.machine.files;
   const std::string& workFile = program.workspace.WorkFile;
   if (files.FileExists(workFile)) Guarded([&] { files.Delete(workFile); });

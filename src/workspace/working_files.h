@@ -27,9 +27,9 @@ int ChooseWorkFile(Program& program);
 /// Kept: a stored history longer than `HistoryMax` is loaded whole.
 void LoadHistory(Program& program);
 
-/// Stores the history of the loaded machine and the main window's place. Failing writes go unnoticed, and a
-/// place that 16 bits do not hold is not taken. Raises nothing.
-/// Kept: values of entries beyond the stored count are left behind.
+/// Stores the history of the loaded machine, where one is whole, and the main window's place. Failing writes
+/// go unnoticed, and a place that 16 bits do not hold is not taken. Raises nothing. Kept: values of entries
+/// beyond the stored count are left behind.
 void SaveHistory(Program& program);
 
 /// Makes `path` the newest entry; one that is there already, the case of letters aside, moves up. The oldest
@@ -45,8 +45,8 @@ bool RemoveFromHistory(Program& program, const std::string& path);
 /// Empties the history menu. The store keeps its values until the next SaveHistory. Raises nothing.
 void ClearHistory(Program& program);
 
-/// Deletes the working file, saves the history if no other instance has one left, and ends the program:
-/// always throws EndOfProgram.
+/// Settles which machine is loaded, deletes the working file, saves the history if no other instance has one
+/// left, and ends the program: always throws EndOfProgram.
 [[noreturn]] void EndProgram(Program& program);
 
 }  // namespace veldrin
