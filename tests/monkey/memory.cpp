@@ -1,0 +1,51 @@
+#include "tests/monkey/memory.h"
+
+namespace veldrin::monkey {
+
+bool IsRequestMode(const std::string& mode) {
+  return mode == mode::kSpeed || mode == mode::kRpm;
+}
+
+bool NamesChooser(const std::string& mode) {
+  return mode == mode::kList || mode == mode::kData || mode == mode::kQuickRatio || mode == mode::kReference;
+}
+
+void Memory::Learn(const Program& program, const Deed& deed, bool blocked, const Moment& before,
+                   const Moment& now) {
+  const std::string modeBefore = mode;
+  if (!NamesChooser(now.mode)) mode = now.mode;
+  const bool isRed = program.form2.Label12[3].BackColor == kRed;
+
+  // A box that is left by speed is drawn; by revolutions, or under a question, only its own keys draw it.
+  const bool inBox = deed.On("Form2", "Text1") && !blocked;
+  const bool left = !now.focus.starts_with("Text1(") && now.mode == mode::kSpeed;
+  if (inBox && (deed.Is("enter") || deed.Is("type") || deed.Is("dblclick"))) {
+    requestTyped = true;
+  } else if (left || (inBox && deed.Is("key")) || !IsRequestMode(mode)) {
+    requestTyped = false;
+  }
+
+  if (modeBefore == mode::kBasing && mode == mode::kChange) firstPlan = true;
+  if (mode == mode::kBasing) firstPlan = false;
+
+  const bool leftEntry = IsRequestMode(modeBefore) && !IsRequestMode(mode);
+  const bool enteredIt = !IsRequestMode(modeBefore) && IsRequestMode(mode);
+  if (enteredIt) entryNotOpened = deed.On("Form4", "Command2");
+  if (leftEntry) entryNotOpened = false;
+
+  const bool believed = before.question == 13 && now.question != 13;
+  if (believed && IsRequestMode(mode)) believedInRequests = true;
+  if (!IsRequestMode(mode)) believedInRequests = false;
+
+  if (leftEntry && isRed) redThroughRequests = true;
+  if (!isRed || before.rows != now.rows) redThroughRequests = false;
+
+  if (modeBefore == mode::kReferenceInForce && mode == mode::kChange) takenFromReference = true;
+  if (program.form2.loaded && program.form2.Command7.Enabled) takenFromReference = false;
+  if (before.dataChanged != now.dataChanged && now.dataChanged == dirty::kOne) takenFromReference = false;
+
+  if (deed.Is("close") && deed.window == "Form4" && !blocked) dialogClosed = true;
+  if (modeBefore != mode) dialogClosed = false;
+}
+
+}  // namespace veldrin::monkey

@@ -1,0 +1,15 @@
+#include "tests/monkey/oracle.h"
+
+namespace veldrin::monkey {
+
+Oracle MakeOracle() {
+  Oracle oracle;
+  for (const auto make : {EndsAreStated, SpeedsAreThoseOfTheParts, ColoursTellPairsAndSteps,
+                          ChartShowsTheMode, ControlsAnswer, QuestionsCanBeAnswered, WordsComeToRest,
+                          TitleTellsOfChanges, SavedPlansOpenAgain, HistoryBelongsToItsMachine}) {
+    oracle.push_back(make());
+  }
+  return oracle;
+}
+
+}  // namespace veldrin::monkey
