@@ -2,15 +2,15 @@
 // touch what they do not see.
 #pragma once
 
-#include "script/script_world.h"
 #include "tests/monkey/script_text.h"
+#include "workspace/program.h"
 
 namespace veldrin::monkey {
 
 /// Once opened, the panel of the requests stays behind that of the plan.
 bool IsCovered(const Control& control);
 
-/// Whether the line is about such a control. The program has to run.
-bool IsAboutCovered(ScriptWorld& world, const Deed& deed);
+/// Whether the line is about such a control.
+bool IsAboutCovered(const Program& program, const Deed& deed);
 
 }  // namespace veldrin::monkey

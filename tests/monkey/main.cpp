@@ -1,8 +1,10 @@
-// monkey [--sequences N] [--seed S] [--sequence K] [--shrink]: random users over all windows, judged by an
-// oracle behind every action. A sequence that fails prints its numbers and itself as a script for
-// veldrin-script;
-// --sequence K repeats that one alone, and --shrink makes it as short as it goes. "monkey FILE" walks the
-// lines of a script under the oracle. The exit status is 1 when something was found.
+// monkey [--sequences N] [--seed S]: random users over all windows, judged by an oracle behind every action.
+// A sequence that fails prints its numbers and itself as a script for veldrin-script. The exit status is 1
+// when something was found, and when a long run never came to a place that it has to judge.
+//
+//   --sequence K  that one alone, told whatever it comes to     --most N  goes on up to N findings
+//   --shrink      what fails, as short as it goes               --tally   tells where the users have been
+//   FILE          the lines of a script under the oracle; no comments, no blocks of lines
 #include "tests/monkey/random_user.h"
 #include "tests/monkey/shrink.h"
 
@@ -10,18 +12,23 @@
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
-#include <map>
 
 namespace veldrin::monkey {
 namespace {
 
+/// A run of this length comes everywhere.
+constexpr std::uint64_t kLongRun = 2000;
+
 struct Orders {
-  std::uint64_t sequences = 2000;
+  std::uint64_t sequences = kLongRun;
   std::uint64_t seed = 1;
+  /// One sequence alone, which is told whatever it comes to.
   std::optional<std::uint64_t> only;
-  bool shrink = false;
   /// How many findings are told before the run stops.
   std::uint64_t most = 1;
+  bool shrink = false;
+  /// Tells where the users have been.
+  bool tally = false;
   std::string file;
 };
 
@@ -40,6 +47,8 @@ std::optional<Orders> ReadOrders(int count, char** arguments) {
       orders.most = number();
     } else if (word == "--shrink") {
       orders.shrink = true;
+    } else if (word == "--tally") {
+      orders.tally = true;
     } else if (word.starts_with("--")) {
       return std::nullopt;
     } else {
@@ -49,17 +58,12 @@ std::optional<Orders> ReadOrders(int count, char** arguments) {
   return orders;
 }
 
+/// Prints the outcome as a script, with what was found.
 void Tell(const Outcome& outcome, const std::string& where) {
-  std::cout << "# " << where << "\n# " << outcome.finding->rule << ": " << outcome.finding->text << "\n";
+  std::cout << "# " << where << "\n";
+  if (outcome.finding) std::cout << "# " << outcome.finding->rule << ": " << outcome.finding->text << "\n";
   for (const std::string& line : outcome.lines) std::cout << line << "\n";
   std::cout << std::endl;
-}
-
-/// Tells the outcome where something was found.
-bool Judge(const Outcome& outcome, const Orders& orders, const std::string& where) {
-  if (!outcome.finding) return true;
-  Tell(orders.shrink ? Shrink(outcome) : outcome, where);
-  return false;
 }
 
 std::vector<std::string> ReadLines(const std::string& file) {
@@ -71,21 +75,55 @@ std::vector<std::string> ReadLines(const std::string& file) {
   return lines;
 }
 
-int Run(const Orders& orders) {
-  if (!orders.file.empty()) return Judge(Walk(Lines(ReadLines(orders.file))), orders, orders.file) ? 0 : 1;
+/// What the run came to.
+class Run {
+ public:
+  explicit Run(const Orders& orders) : orders_(orders) {}
+
+  void Judge(const Outcome& outcome, const std::string& where) {
+    ++sequences_;
+    for (const auto& [name, times] : outcome.landmarks) landmarks_[name] += times;
+    if (outcome.finding) ++found_;
+    if (outcome.finding || orders_.only) Tell(orders_.shrink ? Shrink(outcome) : outcome, where);
+  }
+
+  bool IsOver() const { return found_ >= orders_.most; }
+
+  /// Gives the exit status.
+  int Conclude() const {
+    std::uint64_t missed = 0;
+    for (const std::string& name : Missing(landmarks_)) {
+      if (sequences_ < kLongRun) break;
+      std::cout << "never came to: " << name << "\n";
+      ++missed;
+    }
+    if (orders_.tally) {
+      for (const auto& [name, times] : landmarks_) std::cout << times << "\t" << name << "\n";
+    }
+    std::cout << sequences_ << " sequences, " << found_ << " findings\n";
+    return found_ == 0 && missed == 0 ? 0 : 1;
+  }
+
+ private:
+  const Orders& orders_;
+  Landmarks landmarks_;
+  std::uint64_t sequences_ = 0;
+  std::uint64_t found_ = 0;
+};
+
+int Walks(const Orders& orders) {
+  Run run(orders);
+  if (!orders.file.empty()) {
+    run.Judge(Walk(Lines(ReadLines(orders.file))), orders.file);
+    return run.Conclude();
+  }
   const std::uint64_t first = orders.only.value_or(0);
   const std::uint64_t end = orders.only ? first + 1 : orders.sequences;
-  std::uint64_t found = 0;
-  std::uint64_t lines = 0;
-  for (std::uint64_t sequence = first; sequence < end && found < orders.most; ++sequence) {
-    const Outcome outcome = Walk(RandomUser(orders.seed, sequence));
-    lines += outcome.lines.size();
-    const std::string where =
-        "--seed " + std::to_string(orders.seed) + " --sequence " + std::to_string(sequence);
-    if (!Judge(outcome, orders, where)) ++found;
+  for (std::uint64_t sequence = first; sequence < end && !run.IsOver(); ++sequence) {
+    run.Judge(Walk(RandomUser(orders.seed, sequence)),
+              "--seed " + std::to_string(orders.seed) + " --sequence " + std::to_string(sequence));
   }
-  std::cout << end - first << " sequences, " << lines << " lines, " << found << " findings\n";
-  return found == 0 ? 0 : 1;
+  return run.Conclude();
 }
 
 }  // namespace
@@ -93,7 +131,7 @@ int Run(const Orders& orders) {
 
 int main(int count, char** arguments) {
   const auto orders = veldrin::monkey::ReadOrders(count, arguments);
-  if (orders) return veldrin::monkey::Run(*orders);
-  std::cerr << "usage: monkey [--sequences N] [--seed S] [--sequence K] [--shrink] [FILE]\n";
+  if (orders) return veldrin::monkey::Walks(*orders);
+  std::cerr << "usage: monkey [--sequences N] [--seed S] [--sequence K] [--shrink] [--tally] [FILE]\n";
   return 2;
 }

@@ -13,7 +13,10 @@ bool NamesChooser(const std::string& mode) {
 void Memory::Learn(const Program& program, const Deed& deed, bool blocked, const Moment& before,
                    const Moment& now) {
   const std::string modeBefore = mode;
+  // Under a question Restore brings back the plan and leaves the word to the question.
+  const bool restored = (deed.On("Form2", "Command7") || deed.On("Form2", "f_rest")) && !blocked;
   if (!NamesChooser(now.mode)) mode = now.mode;
+  if (NamesChooser(now.mode) && restored) mode = mode::kChange;
   const bool isRed = program.form2.Label12[3].BackColor == kRed;
 
   // A box that is left by speed is drawn; by revolutions, or under a question, only its own keys draw it.

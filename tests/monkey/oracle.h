@@ -29,6 +29,9 @@ struct Look {
   const Memory& memory;
 };
 
+/// Whether OK has just written a plan in the chooser's Save role, and so left the role.
+bool WasSaved(const Look& look);
+
 /// What does not hold.
 struct Finding {
   /// The rule's name.

@@ -1,7 +1,9 @@
 // No control stays dead, and none answers where it must not: what is enabled belongs to the mode alone as
 // soon as no question stands, no search runs and the chooser is left.
 #include "tests/monkey/oracle.h"
-#include "workspace/control_states.h"
+
+#include <map>
+#include <string_view>
 
 namespace veldrin::monkey {
 
@@ -60,10 +62,7 @@ class ControlRule : public Rule {
                         !program.workspace.MachineKey.empty() && !look.memory.entryNotOpened;
     const int column = ColumnOf(look.now.mode);
     if (!atRest || column < 0) return "";
-    std::string wrong;
-    for (const Row& row : kRows) {
-      if (wrong.empty()) wrong = JudgeRow(look, row, static_cast<Answers>(row.answers[column]));
-    }
+    std::string wrong = JudgeAnswers(look, column);
     if (wrong.empty()) wrong = JudgePointer(look, column);
     if (wrong.empty() && column > 0) wrong = JudgePanels(program);
     if (wrong.empty()) wrong = JudgeRestore(look);
@@ -73,12 +72,19 @@ class ControlRule : public Rule {
  private:
   static bool IsRed(const Program& program) { return program.form2.Label12[3].BackColor == kRed; }
 
-  static std::string JudgeRow(const Look& look, const Row& row, Answers answers) {
-    const std::string name = row.control;
+  static std::string JudgeAnswers(const Look& look, int column) {
+    static const std::map<std::string_view, const char*> kAnswers = [] {
+      std::map<std::string_view, const char*> answers;
+      for (const Row& row : kRows) answers[row.control] = row.answers;
+      return answers;
+    }();
     for (const Control* control : look.program.form2.controls) {
-      const bool isHead = control->index == 0 && (name == "Label12" || name == "menu_files");
-      if (control->name != name || isHead) continue;
-      const std::string wrong = JudgeControl(look, *control, answers);
+      const auto row = kAnswers.find(control->name);
+      // The heads of columns and of the history are no controls to work with.
+      const bool isHead =
+          control->index == 0 && (control->name == "Label12" || control->name == "menu_files");
+      if (row == kAnswers.end() || isHead) continue;
+      const std::string wrong = JudgeControl(look, *control, static_cast<Answers>(row->second[column]));
       if (!wrong.empty()) return wrong;
     }
     return "";

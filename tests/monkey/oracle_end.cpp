@@ -21,9 +21,7 @@ class EndRule : public Rule {
 
  private:
   static std::string JudgeFault(const Look& look) {
-    for (const StatedFault& stated : StatedFaults()) {
-      if (stated.fault == look.now.endFault && stated.isCase(look)) return "";
-    }
+    if (StatedFaultOf(look) != nullptr) return "";
     return "the program ended by fault " + std::to_string(look.now.endFault);
   }
 

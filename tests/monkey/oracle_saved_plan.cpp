@@ -48,16 +48,6 @@ class SavedPlanRule : public Rule {
   }
 
  private:
-  /// OK in the Save role, which left the role without a word on the prompt line.
-  static bool WasSaved(const Look& look) {
-    const bool inRole =
-        look.before.Running() && look.before.chooserUp && look.before.role == ChooserRole::Save;
-    const bool left = !look.now.chooserUp || look.now.role != ChooserRole::Save || look.now.ended;
-    const bool byOk = look.deed.On("Form3", "Command1") || look.deed.On("Form3", "File1") ||
-                      (look.deed.On("Form3", "Combo1") && look.deed.Is("key"));
-    return inRole && left && byOk && !look.blocked;
-  }
-
   /// The plan and its list, as long as they can be had.
   void Remember(const Look& look) {
     shown_ = PlanOn(look.program);
@@ -133,6 +123,14 @@ class SavedPlanRule : public Rule {
 };
 
 }  // namespace
+
+bool WasSaved(const Look& look) {
+  const bool inRole = look.before.Running() && look.before.chooserUp && look.before.role == ChooserRole::Save;
+  const bool left = !look.now.chooserUp || look.now.role != ChooserRole::Save || look.now.ended;
+  const bool byOk = look.deed.On("Form3", "Command1") || look.deed.On("Form3", "File1") ||
+                    (look.deed.On("Form3", "Combo1") && look.deed.Is("key"));
+  return inRole && left && byOk && !look.blocked;
+}
 
 std::unique_ptr<Rule> SavedPlansOpenAgain() {
   return std::make_unique<SavedPlanRule>();

@@ -36,7 +36,7 @@ class User {
     if (actionsLeft_-- <= 0) return std::nullopt;
     if (now.ended) return StartAgain();
     std::string line = Act(world.Running());
-    while (IsAboutCovered(world, Deed(line))) line = Act(world.Running());
+    while (IsAboutCovered(world.Running(), Deed(line))) line = Act(world.Running());
     return line;
   }
 
@@ -89,7 +89,8 @@ class User {
     if (random_.Chance(4)) return TouchWindow(random_, window);
     std::vector<int> weights;
     for (const Control* control : window.controls) {
-      weights.push_back(user::Reachable(*control) && !IsCovered(*control) ? WeightOf(*control) : 0);
+      const int weight = WeightOf(*control);
+      weights.push_back(weight > 0 && user::Reachable(*control) && !IsCovered(*control) ? weight : 0);
     }
     const int place = random_.Weighted(weights);
     if (place < 0) return TouchWindow(random_, window);

@@ -57,22 +57,20 @@ bool RevolutionsLeaveTheirWidth(const Look& look) {
 
 // ---- Divisions by speeds and revolutions ----
 
-/// A redraw that a window's size or the colours ask for ends nothing.
-bool IsPlainRedraw(const Deed& deed) {
-  return deed.Is("resize") || deed.Is("state") || deed.window == "Form9";
-}
-
+/// The arrows draw the requests at once. Everything else that draws them has brought them to 10 km/h before.
 bool RequestIsZero(const Look& look) {
-  if (IsPlainRedraw(look.deed)) return false;
+  if (!Wrote(look, "SpinButton2")) return false;
   for (int gear = 1; gear <= kGears; ++gear) {
     if (look.program.workspace.SpeedRequest[gear] == 0) return true;
   }
   return false;
 }
 
+/// A redraw that a window's size or the colours ask for ends nothing, nor does anything without a machine.
 bool PlanHasNoSpeed(const Look& look) {
   const Workspace& workspace = look.program.workspace;
-  if (IsPlainRedraw(look.deed)) return false;
+  const bool plainRedraw = look.deed.Is("resize") || look.deed.Is("state") || look.deed.window == "Form9";
+  if (plainRedraw || look.now.machineKey.empty()) return false;
   return workspace.ShiftNe == 0 || workspace.TyreLength == 0 || workspace.PrimaryCount == 0;
 }
 
@@ -163,6 +161,13 @@ const std::vector<StatedFault>& StatedFaults() {
   };
   // clang-format on
   return kFaults;
+}
+
+const StatedFault* StatedFaultOf(const Look& look) {
+  for (const StatedFault& stated : StatedFaults()) {
+    if (look.now.ended && stated.fault == look.now.endFault && stated.isCase(look)) return &stated;
+  }
+  return nullptr;
 }
 
 }  // namespace veldrin::monkey

@@ -18,4 +18,7 @@ struct StatedFault {
 
 const std::vector<StatedFault>& StatedFaults();
 
+/// The case that the program has just ended by; null for no fault, and for one that is no such case.
+const StatedFault* StatedFaultOf(const Look& look);
+
 }  // namespace veldrin::monkey

@@ -61,6 +61,7 @@ class Walker {
     Moment now = MomentOf(program);
     memory_.Learn(program, deed_, world_.blocked, before_, now);
     const Look look{world_, program, deed_, world_.blocked, before_, now, memory_};
+    Note(look, outcome_.landmarks);
     for (const std::unique_ptr<Rule>& rule : oracle_) {
       const std::string text = rule->Judge(look);
       if (text.empty() || outcome_.finding) continue;
@@ -75,7 +76,7 @@ class Walker {
       const Command* const command = FindCommand(deed_.command);
       if (command == nullptr) throw ScriptError{"unknown command " + deed_.command};
       CheckNumberOfWords(*command, deed_.words.size() - 1);
-      if (started_ && !world_.HasEnded() && IsAboutCovered(world_, deed_)) {
+      if (started_ && !world_.HasEnded() && IsAboutCovered(world_.Running(), deed_)) {
         throw ScriptError{deed_.line + ": out of sight"};
       }
       if (deed_.Is("start")) started_ = true;

@@ -2,7 +2,7 @@
 // oracle's look behind each.
 #pragma once
 
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/landmarks.h"
 
 #include <functional>
 #include <optional>
@@ -17,6 +17,7 @@ using LineSource = std::function<std::optional<std::string>(ScriptWorld& world, 
 struct Outcome {
   /// All that was done, a runnable script.
   std::vector<std::string> lines;
+  Landmarks landmarks;
   /// The first thing that did not hold; the sequence stopped there.
   std::optional<Finding> finding;
   /// A line could not be done at all, as an action on a program that has ended.
