@@ -20,8 +20,6 @@ struct Memory {
   /// A search that was begun outside of the request entry was cancelled, which makes the word "SPEED" without
   /// opening the entry.
   bool entryNotOpened = false;
-  /// The stored plan was believed while the request entry was open, which enables the plan's controls there.
-  bool believedInRequests = false;
   /// The request entry was closed with a forbidden pair, which enables saving and printing it.
   bool redThroughRequests = false;
   /// A plan was taken from a quick-ratio or reference search, which leaves Restore's button as it was.

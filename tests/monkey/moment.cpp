@@ -41,7 +41,8 @@ Moment MomentOf(const Program& program) {
     moment.rows[static_cast<std::size_t>(gear + 1)] = workspace.PlanIndex[gear];
   }
   moment.question = QuestionOf(program);
-  moment.chooserUp = program.form3.Visible;
+  // Between two questions the chooser is away for the time of a timer.
+  moment.chooserUp = program.form3.Visible || program.form2.Timer2.Enabled;
   moment.role = RoleOfChooser(program);
   if (program.form3.Label4.Visible) moment.prompt = program.form3.Label4.Caption;
   TakeFocus(program.form2, moment);

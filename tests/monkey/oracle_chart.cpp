@@ -92,7 +92,7 @@ class ChartRule : public Rule {
     const std::string& word = look.memory.mode;
     const bool atRest = !look.now.ended && !look.now.chooserUp && program.form2.loaded &&
                         !program.workspace.MachineKey.empty();
-    if (!atRest || look.memory.entryNotOpened || look.memory.believedInRequests) return "";
+    if (!atRest || look.memory.entryNotOpened) return "";
     if (word == mode::kBasing) return JudgeEmpty(program);
     if (word == mode::kReferenceInForce || word.empty()) return "";
     const std::string wrong = JudgeLegend(program, IsRequestMode(word));

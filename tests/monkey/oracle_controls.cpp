@@ -95,13 +95,8 @@ class ControlRule : public Rule {
            name == "menu_edit";
   }
 
-  static bool IsOfPlan(const std::string& name) {
-    return name == "Command11" || name == "HScroll1" || name == "HScroll2";
-  }
-
   static std::string JudgeControl(const Look& look, const Control& control, Answers answers) {
-    const bool excused = (IsOutput(control.name) && IsOutputExcused(look)) ||
-                         (IsOfPlan(control.name) && look.memory.believedInRequests);
+    const bool excused = IsOutput(control.name) && IsOutputExcused(look);
     if (excused || answers == Answers::Either) return "";
     bool expected = answers == Answers::Yes;
     if (answers == Answers::Output) expected = !IsRed(look.program);
