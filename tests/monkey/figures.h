@@ -2,7 +2,7 @@
 // texts in which numbers are shown. Nothing of this calls the program's own arithmetic.
 #pragma once
 
-#include "workspace/workspace.h"
+#include "model/workspace.h"
 
 #include <array>
 #include <string>

@@ -1,8 +1,8 @@
 #include "tests/monkey/script_text.h"
 
-#include "script/printed_values.h"
 #include "script/script_error.h"
 #include "script/script_names.h"
+#include "simulated/printed_values.h"
 
 namespace veldrin::monkey {
 
