@@ -47,6 +47,10 @@ std::vector<double> RatiosNamed(const Workspace& workspace, bool primary, const 
   return ratios;
 }
 
+bool BeginsInItsLastRow(const Workspace& workspace, int gear) {
+  return workspace.GearRows > 1 && workspace.GearFirstRow[gear] == workspace.GearRows;
+}
+
 std::vector<int> PairsNamed(const Workspace& workspace, int gear, const std::string& text) {
   std::vector<int> rows;
   for (int row = 1; row <= workspace.GearRows && row <= kGearRowLimit; ++row) {
@@ -104,6 +108,13 @@ bool ReadNumber(const Workspace& workspace, const std::string& text, double& num
   char* end = nullptr;
   number = std::strtod(plain.c_str(), &end);
   return end == plain.c_str() + plain.size() && std::isfinite(number);
+}
+
+bool ReadAnyNumber(const Workspace& workspace, const std::string& text, double& number) {
+  std::string own = text;
+  const std::size_t place = own.find(Separator(workspace) == ',' ? '.' : ',');
+  if (place != std::string::npos) own[place] = Separator(workspace);
+  return ReadNumber(workspace, own, number);
 }
 
 }  // namespace veldrin::monkey

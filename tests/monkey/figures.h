@@ -16,6 +16,10 @@ using Speeds = std::array<float, kGears + 1>;
 /// Rows of a table of ratios whose text reads so.
 std::vector<double> RatiosNamed(const Workspace& workspace, bool primary, const std::string& text);
 
+/// Whether the gear's only pair stands in its last row. The first plan then begins in row 1, by its label
+/// with that pair; a step onto the pair leaves the label as it is, and so refreshes nothing.
+bool BeginsInItsLastRow(const Workspace& workspace, int gear);
+
 /// Rows of a gear whose pair reads so.
 std::vector<int> PairsNamed(const Workspace& workspace, int gear, const std::string& text);
 
@@ -34,5 +38,7 @@ std::string DifferenceText(const Workspace& workspace, float difference);
 
 /// The number that a box shows; false where it shows none.
 bool ReadNumber(const Workspace& workspace, const std::string& text, double& number);
+/// The same of a file, where a comma and a point are both the separator.
+bool ReadAnyNumber(const Workspace& workspace, const std::string& text, double& number);
 
 }  // namespace veldrin::monkey

@@ -45,6 +45,7 @@ Moment MomentOf(const Program& program) {
   moment.chooserUp = program.form3.Visible || program.form2.Timer2.Enabled;
   moment.role = RoleOfChooser(program);
   if (program.form3.Label4.Visible) moment.prompt = program.form3.Label4.Caption;
+  moment.chooserFolder = program.form3.File1.Path;
   TakeFocus(program.form2, moment);
   moment.title = program.form2.Caption;
   for (int i = 1; i <= workspace.HistoryCount && program.form2.menu_files.Has(i); ++i) {

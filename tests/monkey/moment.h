@@ -30,6 +30,7 @@ struct Moment {
   ChooserRole role = ChooserRole::None;
   /// The chooser's prompt line; empty while it is hidden.
   std::string prompt;
+  std::string chooserFolder;
 
   /// The main window's focus by its name, and what is written there.
   std::string focus;

@@ -4,9 +4,10 @@ namespace veldrin::monkey {
 
 Oracle MakeOracle() {
   Oracle oracle;
-  for (const auto make : {EndsAreStated, SpeedsAreThoseOfTheParts, ColoursTellPairsAndSteps,
-                          ChartShowsTheMode, ControlsAnswer, QuestionsCanBeAnswered, WordsComeToRest,
-                          TitleTellsOfChanges, SavedPlansOpenAgain, HistoryBelongsToItsMachine}) {
+  for (const auto make :
+       {EndsAreStated, SpeedsAreThoseOfTheParts, ColoursTellPairsAndSteps, PlanDialogShowsItsParts,
+        CompareShowsItsFiles, ChartShowsTheMode, ControlsAnswer, QuestionsCanBeAnswered, WordsComeToRest,
+        TitleTellsOfChanges, SavedPlansOpenAgain, HistoryBelongsToItsMachine}) {
     oracle.push_back(make());
   }
   return oracle;

@@ -51,6 +51,8 @@ using Oracle = std::vector<std::unique_ptr<Rule>>;
 
 std::unique_ptr<Rule> SpeedsAreThoseOfTheParts();
 std::unique_ptr<Rule> ColoursTellPairsAndSteps();
+std::unique_ptr<Rule> PlanDialogShowsItsParts();
+std::unique_ptr<Rule> CompareShowsItsFiles();
 std::unique_ptr<Rule> ChartShowsTheMode();
 std::unique_ptr<Rule> ControlsAnswer();
 std::unique_ptr<Rule> QuestionsCanBeAnswered();

@@ -1,5 +1,6 @@
 // A saved plan opens again as the same plan, in a program of its own on a machine with the same list.
 #include "runtime/text.h"
+#include "tests/monkey/figures.h"
 #include "tests/monkey/oracle.h"
 
 #include <map>
@@ -19,11 +20,26 @@ struct ShownPlan {
   std::string remark;
 };
 
+bool AnyGearBeginsInItsLastRow(const Workspace& workspace) {
+  for (int gear = 1; gear <= kGears; ++gear) {
+    if (BeginsInItsLastRow(workspace, gear)) return true;
+  }
+  return false;
+}
+
+/// A quick-ratio file can be saved before any plan was on show; its pairs are the machine's first ones.
+std::string PairOn(const Program& program, int gear) {
+  const Workspace& workspace = program.workspace;
+  const std::string& shown = program.form2.Label12[gear].Caption;
+  const int row = workspace.PlanIndex[gear];
+  return shown.empty() && row >= 1 && row <= kGearRowLimit ? workspace.GearTable(gear, row) : shown;
+}
+
 ShownPlan PlanOn(const Program& program) {
   const Form2& form2 = program.form2;
   ShownPlan plan{form2.Label6.Caption,         form2.Label8.Caption,      {},
                  program.workspace.TyreLength, program.workspace.ShiftNe, form2.Text6.Text};
-  for (int gear = 1; gear <= kGears; ++gear) plan.pairs.push_back(form2.Label12[gear].Caption);
+  for (int gear = 1; gear <= kGears; ++gear) plan.pairs.push_back(PairOn(program, gear));
   return plan;
 }
 
@@ -63,7 +79,8 @@ class SavedPlanRule : public Rule {
   }
 
   std::string JudgeSaved(const Look& look) {
-    const std::string path = look.program.workspace.TempDir + "\\" + look.program.workspace.SaveName;
+    const std::string& folder = look.before.chooserFolder;
+    const std::string path = folder + (folder.ends_with('\\') ? "" : "\\") + look.program.workspace.SaveName;
     const std::optional<std::string> text = look.world.machine.files.Text(path);
     if (!text) return path + " was saved and is not there";
     const auto list = lists_.find(look.program.workspace.MachineName);
@@ -95,7 +112,10 @@ class SavedPlanRule : public Rule {
     if (second.ended) return "opening the saved plan ends the program";
     const ShownPlan plan = PlanOn(second);
     if (second.workspace.ModeWord != mode::kChange) return "the saved plan does not open";
-    if (second.form2.Picture20.Visible) return "the saved plan opens with a question";
+    // Speeds that no refresh has brought to the pair that was stepped to are doubted.
+    if (second.form2.Picture20.Visible) {
+      return AnyGearBeginsInItsLastRow(second.workspace) ? "" : "the saved plan opens with a question";
+    }
     if (plan.primary != shown_.primary) return Differs("primary", plan.primary, shown_.primary);
     if (plan.final != shown_.final) return Differs("final", plan.final, shown_.final);
     for (std::size_t i = 0; i < plan.pairs.size(); ++i) {

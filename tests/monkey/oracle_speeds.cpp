@@ -67,13 +67,11 @@ class SpeedRule : public Rule {
     return false;
   }
 
-  /// A gear whose only pair stands in its last row begins there by its label and in row 1 by its plan; this
-  /// is how the list is to be read, and so the speed is that of the place in row 1.
+  /// A gear that begins in its last row may still have the speed of row 1.
   static std::vector<int> RowsShown(const Program& program, int gear) {
     const Workspace& workspace = program.workspace;
     std::vector<int> rows = PairsNamed(workspace, gear, program.form2.Label12[gear].Caption);
-    const bool onlyInLastRow = workspace.GearFirstRow[gear] == workspace.GearRows && workspace.GearRows > 1;
-    if (onlyInLastRow && workspace.PlanIndex[gear] == 1) rows.push_back(1);
+    if (!rows.empty() && BeginsInItsLastRow(workspace, gear)) rows.push_back(1);
     return rows;
   }
 
