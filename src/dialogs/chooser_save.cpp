@@ -43,11 +43,19 @@ void MakeProgramFolderCurrent(Program& program) {
   Guarded([&] { program.machine.files.SetCurrentFolder(program.workspace.AppPath); });
 }
 
-/// Writes the plan. False when that failed: the prompt line tells the cause, the file stays as it was, and
-/// the plan counts as unsaved.
+/// Writes the plan. False when that failed: the prompt line tells the cause, and the file, the plan's changes
+/// and the way back to the plan before them stay as they were.
 bool WritePlan(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  const std::string changed = workspace.DataChanged;
+  const std::string title = form2.Caption;
+  const bool hasRestore = form2.Command7.Enabled;
+  const bool menuHasRestore = form2.f_rest.Enabled;
+  bool opened = false;
   const int fault = Guarded([&] {
     program.files.OpenOutput(Handle::Plan, TargetPath(program));
+    opened = true;
     SavePlanFile(program);
     AddToHistory(program, TargetPath(program));
     RestorePlan(program);
@@ -58,7 +66,12 @@ bool WritePlan(Program& program) {
     return true;
   }
   program.files.Abandon(Handle::Plan);
-  program.workspace.DataChanged = dirty::kYes;
+  workspace.DataChanged = changed;
+  form2.Caption = title;
+  form2.Command7.Enabled = hasRestore;
+  form2.f_rest.Enabled = menuHasRestore;
+  // The baseline may be the plan's own by now, from which no deviation tells the changes any more.
+  if (opened && changed == dirty::kYes) workspace.RemarkChanged = dirty::kYes;
   ShowFailure(program, fault);
   return false;
 }

@@ -10,6 +10,7 @@
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/control_states.h"
 #include "workspace/decision_panel.h"
 #include "workspace/failure_texts.h"
 #include "workspace/kept_machine.h"
@@ -185,7 +186,8 @@ void Command1_Click(Program& program) {
   if (!program.form3.Visible) SettleMachine(program);
 }
 
-/// The user has backed out of "Save and Load" or "Not save. Load": the plan counts as unsaved again.
+/// The user has backed out of "Save and Load" or "Not save. Load": the plan counts as unsaved again, and the
+/// working file leads back to what was saved.
 void CancelPendingLoad(Program& program) {
   Workspace& workspace = program.workspace;
   const bool pendingLoad = workspace.PendingAction == pending::kChangeLoad ||
@@ -193,6 +195,7 @@ void CancelPendingLoad(Program& program) {
   if (!pendingLoad) return;
   workspace.DataChanged = dirty::kYes;
   workspace.PendingAction = pending::kNone;
+  if (workspace.ModeWord == mode::kChange && !workspace.WorkFileStale) EnableRestore(program, true);
 }
 
 /// CANCEL.

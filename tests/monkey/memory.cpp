@@ -10,6 +10,13 @@ bool NamesChooser(const std::string& mode) {
   return mode == mode::kList || mode == mode::kData || mode == mode::kQuickRatio || mode == mode::kReference;
 }
 
+/// Enter and the arrows are the keys of a request box; others do nothing.
+static bool DrawsRequests(const Deed& deed) {
+  const std::string key = deed.Argument();
+  return deed.Is("key") &&
+         (key == "Enter" || key == "Left" || key == "Up" || key == "Right" || key == "Down");
+}
+
 void Memory::Learn(const Program& program, const Deed& deed, bool blocked, const Moment& before,
                    const Moment& now) {
   const std::string modeBefore = mode;
@@ -26,7 +33,7 @@ void Memory::Learn(const Program& program, const Deed& deed, bool blocked, const
                     before.mode == mode::kSpeed && now.mode == mode::kSpeed;
   if (inBox && (deed.Is("enter") || deed.Is("type") || deed.Is("dblclick"))) {
     requestTyped = true;
-  } else if (left || (inBox && deed.Is("key")) || !IsRequestMode(mode)) {
+  } else if (left || (inBox && DrawsRequests(deed)) || !IsRequestMode(mode)) {
     requestTyped = false;
   }
 

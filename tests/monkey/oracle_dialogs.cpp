@@ -91,6 +91,15 @@ std::vector<std::string> PlanLines(const std::string& text) {
   return lines;
 }
 
+/// What the window takes from the main window when it opens, whatever is loaded behind it later.
+struct OwnPlan {
+  std::string primary;
+  std::string final;
+  std::string shiftNe;
+  std::string remark;
+  std::vector<std::string> speeds;
+};
+
 class CompareRule : public Rule {
  public:
   const char* Name() const override { return "compare"; }
@@ -104,7 +113,7 @@ class CompareRule : public Rule {
     Remember(look, compare.CompareCount);
     const auto shown = static_cast<std::size_t>(compare.CompareIndex);
     if (shown >= files_.size()) return "the plan shown is none of those held";
-    return shown == 0 ? JudgeOwnPlan(look.program) : JudgeFile(look.program, files_[shown]);
+    return shown == 0 ? JudgeOwnPlan(*look.program.form5) : JudgeFile(look.program, files_[shown]);
   }
 
  private:
@@ -113,20 +122,29 @@ class CompareRule : public Rule {
     while (files_.size() < static_cast<std::size_t>(count)) {
       const FileBox& box = look.program.form5->File1;
       const std::string path = box.Path.get() + "\\" + box.FileName.get();
+      if (files_.empty()) own_ = OwnPlanOf(look.program);
       files_.push_back(files_.empty() ? "" : look.world.machine.files.Text(path).value_or(""));
     }
   }
 
-  static std::string JudgeOwnPlan(const Program& program) {
-    const Form2& form2 = program.form2;
-    const Form5& form5 = *program.form5;
+  static OwnPlan OwnPlanOf(const Program& program) {
     const Workspace& workspace = program.workspace;
-    std::string wrong = FirstOf({Wrong(form5.Label6[0], workspace.PrimaryTable[workspace.PrimaryIndex].Text),
-                                 Wrong(form5.Label8[0], workspace.FinalTable[workspace.FinalIndex].Text),
-                                 Wrong(form5.Label16, std::to_string(workspace.ShiftNe)),
-                                 Wrong(form5.Label1, form2.Text6.Text)});
+    OwnPlan plan{.primary = workspace.PrimaryTable[workspace.PrimaryIndex].Text,
+                 .final = workspace.FinalTable[workspace.FinalIndex].Text,
+                 .shiftNe = std::to_string(workspace.ShiftNe),
+                 .remark = program.form2.Text6.Text,
+                 .speeds = {}};
+    for (int gear = 1; gear <= kGears; ++gear) {
+      plan.speeds.push_back(SpeedText(workspace, workspace.SpeedNow[gear]));
+    }
+    return plan;
+  }
+
+  std::string JudgeOwnPlan(const Form5& form5) const {
+    std::string wrong = FirstOf({Wrong(form5.Label6[0], own_.primary), Wrong(form5.Label8[0], own_.final),
+                                 Wrong(form5.Label16, own_.shiftNe), Wrong(form5.Label1, own_.remark)});
     for (int gear = 1; gear <= kGears && wrong.empty(); ++gear) {
-      wrong = Wrong(form5.Label9[gear], SpeedText(workspace, workspace.SpeedNow[gear]));
+      wrong = Wrong(form5.Label9[gear], own_.speeds[static_cast<std::size_t>(gear) - 1]);
     }
     return wrong;
   }
@@ -158,6 +176,7 @@ class CompareRule : public Rule {
 
   /// Texts of the files' plans by slot; the first is the plan of the main window.
   std::vector<std::string> files_;
+  OwnPlan own_;
 };
 
 }  // namespace
