@@ -24,6 +24,7 @@ struct WorkingFiles : testing::Test {
 
   WorkingFiles() {
     workspace.MachineName = "T1";
+    workspace.LoadedMachine = "T1";
     workspace.HistoryMax = 6;
   }
   ~WorkingFiles() override { simulated.windows.Forget(); }
@@ -239,6 +240,19 @@ TEST_F(WorkingFiles, SavingStoresEntriesAndMachine) {
   EXPECT_EQ(Stored(kSub, "1"), "C:\\B.t1");
   EXPECT_EQ(Stored(kSub, "2"), "C:\\A.t1");
   EXPECT_EQ(Stored(kSub, "3"), "C:\\OLD.t1");
+}
+
+TEST_F(WorkingFiles, SavingWithoutAWholeMachineStoresThePlaceAlone) {
+  Store(kSub, "", "T2");
+  Store(kSub, "0", "3");
+  workspace.LoadedMachine.clear();
+  Add({"C:\\A.t1"});
+  program.form2.Left = 1200;
+  SaveHistory(program);
+  EXPECT_EQ(Stored(kSub, ""), "T2");
+  EXPECT_EQ(Stored(kSub, "0"), "3");
+  EXPECT_EQ(Stored(kSub, "1"), "(none)");
+  EXPECT_EQ(Stored(kSettings, "Last Left"), "1200");
 }
 
 TEST_F(WorkingFiles, SavingForARegisteredExtensionLeavesItsDefaultValue) {
