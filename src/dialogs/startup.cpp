@@ -119,7 +119,8 @@ void StartWithFile(Program& program, bool machineLoaded) {
 void FirstTick(Program& program) {
   program.form2.LoadWindow();
   program.form3.LoadWindow();
-  // Kept: a default list that was refused leaves what was read of it, its name included, and counts as loaded.
+  // Kept: a default list that was refused leaves what was read of it, its name included, and counts as
+  // loaded.
   ForgetKeptMachine(program);
   const bool machineLoaded = !program.workspace.MachineKey.empty();
   if (program.workspace.CommandFile.empty()) {
