@@ -3,6 +3,7 @@
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/control_states.h"
 #include "workspace/decision_panel.h"
 #include "workspace/decision_panel_answers.h"
 #include "workspace/failure_texts.h"
@@ -43,19 +44,21 @@ void MakeProgramFolderCurrent(Program& program) {
   Guarded([&] { program.machine.files.SetCurrentFolder(program.workspace.AppPath); });
 }
 
-/// Writes the plan. False when that failed: the prompt line tells the cause, and the file, the plan's changes
-/// and the way back to the plan before them stay as they were.
+/// The save has not come about, though it may have made the plan its own baseline: the plan stays unsaved, by
+/// whatever it deviates, until it is saved or another one is read.
+void CountAsUnsaved(Program& program) {
+  program.workspace.DataChanged = dirty::kYes;
+  program.workspace.RemarkChanged = dirty::kYes;
+  if (program.workspace.WorkFileStale) return;
+  EnableRestore(program, true);
+  MarkTitle(program);
+}
+
+/// Writes the plan. False when that failed: the prompt line tells the cause, the file stays as it was, and
+/// the plan counts as unsaved.
 bool WritePlan(Program& program) {
-  Workspace& workspace = program.workspace;
-  Form2& form2 = program.form2;
-  const std::string changed = workspace.DataChanged;
-  const std::string title = form2.Caption;
-  const bool hasRestore = form2.Command7.Enabled;
-  const bool menuHasRestore = form2.f_rest.Enabled;
-  bool opened = false;
   const int fault = Guarded([&] {
     program.files.OpenOutput(Handle::Plan, TargetPath(program));
-    opened = true;
     SavePlanFile(program);
     AddToHistory(program, TargetPath(program));
     RestorePlan(program);
@@ -66,12 +69,7 @@ bool WritePlan(Program& program) {
     return true;
   }
   program.files.Abandon(Handle::Plan);
-  workspace.DataChanged = changed;
-  form2.Caption = title;
-  form2.Command7.Enabled = hasRestore;
-  form2.f_rest.Enabled = menuHasRestore;
-  // The baseline may be the plan's own by now, from which no deviation tells the changes any more.
-  if (opened && changed == dirty::kYes) workspace.RemarkChanged = dirty::kYes;
+  CountAsUnsaved(program);
   ShowFailure(program, fault);
   return false;
 }

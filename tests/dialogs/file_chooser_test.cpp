@@ -84,6 +84,7 @@ TEST(FileChooser, TellsThatTheDiskIsFull) {
     EXPECT_TRUE(program->form3.Label4.Visible);
     EXPECT_TRUE(program->form3.Visible);
     EXPECT_EQ(program->workspace.DataChanged, dirty::kYes);
+    EXPECT_TRUE(program->form2.Command7.Enabled);
     EXPECT_FALSE(files.FileExists("C:\\VELDRIN\\DAT\\NEW.nx4"));
     // With room again the same OK saves.
     files.full = false;
