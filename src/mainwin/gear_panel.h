@@ -2,9 +2,9 @@
 //
 //   gear_panel_modes     which panel stands where     gear_panel_boxes   running conditions and remark
 //   gear_panel_requests  speeds, tolerances           gear_panel_chart   the pointer on the chart
-//   gear_panel_steps     arrows of the plan           gear_panel_state   states set alike by several
-//   gear_panel_lists     lists to pick from
+//   gear_panel_steps     arrows of the plan           gear_panel_lists   lists to pick from
 //
+// States that several of them set alike stand in workspace/control_states.h.
 // `CallerWord` tells the Change events who is writing; what it holds back stands at the top of each unit.
 #pragma once
 
