@@ -35,6 +35,7 @@ void RefreshGear(Program& program, int gear) {
 void RefreshDisplay(Program& program) {
   Workspace& workspace = program.workspace;
   if (!workspace.MachineKey.empty()) {
+    // Should a gear have no speed, no chart of the plan before stays behind.
     if (workspace.SpeedNow[1] != 0) program.form2.Picture21.surface.Clear();
     for (int gear = 1; gear <= kGears; ++gear) RefreshGear(program, gear);
     ChartPlan(program);

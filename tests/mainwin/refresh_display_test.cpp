@@ -217,5 +217,13 @@ TEST_F(Refresh, NoughtAsDivisorIsAFault) {
   EXPECT_EQ(Guarded([&] { RefreshDisplay(program); }), kFaultDivisionByZero);
 }
 
+TEST_F(Refresh, RefreshThatFailsLeavesNoChartOfThePlanBefore) {
+  RefreshDisplay(program);
+  ASSERT_FALSE(form2.Picture21.surface.Drawing().empty());
+  Plan({40, 0, 80, 100, 120, 140});
+  EXPECT_EQ(Guarded([&] { RefreshDisplay(program); }), kFaultDivisionByZero);
+  EXPECT_TRUE(form2.Picture21.surface.Drawing().empty());
+}
+
 }  // namespace
 }  // namespace veldrin
