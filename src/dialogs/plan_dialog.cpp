@@ -234,8 +234,6 @@ void Command1_Click(Program& program) {
     SetGearToAuto(program, gear);
   }
   form2.Picture28.Enabled = true;
-  form2.Picture28.MousePointer = kPointerDefault;
-  form2.menu_print.Enabled = true;
   program.form4->UnloadWindow();
 }
 

@@ -173,7 +173,6 @@ void Form2_Load(Program& program) {
   workspace.CallerWord = caller::kForm2Load;
   PlaceWindow(program);
   workspace.CallerWord = caller::kUser;
-  workspace.HistoryCount = 0;
   ColourGears(program);
   DisableLargeSizes(program);
 }

@@ -148,9 +148,8 @@ void TakePlan(Program& program, TextReader& reader) {
   ShowRows(program);
   ShowGears(program);
   workspace.ReferenceNe = workspace.ShiftNe;
-  workspace.CallerWord = caller::kInit;
+  // The bar was moved there when the number was read, so nobody hears of it.
   program.form2.HScroll1.Value = workspace.ShiftNe;
-  workspace.CallerWord = caller::kModule1;
 }
 
 /// The main window of a plan in force.
