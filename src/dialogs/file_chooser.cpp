@@ -186,16 +186,20 @@ void Command1_Click(Program& program) {
   if (!program.form3.Visible) SettleMachine(program);
 }
 
-/// The user has backed out of "Save and Load" or "Not save. Load": the plan counts as unsaved again, and the
-/// working file leads back to what was saved.
+/// The user has backed out of "Save and Load" or "Not save. Load": the plan counts as unsaved again, the mode
+/// is that of what is on show, and the working file leads back to what was saved.
 void CancelPendingLoad(Program& program) {
   Workspace& workspace = program.workspace;
   const bool pendingLoad = workspace.PendingAction == pending::kChangeLoad ||
                            workspace.PendingAction == pending::kChangeLoadHistory;
-  if (!pendingLoad) return;
-  workspace.DataChanged = dirty::kYes;
-  workspace.PendingAction = pending::kNone;
-  if (workspace.ModeWord == mode::kChange && !workspace.WorkFileStale) EnableRestore(program, true);
+  if (pendingLoad) {
+    workspace.DataChanged = dirty::kYes;
+    workspace.PendingAction = pending::kNone;
+  }
+  EndAnsweredLoad(program);
+  if (pendingLoad && workspace.ModeWord == mode::kChange && !workspace.WorkFileStale) {
+    EnableRestore(program, true);
+  }
 }
 
 /// CANCEL.
@@ -223,7 +227,6 @@ void Command2_Click(Program& program) {
   form3.File1.Visible = true;
   form3.Label1.Visible = true;
   CancelPendingLoad(program);
-  EndAnsweredLoad(program);
   form3.Hide();
   program.form2.Show();
 }
