@@ -101,6 +101,8 @@ void AskQuestion(Program& program, Question question, PanelTexts texts) {
   DecisionPanelState& panel = program.decisionPanel;
   const QuestionRow& row = *RowOf(question);
   TakeBack(program);
+  // Of two loads the later one counts; one whose chooser was overtaken leads nowhere any more.
+  if (question == Question::LoadWithChanges) panel.load.reset();
   // The close query has started the flashing for its own question.
   if (question != Question::QuitWithChanges) form2.Timer3.Enabled = false;
   if (question != Question::NoPlanFound) EnableAll({&form2.Command8, &form2.Command9});

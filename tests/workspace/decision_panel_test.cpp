@@ -222,6 +222,20 @@ TEST_F(DecisionPanel, AChooserThatComesAgainKeepsTheLoadOpen) {
   EXPECT_EQ(workspace.DataChanged, "YES");
 }
 
+TEST_F(DecisionPanel, ALoadThatWasOvertakenLeavesALaterQuestionAlone) {
+  program.hooks.OpenDataChooser = [&] { form2.Timer2.Enabled = true; };
+  AskQuestion(program, Question::LoadWithChanges);
+  workspace.ModeWord = mode::kData;
+  form2.Command9.Click();
+  form2.Timer2.Enabled = false;
+  workspace.ModeWord = mode::kChange;
+  workspace.DataChanged = dirty::kYes;
+  AskQuestion(program, Question::LoadWithChanges);
+  workspace.ModeWord = mode::kList;
+  EndAnsweredLoad(program);
+  EXPECT_EQ(workspace.ModeWord, "LIST");
+}
+
 TEST_F(DecisionPanel, ASaveBelongsToTheAnswerThatAskedForIt) {
   std::vector<bool> seen;
   form2.Command5.Click.Bind([&](int) { seen.push_back(SavesForAnswer(program)); });
