@@ -1,14 +1,12 @@
 #include "workspace/plan_file.h"
 
-#include "model/decimal.h"
-#include "model/list_tables.h"
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "workspace/captions.h"
 #include "workspace/control_states.h"
 #include "workspace/decision_panel.h"
-#include "workspace/language.h"
+#include "workspace/plan_lines.h"
 #include "workspace/title.h"
 
 #include <algorithm>
@@ -17,8 +15,6 @@
 namespace veldrin {
 
 namespace {
-
-constexpr int kTeethCharacters = 2;  // of each of the two numbers of a row's text
 
 // ---- Reading ----
 
@@ -32,14 +28,6 @@ void EmptyChart(Picture& chart) {
   if (chart.Image == 0 && chart.surface.Drawing().empty()) return;
   chart.Image = 0;
   chart.surface.Clear();
-}
-
-float ReadDecimal(const Workspace& workspace, TextReader& reader) {
-  return RepairedSingle(workspace, reader.Line());
-}
-
-void ReadSpeeds(Workspace& workspace, TextReader& reader) {
-  for (int gear = 1; gear <= kGears; ++gear) workspace.SpeedBaseline[gear] = ReadDecimal(workspace, reader);
 }
 
 /// Makes room on the chart for revolutions beyond its end.
@@ -60,24 +48,6 @@ void RaiseTopSpeed(Program& program) {
   program.hooks.ChartScale();
 }
 
-/// A number of teeth. The two characters written of a row may hold one digit and the hyphen behind it, which
-/// is then left out.
-std::int16_t ReadTeeth(TextReader& reader) {
-  std::string field = reader.Field();
-  if (field.size() == 2 && field.back() == '-') field.pop_back();
-  return ParseInt16(field);
-}
-
-/// The teeth, the plan line and the remark's first line.
-void ReadChoice(Workspace& workspace, TextReader& reader) {
-  workspace.FilePrimaryDrive = ReadTeeth(reader);
-  workspace.FilePrimaryDriven = ReadTeeth(reader);
-  workspace.FileFinalDrive = ReadTeeth(reader);
-  workspace.FileFinalDriven = ReadTeeth(reader);
-  workspace.PlanLine = reader.Line();
-  workspace.RemarkFirstLine = reader.Line();
-}
-
 void ReadRemark(Program& program, TextReader& reader) {
   TextBox& remark = program.form2.Text6;
   remark.Text = "";
@@ -86,40 +56,6 @@ void ReadRemark(Program& program, TextReader& reader) {
   std::string further;
   while (!reader.AtEnd()) further.append(kCrLf).append(reader.Line());
   if (!further.empty()) remark.Text = remark.Text + further;
-}
-
-/// Row 1..`count` whose text is "drive-driven" exactly; `otherwise` when there is none.
-template <class Rows>
-std::int16_t RowOf(const Rows& rows, int count, int drive, int driven, std::int16_t otherwise) {
-  const std::string text = std::to_string(drive) + "-" + std::to_string(driven);
-  for (int row = 1; row <= count; ++row) {
-    if (rows[row].Text == text) return static_cast<std::int16_t>(row);
-  }
-  return otherwise;
-}
-
-void FindRows(Workspace& workspace) {
-  workspace.PrimaryIndex = RowOf(workspace.PrimaryTable, workspace.PrimaryCount, workspace.FilePrimaryDrive,
-                                 workspace.FilePrimaryDriven, workspace.PrimaryIndex);
-  workspace.FinalIndex = RowOf(workspace.FinalTable, FinalRowCount(workspace), workspace.FileFinalDrive,
-                               workspace.FileFinalDriven, workspace.FinalIndex);
-}
-
-/// Cuts the plan line at its hyphens; pieces beyond the line's end are empty.
-/// Kept: a gear text with a hyphen of its own shifts the pieces behind it.
-void FindGearPairs(Workspace& workspace) {
-  const std::string& line = workspace.PlanLine;
-  std::size_t begin = 0;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    const std::size_t end = std::min(line.find('-', begin), line.size());
-    const std::string piece = line.substr(begin, end - begin);
-    for (int row = 1; row <= workspace.GearRows; ++row) {
-      if (workspace.GearTable(gear, row) != piece) continue;
-      workspace.PlanIndex[gear] = static_cast<std::int16_t>(row);
-      break;
-    }
-    begin = std::min(end + 1, line.size());
-  }
 }
 
 void ShowRows(Program& program) {
@@ -143,8 +79,7 @@ void TakePlan(Program& program, TextReader& reader) {
   ReadChoice(workspace, reader);
   workspace.CallerWord = caller::kModule1;
   ReadRemark(program, reader);
-  FindRows(workspace);
-  FindGearPairs(workspace);
+  FindChoice(workspace);
   ShowRows(program);
   ShowGears(program);
   workspace.ReferenceNe = workspace.ShiftNe;
@@ -218,36 +153,7 @@ void ShowWhatIsInForce(Program& program) {
   workspace.CallerWord = caller::kUser;
 }
 
-// ---- Writing ----
-
-/// All lines of the plan, line ends included.
-/// Kept: teeth outside 10 to 99 do not fit the two characters of their line and are not found again.
-std::string PlanText(const Program& program) {
-  const Workspace& workspace = program.workspace;
-  std::string text;
-  const auto addLine = [&](const std::string& line) { text.append(line).append(kCrLf); };
-  addLine("FROM:" + workspace.MachineName + ".RAT");
-  addLine(SingleText(workspace, workspace.TyreLength));
-  addLine(std::to_string(workspace.ShiftNe));
-  for (int gear = 1; gear <= kGears; ++gear) addLine(SingleText(workspace, workspace.SpeedNow[gear]));
-  for (const RatioRow* row :
-       {&workspace.PrimaryTable[workspace.PrimaryIndex], &workspace.FinalTable[workspace.FinalIndex]}) {
-    addLine(Left(row->Text, kTeethCharacters));
-    addLine(Right(row->Text, kTeethCharacters));
-  }
-  std::string plan;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    if (gear > 1) plan += '-';
-    plan += workspace.GearTable(gear, workspace.PlanIndex[gear]);
-  }
-  addLine(plan);
-  addLine(program.form2.Text6.Text);
-  return text;
-}
-
-}  // namespace
-
-namespace {
+// ---- The two readers ----
 
 void ReadOpenPlan(Program& program) {
   Workspace& workspace = program.workspace;
@@ -261,7 +167,7 @@ void ReadOpenPlan(Program& program) {
   workspace.ShiftNe = ToInt16(ReadDecimal(workspace, reader));
   WidenRevolutions(program);
   form2.HScroll1.Value = workspace.ShiftNe;
-  ReadSpeeds(workspace, reader);
+  ReadStoredSpeeds(workspace, reader);
   RaiseTopSpeed(program);
   TakePlan(program, reader);
 
@@ -286,12 +192,6 @@ void ReadOpenPlan(Program& program) {
   EnableRestore(program, false);
 }
 
-/// Whether the first line of a working file names the loaded machine. That of a machine left meanwhile does
-/// not, nor does the empty line of a file that no plan was written to.
-bool NamesLoadedMachine(const Workspace& workspace, TextReader& reader) {
-  return !reader.AtEnd() && LowerCase(reader.Line()) == "from:" + workspace.MachineKey + ".rat";
-}
-
 void ReadWorkFile(Program& program, TextReader& reader) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
@@ -303,7 +203,7 @@ void ReadWorkFile(Program& program, TextReader& reader) {
   workspace.TyreLength = ReadDecimal(workspace, reader);
   workspace.ShiftNe = ToInt16(ReadDecimal(workspace, reader));
   form2.HScroll1.Value = workspace.ShiftNe;
-  ReadSpeeds(workspace, reader);
+  ReadStoredSpeeds(workspace, reader);
   TakePlan(program, reader);
 
   UnmarkTitle(program);
@@ -336,13 +236,13 @@ void ReadPlanFile(Program& program) {
 bool RestorePlan(Program& program) {
   // Read at one stroke and not through a handle, so that a fault on the way leaves none open.
   TextReader reader(program.machine.files.ReadText(program.workspace.WorkFile));
-  if (!NamesLoadedMachine(program.workspace, reader)) return false;
+  if (reader.AtEnd() || !NamesLoadedMachine(program.workspace, reader.Line())) return false;
   ReadOrShowHowFar(program, [&] { ReadWorkFile(program, reader); });
   return true;
 }
 
 void SavePlanFile(Program& program) {
-  program.files.Write(Handle::Plan, PlanText(program));
+  program.files.Write(Handle::Plan, PlanText(program.workspace, program.form2.Text6.Text));
   WriteWorkFile(program);
   program.workspace.DataChanged = dirty::kNo;
   EnableRestore(program, true);
@@ -350,7 +250,7 @@ void SavePlanFile(Program& program) {
 
 void WriteWorkFile(Program& program) {
   Workspace& workspace = program.workspace;
-  const std::string text = PlanText(program);
+  const std::string text = PlanText(workspace, program.form2.Text6.Text);
   Guarded([&] { program.machine.files.Delete(workspace.WorkFile); });
   const int fault = Guarded([&] {
     program.files.OpenOutput(Handle::WorkFile, workspace.WorkFile);

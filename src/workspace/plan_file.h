@@ -10,7 +10,7 @@
 //
 // Lines end in CR LF. Decimals are written with the system's separator and repaired by FixDecimal when read.
 // The working file, from which Restore reads back, has the same lines. Which file a plan goes to is the
-// chooser's matter, which file it comes from the opener's.
+// chooser's matter, which file it comes from the opener's; the lines themselves are plan_lines.h's.
 //
 // What holds back whom while a plan is read: under "MODULE1" the gear labels do not refresh and the remark
 // does not count as the user's; under "INIT" and "ORIGINAL" the scroll bar of the revolutions is silent;
