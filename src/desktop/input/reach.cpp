@@ -6,8 +6,6 @@
 #include "desktop/windows/form_widget.h"
 #include "view/user_input.h"
 
-#include <QScrollArea>
-
 #include <algorithm>
 #include <string_view>
 #include <vector>
@@ -85,13 +83,6 @@ class Reachables {
   QWidget* focused_ = nullptr;
   std::vector<QWidget*> widgets_;
 };
-
-/// Where the window is larger than the screen, what is reached scrolls into sight.
-void BringIntoSight(const QWidget& area, QWidget& widget) {
-  QWidget* const viewport = area.parentWidget();
-  auto* scroll = viewport == nullptr ? nullptr : qobject_cast<QScrollArea*>(viewport->parentWidget());
-  if (scroll != nullptr) scroll->ensureWidgetVisible(&widget);
-}
 
 // ---- Keys ----
 
@@ -242,7 +233,7 @@ bool ServeReach(const Window& window, const QWidget& inside, const QKeyEvent& ev
     return now != nullptr;
   }
   ring.Surround(*next);
-  BringIntoSight(form->Client(), *next);
+  form->Reveal(next);
   return true;
 }
 

@@ -54,6 +54,8 @@ class FormWidget : public QWidget {
   void Settle();
   /// The zoom changed. The frame stays where it is, so its place in twips is another one.
   void Rescale();
+  /// Scrolls a widget inside into sight, where the window is larger than the screen. Null does nothing.
+  void Reveal(QWidget* widget);
   /// Cuts the window to an ellipse, in pixels of the program.
   void CutToEllipse(const QRect& box);
   /// What the window has to be shown as before it is shown modally.
@@ -97,7 +99,6 @@ class FormWidget : public QWidget {
   void DeleteUnusedViews();
   void ArrangeMenus();
   void Stack(const Control& parent);
-  void Reveal(QWidget* widget);
   void TakeWindowSlot(std::string_view slot);
   void TakeZoom();
   void TakeSize();
