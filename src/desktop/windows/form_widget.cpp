@@ -43,11 +43,8 @@ FormWidget::FormWidget(Window& window, Stage& stage, FormFinder formOf)
       scroll_(new QScrollArea(this)),
       client_(new ClientArea(window, stage, nullptr)),
       ring_(new ReachRing(*client_, stage.zoom)),
-      factor_(stage.zoom.Factor()),
-      factorNormal_(factor_),
-      asDescribed_(window.Width, window.Height),
-      normal_(asDescribed_),
-      normalBefore_(normal_) {
+      asDescribed_{window.Width, window.Height},
+      memory_(asDescribed_, stage.zoom.Factor()) {
   const Applying applying(stage);
   setObjectName(QString::fromStdString(window.name));
   scroll_->setFrameShape(QFrame::NoFrame);

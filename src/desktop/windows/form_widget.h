@@ -12,10 +12,13 @@
 //   form_widget_size.cpp    size, and what scrolls
 //   form_widget_input.cpp   what the user does with the window as a whole: keys, the wheel, closing, coming
 //                           back to it, dropping files on it
+//
+// The rules for sizes and states stand in frame_rules.h, in numbers.
 #pragma once
 
 #include "desktop/input/reach_ring.h"
 #include "desktop/windows/client_area.h"
+#include "desktop/windows/frame_rules.h"
 
 #include <QMenuBar>
 #include <QPixmap>
@@ -54,7 +57,7 @@ class FormWidget : public QWidget {
   void Settle();
   /// The zoom changed. The frame stays where it is, so its place in twips is another one.
   void Rescale();
-  /// Scrolls a widget inside into sight, where the window is larger than the screen. Null does nothing.
+  /// Scrolls a widget inside into sight, where the window is too small for its content. Null does nothing.
   void Reveal(QWidget* widget);
   /// Cuts the window to an ellipse, in pixels of the program.
   void CutToEllipse(const QRect& box);
@@ -113,13 +116,13 @@ class FormWidget : public QWidget {
   void PlaceInside();
   void KeepOnScreen();
   void AddZoomKeys();
-  void FrameStateChanged(Qt::WindowStates before);
+  void FrameStateChanged(const FrameState& before);
+  FrameState State() const;
   void EndRestoring();
   QSize InsideOfFrame() const;
   QSize RoomOnScreen(const QSize& otherwise) const;
-  QSize Bars(bool down, bool across) const;
-  QSize BarsFor(const QSize& whole, const QSize& room) const;
-  QSize LeastFrame() const;
+  Extent Bars() const;
+  Extent LeastFrame() const;
   void ShowBars();
   void TellFrameSoon();
   void TellFrame();
@@ -132,11 +135,11 @@ class FormWidget : public QWidget {
   /// Whether the program lays its window out for any size.
   bool CanResize() const { return window_->Resize.Claims() > 0; }
   /// Whether the area inside keeps at least its normal size, however small the frame is.
-  bool KeepsSize() const { return clipped_ || isMaximized(); }
+  bool KeepsSize() const { return memory_.Clipped() || isMaximized(); }
   /// Whether the inside may be larger than the frame.
   bool Scrolls() const;
   bool FillsScreen() const;
-  QSize InsidePixels(const QSizeF& outer) const;
+  QSize InsidePixels(const TwipExtent& outer) const;
 
   Window* window_;
   Stage* stage_;
@@ -151,19 +154,13 @@ class FormWidget : public QWidget {
   QScrollArea* scroll_;
   ClientArea* client_;
   ReachRing* ring_;
-  bool clipped_ = false;      // the area inside is larger than the screen has room for
   QRect ellipse_;             // in pixels of the program; null for none
   QPointer<QWidget> raised_;  // a panel that came to the front in this event
 
-  double factor_;             // the zoom that the window's place in twips belongs to
-  double factorNormal_;       // the zoom when the frame was last neither maximised nor minimised
-  const QSizeF asDescribed_;  // outer size in twips; nothing is laid out for less
-  /// Outer size in twips of the frame when it is not maximised, and before the desktop last changed it.
-  QSizeF normal_;
-  QSizeF normalBefore_;
+  const TwipExtent asDescribed_;  // outer size; nothing is laid out for less
+  FrameMemory memory_;
   bool tellingFrame_ = false;  // the program hears of a place or size that the frame has already
   bool frameUntold_ = false;   // it could not be told: something modal stands in front
-  bool restoring_ = false;     // the frame is on its way back to a size that belongs to another zoom
 };
 
 }  // namespace veldrin

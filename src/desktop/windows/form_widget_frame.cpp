@@ -18,8 +18,6 @@ constexpr float kMenuFontSize = 9;
 constexpr int kTitleHeight = 32;
 constexpr int kRestoringTime = 300;  // ms until a desktop has given a window its normal size back
 
-constexpr Qt::WindowStates kAway = Qt::WindowMaximized | Qt::WindowMinimized;
-
 /// The program counts places from where the primary screen begins, which is the only one that it knows.
 QPoint Origin() {
   const QScreen* const screen = QGuiApplication::primaryScreen();
@@ -53,12 +51,13 @@ void FormWidget::TakeZoom() {
 
 void FormWidget::Rescale() {
   TakeZoom();
-  const double before = std::exchange(factor_, stage_->zoom.Factor());
+  const double now = stage_->zoom.Factor();
+  const double before = memory_.Zoomed(now);
   if (!ellipse_.isNull()) return;
   const Applying applying(*stage_);
-  const bool away = (windowState() & kAway) != 0;
+  const bool away = !State().IsNormal();
   const auto twips = [&](const Slot<float>& slot, int pixels) {
-    const double place = away ? slot * before / factor_ : stage_->zoom.Twips(pixels);
+    const double place = away ? slot * before / now : stage_->zoom.Twips(pixels);
     return static_cast<float>(place);
   };
   const QScopedValueRollback<bool> telling(tellingFrame_, true);
@@ -70,6 +69,10 @@ void FormWidget::Rescale() {
 }
 
 // ---- place and state ----
+
+FrameState FormWidget::State() const {
+  return {isMinimized(), isMaximized()};
+}
 
 /// Where the program wants the frame.
 QPoint FormWidget::Corner() const {
@@ -128,7 +131,10 @@ void FormWidget::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (window_ == nullptr) return;
   const bool isState = event->type() == QEvent::WindowStateChange;
-  if (isState) FrameStateChanged(static_cast<QWindowStateChangeEvent*>(event)->oldState());
+  if (isState) {
+    const Qt::WindowStates old = static_cast<QWindowStateChangeEvent*>(event)->oldState();
+    FrameStateChanged({old.testFlag(Qt::WindowMinimized), old.testFlag(Qt::WindowMaximized)});
+  }
   if (stage_->applying > 0) return;
   Window& window = *window_;
   if (event->type() == QEvent::ActivationChange && isActiveWindow() && window.desk.active != &window) {
@@ -144,32 +150,34 @@ void FormWidget::changeEvent(QEvent* event) {
 }
 
 /// A zoom that changed while the window was away from its normal state finds it when it comes back.
-void FormWidget::FrameStateChanged(Qt::WindowStates before) {
+void FormWidget::FrameStateChanged(const FrameState& before) {
   if (!ellipse_.isNull()) return;
   const Applying applying(*stage_);
-  restoring_ = false;
-  if ((before & kAway) == 0) factorNormal_ = factor_;
-  const bool becameMaximised = isMaximized() && !before.testFlag(Qt::WindowMaximized);
-  if (becameMaximised && FillsScreen()) normal_ = normalBefore_;
-  if (isMinimized()) return;
-  if (isMaximized()) {
-    TakeSize();
-  } else if (factorNormal_ != factor_) {
-    restoring_ = true;
-    const bool comes = before.testFlag(Qt::WindowMaximized) && FillsScreen();
-    QTimer::singleShot(comes ? kRestoringTime : 0, this, [this] { EndRestoring(); });
-  } else {
-    ShowBars();
+  switch (memory_.StateChanged(before, State(), FillsScreen())) {
+    case AfterState::Nothing:
+      return;
+    case AfterState::FillInside:
+      TakeSize();
+      break;
+    case AfterState::ShowBars:
+      ShowBars();
+      break;
+    case AfterState::RestoreSoon:
+      QTimer::singleShot(0, this, [this] { EndRestoring(); });
+      break;
+    case AfterState::RestoreLater:
+      QTimer::singleShot(kRestoringTime, this, [this] { EndRestoring(); });
+      break;
   }
   TellFrameSoon();
 }
 
 /// The desktop has given the frame back the pixels that it had at another zoom.
 void FormWidget::EndRestoring() {
-  if (!std::exchange(restoring_, false) || window_ == nullptr) return;
+  if (!memory_.Restored() || window_ == nullptr) return;
   {
     const Applying applying(*stage_);
-    client_->resize(ContentFor(InsidePixels(normal_)));
+    client_->resize(ContentFor(InsidePixels(memory_.Normal())));
     FitFrame();
   }
   TellFrame();
@@ -184,7 +192,7 @@ void FormWidget::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   PlaceInside();
   ShowBars();
-  if (restoring_) {
+  if (memory_.Restoring()) {
     QTimer::singleShot(0, this, [this] { EndRestoring(); });
   } else if (stage_->applying == 0) {
     TellFrame();
@@ -198,7 +206,8 @@ void FormWidget::TellFrameSoon() {
 /// Tells the program where the desktop has put the frame, and how large it made it; later, while something
 /// modal stands in front.
 void FormWidget::TellFrame() {
-  if (window_ == nullptr || !isVisible() || isMinimized() || restoring_ || !ellipse_.isNull()) return;
+  if (window_ == nullptr || !isVisible() || isMinimized() || memory_.Restoring() || !ellipse_.isNull())
+    return;
   frameUntold_ = !user::Reachable(*window_);
   if (frameUntold_) return;
   TellPlace();

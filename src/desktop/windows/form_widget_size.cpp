@@ -17,6 +17,14 @@ bool IsLarger(const QSize& size, const QSize& room) {
   return size.width() > room.width() || size.height() > room.height();
 }
 
+Extent ExtentOf(const QSize& size) {
+  return {size.width(), size.height()};
+}
+
+QSize SizeOf(const Extent& extent) {
+  return {extent.width, extent.height};
+}
+
 }  // namespace
 
 bool FormWidget::Scrolls() const {
@@ -50,12 +58,11 @@ int FormWidget::MenuHeight() const {
 }
 
 /// The area inside of an outer size in twips.
-QSize FormWidget::InsidePixels(const QSizeF& outer) const {
-  const Zoom& zoom = stage_->zoom;
+QSize FormWidget::InsidePixels(const TwipExtent& outer) const {
   const float frameWidth = window_->Width - window_->InnerWidth();
   const float frameHeight = window_->Height - window_->InnerHeight();
-  return {std::max(1, qRound(zoom.Pixels(outer.width() - static_cast<double>(frameWidth)))),
-          std::max(1, qRound(zoom.Pixels(outer.height() - static_cast<double>(frameHeight))))};
+  return {InnerPixels(outer.width - static_cast<double>(frameWidth), stage_->zoom),
+          InnerPixels(outer.height - static_cast<double>(frameHeight), stage_->zoom)};
 }
 
 /// Logical pixels that a frame may lose where they are no whole number of the screen's.
@@ -63,20 +70,10 @@ int FormWidget::Rounding() const {
   return devicePixelRatioF() == std::floor(devicePixelRatioF()) ? 0 : 1;
 }
 
-/// What scroll bars take: one down the side, one across below.
-QSize FormWidget::Bars(bool down, bool across) const {
-  const int besides = scroll_->verticalScrollBar()->sizeHint().width() + Rounding();
-  const int below = scroll_->horizontalScrollBar()->sizeHint().height() + Rounding();
-  return {down ? besides : 0, across ? below : 0};
-}
-
-/// What they take where `whole` has no room in `room`.
-QSize FormWidget::BarsFor(const QSize& whole, const QSize& room) const {
-  const QSize both = Bars(true, true);
-  bool down = whole.height() > room.height();
-  const bool across = whole.width() > room.width() - (down ? both.width() : 0);
-  down = down || (across && whole.height() > room.height() - both.height());
-  return Bars(down, across);
+/// What a scroll bar beside the area takes, and one below it.
+Extent FormWidget::Bars() const {
+  return {scroll_->verticalScrollBar()->sizeHint().width() + Rounding(),
+          scroll_->horizontalScrollBar()->sizeHint().height() + Rounding()};
 }
 
 QSize FormWidget::ContentFor(const QSize& inside) const {
@@ -84,13 +81,12 @@ QSize FormWidget::ContentFor(const QSize& inside) const {
 }
 
 QSize FormWidget::FrameFor(const QSize& inside) const {
-  const QSize content = ContentFor(inside);
-  const QSize bars = Bars(content.height() > inside.height(), content.width() > inside.width());
-  return inside + bars + QSize(0, MenuHeight());
+  const Extent bars = BarsAround(ExtentOf(inside), ExtentOf(ContentFor(inside)), Bars());
+  return inside + SizeOf(bars) + QSize(0, MenuHeight());
 }
 
 /// The smallest frame that the user can draw: the whole menu, and half of the content in either direction.
-QSize FormWidget::LeastFrame() const {
+Extent FormWidget::LeastFrame() const {
   const QSize half = ContentFor({0, 0}) / 2;
   const int menu = menuBar_ == nullptr ? 0 : menuBar_->sizeHint().width();
   return {std::max(half.width(), menu), half.height() + MenuHeight()};
@@ -99,14 +95,15 @@ QSize FormWidget::LeastFrame() const {
 /// The area inside that the frame asks for as it is. What has no room on the screen keeps at least its normal
 /// size.
 QSize FormWidget::InsideOfFrame() const {
-  const QSize room(width(), height() - MenuHeight());
-  if (!KeepsSize()) return room - BarsFor(ContentFor({0, 0}) - QSize(Rounding(), Rounding()), room);
-  const QSize least = InsidePixels(normal_);
-  return (room - BarsFor(ContentFor(least), room)).expandedTo(least);
+  const Extent room{width(), height() - MenuHeight()};
+  if (!KeepsSize()) {
+    const Extent content = ExtentOf(ContentFor({0, 0})) - Extent{Rounding(), Rounding()};
+    return SizeOf(room - BarsFor(content, room, Bars()));
+  }
+  const QSize least = InsidePixels(memory_.Normal());
+  return SizeOf(Larger(room - BarsFor(ExtentOf(ContentFor(least)), room, Bars()), ExtentOf(least)));
 }
 
-/// The desktop gives a maximised window the size of the screen. It does so before or behind its word that the
-/// window is maximised.
 bool FormWidget::FillsScreen() const {
   const QSize room = RoomOnScreen(size());
   return width() >= room.width() && height() >= room.height();
@@ -118,33 +115,29 @@ void FormWidget::TakeSize() {
     return;
   }
   client_->resize(ContentFor(ClientPixels(*window_, stage_->zoom)));
-  if (isMaximized() || isMinimized()) {
+  if (!State().IsNormal()) {
     ShowBars();
     PlaceInside();
     return;
   }
-  if (!tellingFrame_ || !clipped_) normal_ = {window_->Width, window_->Height};
+  memory_.Sized({window_->Width, window_->Height}, tellingFrame_);
   // A frame that the user is drawing at is not pulled out of his hand.
   if (tellingFrame_) {
     ShowBars();
-    return;
+  } else {
+    FitFrame();
   }
-  normalBefore_ = normal_;
-  FitFrame();
 }
 
 /// Gives the frame the size that the area inside wants, or what the screen has of it.
 void FormWidget::FitFrame() {
-  const QSize inside = InsidePixels(normal_);
-  const QSize whole = FrameFor(inside);
-  const QSize room = RoomOnScreen(whole);
-  clipped_ = window_->hasFrame && IsLarger(whole, room);
-  const QSize withBars = clipped_ ? whole + BarsFor(whole, room) : whole;
-  const QSize size = withBars.boundedTo(clipped_ ? room : whole);
-  const bool mayShrink = CanResize() || clipped_;
-  setMinimumSize(mayShrink ? LeastFrame().boundedTo(size) : size);
-  setMaximumSize(CanResize() ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : withBars);
-  resize(size);
+  const QSize whole = FrameFor(InsidePixels(memory_.Normal()));
+  const FrameFit fit = FitOnScreen(ExtentOf(whole), ExtentOf(RoomOnScreen(whole)), Bars(), LeastFrame(),
+                                   {window_->hasFrame, CanResize()});
+  memory_.SetClipped(fit.clipped);
+  setMinimumSize(SizeOf(fit.least));
+  setMaximumSize(SizeOf(fit.most));
+  resize(SizeOf(fit.size));
   PlaceInside();
   ShowBars();
 }
@@ -166,22 +159,17 @@ void FormWidget::PlaceInside() {
 void FormWidget::TellSize() {
   const Zoom& zoom = stage_->zoom;
   const QSize before = ClientPixels(*window_, zoom);
-  const QSize normal = InsidePixels(normal_);
+  const QSize normal = InsidePixels(memory_.Normal());
   const QSize now = InsideOfFrame();
   const QSize change = now - before;
   if (std::max(std::abs(change.width()), std::abs(change.height())) <= Rounding()) return;
-  // A side that was not drawn at keeps its length to the twip, and gets its old one back so.
   Window& window = *window_;
-  const auto length = [&](int pixels, int same, float twips, int old, double oldTwips, float inner) {
-    if (pixels == same) return twips;
-    if (pixels == old) return static_cast<float>(oldTwips);
-    return static_cast<float>(zoom.Twips(pixels)) + (twips - inner);
-  };
-  const float newWidth =
-      length(now.width(), before.width(), window.Width, normal.width(), normal_.width(), window.InnerWidth());
-  const float newHeight = length(now.height(), before.height(), window.Height, normal.height(),
-                                 normal_.height(), window.InnerHeight());
-  normalBefore_ = normal_;
+  const TwipExtent& outer = memory_.Normal();
+  const Side across{window.Width, window.InnerWidth(), before.width(), outer.width, normal.width()};
+  const Side down{window.Height, window.InnerHeight(), before.height(), outer.height, normal.height()};
+  const float newWidth = OuterLength(now.width(), across, zoom);
+  const float newHeight = OuterLength(now.height(), down, zoom);
+  memory_.AboutToTell();
   {
     const QScopedValueRollback<bool> telling(tellingFrame_, true);
     stage_->input.Do([&] { return user::Resize(window, newWidth, newHeight); });
