@@ -30,9 +30,7 @@ void Hold(DecisionPanelState& panel, const Controls& controls) {
 
 void TakeAnswer(Program& program) {
   DecisionPanelState& panel = program.decisionPanel;
-  panel.load.reset();
-  if (panel.unanswered == Question::LoadWithChanges)
-    panel.load = AnsweredLoad{.modeBefore = panel.modeBefore};
+  if (panel.unanswered == Question::LoadWithChanges) panel.load = AnsweredLoad{panel.modeBefore};
   panel.unanswered = Question::None;
   EnableAgain(program);
 }
