@@ -1,14 +1,13 @@
 #include "calc/plan_search.h"
 
+#include "calc/search_bounds.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace veldrin {
 
 namespace {
-
-constexpr int kAutoPasses = 20;
-constexpr int kMixedPasses = 21;  // the 21st widening goes beyond 20 km/h
 
 /// Sets the later ones of equal plans to the empty text and counts them.
 int EmptyDuplicates(Workspace& workspace) {

@@ -175,6 +175,10 @@ class ArgumentReader {
       result_.action = PlanAction::Version;
     } else if (word == "--check") {
       result_.action = PlanAction::Check;
+    } else if (word == "--why") {
+      if (result_.why) Refuse("--why is given twice");
+      result_.why = true;
+      given_.push_back(word);
     } else if (word.starts_with(kCheckFile)) {
       result_.action = PlanAction::Check;
       TakeList(word.substr(kCheckFile.size()));
@@ -193,7 +197,7 @@ class ArgumentReader {
   void ReadOption(const std::string& word) {
     const std::size_t equals = word.find('=');
     const std::string option = word.substr(0, equals);
-    if (option == "--help" || option == "--version") Refuse(option + " takes no value");
+    if (option == "--help" || option == "--version" || option == "--why") Refuse(option + " takes no value");
     const auto found = Readers().find(option);
     if (found == Readers().end()) Refuse("unknown option " + Quoted(option) + "; --help tells all");
     const bool isGiven = std::find(given_.begin(), given_.end(), option) != given_.end();
@@ -220,6 +224,9 @@ class ArgumentReader {
         if (option != "--encoding") Refuse("--check and " + option + " do not go together");
       }
       return;
+    }
+    if (result_.why && result_.format == PlanFormat::Csv) {
+      Refuse("--why has no columns; type --format table or --format json with it");
     }
     if (!IsGiven("--speed")) Refuse("--speed is missing; --help tells more");
     for (const char* option : {"--main", "--min-plan"}) {

@@ -28,6 +28,7 @@ struct PlanArguments {
   std::optional<std::int16_t> shiftNe;
   std::optional<float> tyreLength;
   std::int16_t minPlan = 1;
+  bool why = false;  // tell why a search finds nothing
   PlanFormat format = PlanFormat::Table;
   std::optional<int> page;  // code page of the list; nothing for what the system says
 

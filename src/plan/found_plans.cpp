@@ -1,18 +1,12 @@
 #include "plan/found_plans.h"
 
 #include "calc/gear_speed.h"
-#include "calc/plan_rows.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 
 namespace veldrin {
 
-namespace {
-
-/// The plan of one text of the list: the rows of primary, final and the six gears.
-FoundPlan PlanOf(const Workspace& workspace, const std::string& text) {
-  PlanRows rows;
-  ReadListText(text, '.', rows);
+FoundPlan FoundPlanOf(const Workspace& workspace, const PlanRows& rows) {
   FoundPlan plan;
   plan.primary = Trim(workspace.PrimaryTable[rows.primary].Text);
   plan.final = Trim(workspace.FinalTable[rows.final].Text);
@@ -31,13 +25,14 @@ FoundPlan PlanOf(const Workspace& workspace, const std::string& text) {
   return plan;
 }
 
-}  // namespace
-
 std::vector<FoundPlan> FoundPlans(const Workspace& workspace) {
   std::vector<FoundPlan> plans;
   for (int k = 1; k <= workspace.PlanCount; ++k) {
     const std::string& text = workspace.PlanList[k];
-    if (!text.empty()) plans.push_back(PlanOf(workspace, text));
+    if (text.empty()) continue;
+    PlanRows rows;
+    ReadListText(text, '.', rows);
+    plans.push_back(FoundPlanOf(workspace, rows));
   }
   return plans;
 }

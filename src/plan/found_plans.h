@@ -1,7 +1,7 @@
 // The plans that a search left in the workspace, with their texts and figures.
 #pragma once
 
-#include "model/workspace.h"
+#include "calc/plan_rows.h"
 
 #include <array>
 #include <string>
@@ -22,6 +22,10 @@ struct FoundPlan {
   std::string final;
   std::array<FoundGear, kGears> gears;
 };
+
+/// The plan of these rows, with the requests of the workspace. Raises fault 9 for rows outside the tables, 11
+/// (or 6) where a speed of 0 or a pair without driven teeth is a divisor.
+FoundPlan FoundPlanOf(const Workspace& workspace, const PlanRows& rows);
 
 /// The plans of `PlanList`, in its order. Gaps that the search leaves between them are passed over. Raises
 /// fault 11 (or 6) where a speed of 0 is a divisor.

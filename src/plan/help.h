@@ -16,6 +16,8 @@ inline constexpr char kPlanHelp[] =
   --main G            gear G stays within 1 km/h; not together with --manual
   --min-plan N        plans wanted before the search stops, 1 to 30, default 1; not together with --manual.
                       A gap that the search leaves in its list counts as one, and is not printed
+  --why               when no plan is found: what stands in the way, the speeds that each gear reaches next to
+                      its request, and the nearest combination of all that can be fitted. Table or json
   --shift-ne N        shift-up revolutions, 5000 to 24000, default the list's SHIFT_NE, else 13000
   --tyre L            rolling length of the tyre in metres, 1 to 3, default the list's TYRE_L, else 1.9
   --format FORMAT     table (default): a block for each plan

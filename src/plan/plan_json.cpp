@@ -1,9 +1,9 @@
+#include "plan/json_text.h"
 #include "plan/plan_output.h"
+#include "plan/why.h"
 #include "runtime/conversion.h"
 
 namespace veldrin {
-
-namespace {
 
 std::string JsonText(const std::string& text) {
   constexpr char kDigits[] = "0123456789abcdef";
@@ -24,6 +24,8 @@ std::string JsonText(const std::string& text) {
   return json + '"';
 }
 
+namespace {
+
 void WriteGear(std::ostream& out, int number, const FoundGear& gear) {
   out << "        {\"gear\": " << number << ", \"pair\": " << JsonText(gear.pair)
       << ", \"request\": " << ShortestText(gear.request) << ", \"speed\": " << ShortestText(gear.speed)
@@ -31,7 +33,9 @@ void WriteGear(std::ostream& out, int number, const FoundGear& gear) {
       << ", \"ne_after\": " << (number > 1 ? ShortestText(gear.afterNe) : "null") << '}';
 }
 
-void WritePlan(std::ostream& out, const FoundPlan& plan) {
+}  // namespace
+
+void WriteJsonPlan(std::ostream& out, const FoundPlan& plan) {
   out << "    {\n      \"primary\": " << JsonText(plan.primary)
       << ",\n      \"final\": " << JsonText(plan.final) << ",\n      \"gears\": [\n";
   int number = 0;
@@ -42,19 +46,23 @@ void WritePlan(std::ostream& out, const FoundPlan& plan) {
   out << "\n      ]\n    }";
 }
 
-}  // namespace
-
-void WriteJson(std::ostream& out, const Workspace& workspace, const std::vector<FoundPlan>& plans) {
+void WriteJson(std::ostream& out, const Workspace& workspace, const std::vector<FoundPlan>& plans,
+               const NearestPlans* why) {
   out << "{\n  \"machine\": " << JsonText(workspace.MachineName)
       << ",\n  \"tyre\": " << ShortestText(workspace.TyreLength) << ",\n  \"shift_ne\": " << workspace.ShiftNe
       << ",\n  \"plans\": [";
   const char* separator = "\n";
   for (const FoundPlan& plan : plans) {
     out << separator;
-    WritePlan(out, plan);
+    WriteJsonPlan(out, plan);
     separator = ",\n";
   }
-  out << (plans.empty() ? "]\n}\n" : "\n  ]\n}\n");
+  out << (plans.empty() ? "]" : "\n  ]");
+  if (why != nullptr) {
+    out << ",\n  \"why\": ";
+    WriteWhyJson(out, workspace, *why);
+  }
+  out << "\n}\n";
 }
 
 }  // namespace veldrin

@@ -51,6 +51,13 @@ std::string ManualGear(PlanArguments arguments, const Workspace& machine) {
   return "";
 }
 
+/// The gears that --manual holds.
+Table<bool, 1, kGears> ManualGears(const PlanArguments& arguments) {
+  Table<bool, 1, kGears> manual;
+  for (int gear = 1; gear <= kGears; ++gear) manual[gear] = arguments.manual[gear].has_value();
+  return manual;
+}
+
 }  // namespace
 
 bool RunSearch(const PlanArguments& arguments, Workspace& machine) {
@@ -58,14 +65,17 @@ bool RunSearch(const PlanArguments& arguments, Workspace& machine) {
   machine.SpeedRequest = arguments.speed;
   const Blink silent = [](int) {};
   if (!arguments.HasManual()) return SearchAuto(machine, arguments.mainGear, silent);
-  Table<bool, 1, kGears> manual;
   for (int gear = 1; gear <= kGears; ++gear) {
-    manual[gear] = arguments.manual[gear].has_value();
     const ManualBounds bounds = arguments.manual[gear].value_or(ManualBounds{1, 1});
     machine.ToleranceMinus[gear] = bounds.minus;
     machine.TolerancePlus[gear] = bounds.plus;
   }
-  return SearchMixed(machine, manual, silent);
+  return SearchMixed(machine, ManualGears(arguments), silent);
+}
+
+NearestPlans WhyNoPlan(const PlanArguments& arguments, const Workspace& searched) {
+  return FindNearestPlans(searched, arguments.HasManual() ? MixedBounds(searched, ManualGears(arguments))
+                                                          : AutoBounds(arguments.mainGear));
 }
 
 std::string NarrowingOption(const PlanArguments& arguments, const Workspace& machine) {

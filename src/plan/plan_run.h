@@ -1,6 +1,7 @@
 // A search with the arguments of a command line.
 #pragma once
 
+#include "calc/nearest_plan.h"
 #include "model/workspace.h"
 #include "plan/arguments.h"
 
@@ -11,6 +12,9 @@ namespace veldrin {
 /// Searches the machine's plans as the arguments ask for. True when there are some; they stand in `PlanList`.
 /// Raises what the searches raise: fault 9 for more plans than the list holds.
 bool RunSearch(const PlanArguments& arguments, Workspace& machine);
+
+/// Why that search finds nothing, with the machine as the search left it. Raises nothing.
+NearestPlans WhyNoPlan(const PlanArguments& arguments, const Workspace& searched);
 
 /// An option with a value under which a search that found more plans than the list holds finds some that fit,
 /// such as "--main 3", and which options have to go for it; empty when there is none. It is tried out, so it

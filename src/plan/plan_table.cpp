@@ -1,3 +1,5 @@
+#include "plan/plan_table.h"
+
 #include "plan/columns.h"
 #include "plan/plan_output.h"
 #include "runtime/conversion.h"
@@ -7,10 +9,6 @@
 
 namespace veldrin {
 
-namespace {
-
-constexpr const char* kGearNames[] = {"1ST", "2ND", "3RD", "4TH", "5TH", "6TH"};
-
 int WidthOfPairs(const std::vector<FoundPlan>& plans) {
   int width = Columns("pair");
   for (const FoundPlan& plan : plans) {
@@ -19,6 +17,8 @@ int WidthOfPairs(const std::vector<FoundPlan>& plans) {
   return width;
 }
 
+namespace {
+
 /// The speed's distance from the request with its sign, which nothing does not have.
 std::string Distance(const FoundGear& gear) {
   const std::string text = FormatNumber(gear.speed - gear.request, "+0.0;-0.0");
@@ -26,7 +26,7 @@ std::string Distance(const FoundGear& gear) {
 }
 
 void WriteGear(std::ostream& out, std::size_t k, const FoundGear& gear, int pairWidth) {
-  out << "  " << kGearNames[k] << "   " << Behind(gear.pair, pairWidth)
+  out << "  " << GearName(static_cast<int>(k) + 1) << "   " << Behind(gear.pair, pairWidth)
       << Before(ShortestText(gear.request), 10) << Before(FormatNumber(gear.speed, "0.0"), 8)
       << Before(Distance(gear), 8);
   if (k > 0) out << Before(FormatNumber(gear.step, "0.0"), 8) << Before(FormatNumber(gear.afterNe, "0"), 10);
@@ -35,17 +35,30 @@ void WriteGear(std::ostream& out, std::size_t k, const FoundGear& gear, int pair
 
 }  // namespace
 
-void WriteTable(std::ostream& out, const Workspace& workspace, const std::vector<FoundPlan>& plans) {
+std::string GearName(int gear) {
+  constexpr const char* kNames[] = {"1ST", "2ND", "3RD", "4TH", "5TH", "6TH"};
+  return kNames[gear - 1];
+}
+
+void WriteTableHead(std::ostream& out, const Workspace& workspace, const std::string& count) {
   out << workspace.MachineName << "   tyre " << ShortestText(workspace.TyreLength) << " m   shift "
-      << workspace.ShiftNe << " rev/min   " << plans.size() << (plans.size() == 1 ? " plan\n" : " plans\n");
+      << workspace.ShiftNe << " rev/min   " << count << '\n';
+}
+
+void WriteTablePlan(std::ostream& out, const std::string& title, const FoundPlan& plan, int pairWidth) {
+  out << '\n'
+      << title << "   primary " << plan.primary << "   final " << plan.final << '\n'
+      << "  gear  " << Behind("pair", pairWidth) << Before("request", 10) << Before("speed", 8)
+      << Before("off", 8) << Before("step", 8) << Before("ne after", 10) << '\n';
+  for (std::size_t k = 0; k < plan.gears.size(); ++k) WriteGear(out, k, plan.gears[k], pairWidth);
+}
+
+void WriteTable(std::ostream& out, const Workspace& workspace, const std::vector<FoundPlan>& plans) {
+  WriteTableHead(out, workspace, std::to_string(plans.size()) + (plans.size() == 1 ? " plan" : " plans"));
   const int pairWidth = WidthOfPairs(plans);
   int number = 0;
-  for (const FoundPlan& plan : plans) {
-    out << "\nPlan " << ++number << "   primary " << plan.primary << "   final " << plan.final << '\n'
-        << "  gear  " << Behind("pair", pairWidth) << Before("request", 10) << Before("speed", 8)
-        << Before("off", 8) << Before("step", 8) << Before("ne after", 10) << '\n';
-    for (std::size_t k = 0; k < plan.gears.size(); ++k) WriteGear(out, k, plan.gears[k], pairWidth);
-  }
+  for (const FoundPlan& plan : plans)
+    WriteTablePlan(out, "Plan " + std::to_string(++number), plan, pairWidth);
 }
 
 }  // namespace veldrin

@@ -9,6 +9,7 @@
 #include "plan/machine.h"
 #include "plan/plan_output.h"
 #include "plan/plan_run.h"
+#include "plan/why.h"
 #include "runtime/fault.h"
 #include "runtime/text_file.h"
 
@@ -67,6 +68,15 @@ void WritePlans(std::ostream& out, PlanFormat format, const Workspace& workspace
   }
 }
 
+void WriteWhy(const PlanArguments& arguments, const Workspace& searched, std::ostream& out) {
+  const NearestPlans why = WhyNoPlan(arguments, searched);
+  if (arguments.format == PlanFormat::Json) {
+    WriteJson(out, searched, {}, &why);
+  } else {
+    WriteWhyTable(out, searched, why);
+  }
+}
+
 std::string TooManyPlans(const PlanArguments& arguments, const Workspace& machine) {
   const std::string option = NarrowingOption(arguments, machine);
   return "more than " + std::to_string(kPlanLimit) + " plans meet these speeds; " +
@@ -103,7 +113,11 @@ int Search(const PlanArguments& arguments, const CodePages& pages, std::ostream&
   }
   try {
     const bool found = RunSearch(arguments, workspace);
-    WritePlans(out, arguments.format, workspace, found ? FoundPlans(workspace) : std::vector<FoundPlan>());
+    if (!found && arguments.why) {
+      WriteWhy(arguments, workspace, out);
+    } else {
+      WritePlans(out, arguments.format, workspace, found ? FoundPlans(workspace) : std::vector<FoundPlan>());
+    }
     if (found) return kDone;
   } catch (const RuntimeFault& fault) {
     errors << path << ": " << FaultText(fault.number, arguments, workspace) << '\n';
