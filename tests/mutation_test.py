@@ -57,6 +57,12 @@ class Mutants(unittest.TestCase):
     def test_comments_and_directives_stay(self):
         self.assertEqual(changes('#include "a.h"\n// 1 < 2\n/* 3 */\n'), [])
 
+    def test_branches_that_are_not_compiled_stay(self):
+        source = "#ifdef _WIN32\nint a = 1;\n#elif X\nint b = 1;\n#else\nint c = 1;\n#endif\nint d = 1;\n"
+        self.assertEqual([line[4] for line in changes(source)], ["b", "b", "d", "d"])
+        source = "#ifndef _WIN32\nint a = 1;\n#else\nint b = 1;\n#endif\n#if X\nint c = 1;\n#else\nint d = 1;\n#endif\n"
+        self.assertEqual([line[4] for line in changes(source)], ["a", "a", "c", "c"])
+
     def test_conditions_are_negated_once(self):
         self.assertEqual(changes(body("if (a && b) F();"), "condition"), ["if (!(a && b)) F();"])
         self.assertEqual(changes(body("if (a == b) F();"), "condition"), [], "the comparison is turned")

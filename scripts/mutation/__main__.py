@@ -4,6 +4,7 @@ import argparse
 import fcntl
 import os
 import re
+import signal
 import sys
 import time
 
@@ -115,6 +116,7 @@ def print_figures(rows):
 
 
 def main():
+    signal.signal(signal.SIGTERM, lambda number, frame: sys.exit(1))  # so that what was started ends as well
     told = arguments()
     root = os.getcwd()
     files = sources_of(root, told.places, told.qt)

@@ -33,9 +33,34 @@ class Token:
         return self.start + len(self.text)
 
 
+class Branches:
+    """Which branch of each `#if` the compiler takes: not that of Windows, else the first."""
+
+    def __init__(self):
+        self.open_ones = []  # for each #if: whether its branch is taken, and whether one was taken before
+
+    def read(self, directive):
+        words = directive.replace("#", " ", 1).split()
+        word, condition = words[0] if words else "", " ".join(words[1:])
+        if word in {"if", "ifdef", "ifndef"}:
+            windows = "_WIN32" in condition
+            taken = not windows or word == "ifndef" or "!" in condition
+            self.open_ones.append((taken, taken))
+        elif word in {"elif", "else"} and self.open_ones:
+            before = self.open_ones.pop()[1]
+            taken = not before and "_WIN32" not in condition
+            self.open_ones.append((taken, before or taken))
+        elif word == "endif" and self.open_ones:
+            self.open_ones.pop()
+
+    def taken(self):
+        return all(taken for taken, _ in self.open_ones)
+
+
 def tokens_of(source):
-    """The tokens but comments and directives, in order."""
+    """The tokens that the compiler sees, but directives, in order."""
     found = []
+    branches = Branches()
     fenced = False
     at = 0
     while at < len(source):
@@ -51,7 +76,9 @@ def tokens_of(source):
         if kind == "comment":
             if "clang-format off" in text or "clang-format on" in text:
                 fenced = "clang-format off" in text
-        elif kind != "directive":
+        elif kind == "directive":
+            branches.read(text)
+        elif branches.taken():
             before = source[at - 1 : at]
             behind = source[match.end() : match.end() + 1]
             found.append(Token(kind, text, at, before.isspace() and behind.isspace(), fenced))
