@@ -12,9 +12,11 @@ bool IsOneOf(const std::string& word, std::initializer_list<const char*> words) 
   return std::any_of(words.begin(), words.end(), [&](const char* each) { return word == each; });
 }
 
-/// The start is over when the splash is gone.
+/// The start is over when the splash has given way to a window. At the end of a session it goes between its
+/// ticks, and what was begun then never comes to an end.
 bool IsAtWork(const Look& look) {
-  return !look.now.ended && look.program.form2.loaded && !look.program.form1.loaded;
+  const bool handedOver = look.program.form2.Visible || look.now.chooserUp;
+  return !look.now.ended && handedOver && !look.program.form1.loaded;
 }
 
 class WordRule : public Rule {
