@@ -174,7 +174,7 @@ bool IsSmall(int number) {
   return number < 0;
 }
 """,
-    "src/toy/toy.h": "#pragma once\nbool IsLarge(int number);\nbool IsFour(int number);\nbool IsSmall(int number);\n",
+    "src/toy/toy.h": "#pragma once\nconstexpr int kNone = 0;\nbool IsLarge(int number);\nbool IsFour(int number);\nbool IsSmall(int number);\n",
     "tests/toy/toy_test.cpp": """#include "toy/toy.h"
 int main() {
   return IsLarge(20) && !IsLarge(3) && IsFour(4) && IsSmall(-3) && !IsSmall(3) ? 0 : 1;
@@ -216,6 +216,12 @@ class WholeRun(unittest.TestCase):
             self.assertRegex(told, r"(?m)^toy +3 +3 +1 +0 +1 +1 +33.3$")
             with open(os.path.join(root, "src/toy/toy.cpp"), encoding="utf-8") as file:
                 self.assertEqual(file.read(), TREE["src/toy/toy.cpp"])
+            listed = [
+                subprocess.run([*command[:4], "--list", *more], cwd=root, stdout=subprocess.PIPE, text=True).stdout
+                for more in ([], ["--sources"])
+            ]
+            self.assertEqual(["src/toy/toy.h:" in one for one in listed], [True, False])
+            self.assertIn("src/toy/toy.cpp:", listed[1])
             again = subprocess.run(command, cwd=root, stdout=subprocess.PIPE, text=True, check=True).stdout
             self.assertIn("3 mutants, 0 of them to be tried", again)
 

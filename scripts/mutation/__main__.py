@@ -31,6 +31,8 @@ def arguments():
     parser.add_argument("--seed", type=int, default=1, metavar="S", help="another draw for each number (default 1)")
     parser.add_argument("--kind", action="append", metavar="KIND",
                         help="only arithmetic, bound, comparison, condition, constant, drop, logic, swap or text")
+    parser.add_argument("--sources", action="store_true",
+                        help="leave the headers alone, most of which nearly everything is built anew for")
     parser.add_argument("--tables", action="store_true", help="also what stands in the headers' tables of windows")
     parser.add_argument("--qt", action="store_true", help="build with the desktop, for the folders that need Qt")
     parser.add_argument("--nearby", action="store_true",
@@ -120,6 +122,8 @@ def main():
     told = arguments()
     root = os.getcwd()
     files = sources_of(root, told.places, told.qt)
+    if told.sources:
+        files = [file for file in files if file.endswith(".cpp")]
     sources = {}
     mutants = []
     for file in files:
