@@ -113,6 +113,7 @@ bool OpenDroppedFile(Program& program, const std::string& path) {
   const bool discards = MustAskBeforeLoading(program);
   if (discards) {
     if (!AgreesToDiscard(program)) return true;
+    program.hooks.GivenUp();
     workspace.DataChanged = dirty::kNo;
   }
   ForgetWaitingList(program);

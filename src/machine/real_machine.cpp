@@ -3,7 +3,7 @@
 namespace veldrin {
 
 RealMachine::RealMachine(Windows& windows, TextMetrics& metrics)
-    : printer(metrics), machine{files, registry, profile, environment, instances, screen, windows,
-                                boxes, metrics,  printer, pictures,    shell,     sound,  figures} {}
+    : printer(metrics), machine{files,   registry, profile, environment, instances, screen, windows, boxes,
+                                notices, metrics,  printer, pictures,    shell,     sound,  figures} {}
 
 }  // namespace veldrin

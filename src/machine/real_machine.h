@@ -5,6 +5,7 @@
 
 #include "machine/files/real_files.h"
 #include "machine/output/real_boxes.h"
+#include "machine/output/real_notices.h"
 #include "machine/output/real_pictures.h"
 #include "machine/output/real_printer.h"
 #include "machine/output/real_shell.h"
@@ -32,6 +33,7 @@ class RealMachine {
   RealScreen screen;
   RealPrinter printer;
   RealBoxes boxes{printer};
+  RealNotices notices;
   RealPictures pictures{files};
   RealShell shell{files};
   RealSound sound{files};

@@ -52,6 +52,7 @@ struct Workspace {
   std::string MachineName;    // as written in the list file
   std::string MachineKey;     // in lower case; empty while no machine is loaded; extension of plan files
   std::string LoadedMachine;  // name of the machine that the tables hold whole; empty for none
+  std::string LoadedList;     // path of the list that the tables were read from
   Table<std::int16_t, 1, kFinalDriveLimit> FinalDriveList;  // teeth
   std::int16_t FinalDriveCount = 0;
   Table<std::int16_t, 1, kFinalDrivenLimit> FinalDrivenList;  // teeth

@@ -5,6 +5,7 @@
 #include "script/script_suggest.h"
 #include "script/variables.h"
 #include "simulated/printed_values.h"
+#include "workspace/language.h"
 
 #include <algorithm>
 
@@ -30,6 +31,10 @@ Answer AskFlashes(ScriptWorld& world) {
   return {ValueText(world.machine.log.flashes), {}};
 }
 
+Answer AskNotices(ScriptWorld& world) {
+  return {ValueText(static_cast<int>(world.machine.notices.told.size())), {}};
+}
+
 Answer AskBlocked(ScriptWorld& world) {
   return {ValueText(world.blocked), {}};
 }
@@ -51,7 +56,7 @@ struct PlainQuestion {
 
 constexpr PlainQuestion kPlainQuestions[] = {
     {"log", AskLog},         {"boxes", AskBoxes}, {"beeps", AskBeeps},   {"flashes", AskFlashes},
-    {"blocked", AskBlocked}, {"ended", AskEnded}, {"Result", AskResult},
+    {"blocked", AskBlocked}, {"ended", AskEnded}, {"Result", AskResult}, {"notices", AskNotices},
 };
 
 /// box(K).Icon, .Title, .Text and .Answer.
@@ -72,6 +77,43 @@ Answer AskBox(ScriptWorld& world, const ScriptName& name) {
     }
   }
   throw ScriptError{NameText(name) + ": a box is asked as box(K).Icon, .Title, .Text or .Answer"};
+}
+
+const char* SeverityWord(Severity severity) {
+  switch (severity) {
+    case Severity::Warning:
+      return "warning";
+    case Severity::Failure:
+      return "failure";
+    case Severity::Information:
+      break;
+  }
+  return "information";
+}
+
+std::string NoticeField(const Notice& notice, const std::string& field, bool japanese) {
+  if (field == "Text") return notice.text.In(japanese);
+  if (field == "Severity") return SeverityWord(notice.severity);
+  std::string captions;
+  for (const NoticeAction& action : notice.actions) {
+    captions += (&action == &notice.actions.front() ? "" : ",") + action.caption.In(japanese);
+  }
+  return captions;
+}
+
+/// notice(K).Text, .Severity and .Actions, from 1, or from the end when negative.
+Answer AskNotice(ScriptWorld& world, const ScriptName& name) {
+  const bool asked = name.size() == 2 && name[0].indices.size() == 1 && name[1].indices.empty();
+  const std::string field = asked ? name[1].name : "";
+  if (field != "Text" && field != "Severity" && field != "Actions") {
+    throw ScriptError{NameText(name) + ": a notice is asked as notice(K).Text, .Severity or .Actions"};
+  }
+  const std::vector<Notice>& told = world.machine.notices.told;
+  const int index = name[0].indices[0];
+  const int place = index < 0 ? static_cast<int>(told.size()) + index : index - 1;
+  if (place < 0 || place >= static_cast<int>(told.size())) return {kNone, {}};
+  const bool japanese = SpeaksJapanese(world.Asked().workspace);
+  return {NoticeField(told[static_cast<std::size_t>(place)], field, japanese), {}};
 }
 
 /// Printer and Clipboard, in lines.
@@ -123,7 +165,7 @@ Answer AskSlot(ScriptWorld& world, const ScriptName& name) {
   const std::vector<std::string>& windows = ScriptCatalogue::WindowNames();
   known.insert(known.end(), windows.begin(), windows.end());
   for (const PlainQuestion& question : kPlainQuestions) known.emplace_back(question.name);
-  for (const char* other : {"file", "files", "registry", "box", "Printer", "Clipboard"}) {
+  for (const char* other : {"file", "files", "registry", "box", "notice", "Printer", "Clipboard"}) {
     known.emplace_back(other);
   }
   throw ScriptError{"unknown name " + name + Suggestion(name, known)};
@@ -135,6 +177,7 @@ Answer AskName(ScriptWorld& world, const ScriptName& name) {
     if (first.name == question.name && first.indices.empty() && name.size() == 1) return question.ask(world);
   }
   if (first.name == "box") return AskBox(world, name);
+  if (first.name == "notice") return AskNotice(world, name);
   if (first.name == "Printer" || first.name == "Clipboard") return AskDevice(world, name);
   if (ScriptCatalogue::IsWindow(first.name)) return AskSlot(world, name);
   if (!IsVariable(world.Asked(), first.name)) FailUnknown(world, first.name);

@@ -7,6 +7,7 @@
 #include "simulated/simulated_clock.h"
 #include "simulated/simulated_files.h"
 #include "simulated/simulated_log.h"
+#include "simulated/simulated_notices.h"
 #include "simulated/simulated_printer.h"
 #include "simulated/simulated_registry.h"
 #include "simulated/simulated_shell.h"
@@ -32,6 +33,7 @@ struct SimulatedMachine {
   SimulatedClock clock;
   SimulatedWindows windows{clock, log};
   SimulatedBoxes boxes{log};
+  SimulatedNotices notices;
   SimulatedMetrics metrics;
   SimulatedPrinter printer{metrics};
   SimulatedPictures pictures{files};
@@ -40,8 +42,8 @@ struct SimulatedMachine {
   SimulatedFigures figures;
 
   /// What the program sees of it.
-  Machine machine{files, registry, profile, environment, instances, screen, windows,
-                  boxes, metrics,  printer, pictures,    shell,     sound,  figures};
+  Machine machine{files,   registry, profile, environment, instances, screen, windows, boxes,
+                  notices, metrics,  printer, pictures,    shell,     sound,  figures};
 };
 
 }  // namespace veldrin

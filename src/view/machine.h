@@ -4,6 +4,7 @@
 
 #include "platform/canvas.h"
 #include "platform/files.h"
+#include "platform/notices.h"
 #include "platform/screen.h"
 #include "platform/system.h"
 #include "view/windows.h"
@@ -19,6 +20,7 @@ struct Machine {
   Screen& screen;
   Windows& windows;
   Boxes& boxes;
+  Notices& notices;
   TextMetrics& metrics;
   Printer& printer;
   Pictures& pictures;

@@ -80,8 +80,8 @@ Machine& WidgetHand::MachineOf(SimulatedMachine& simulated) {
   scriptWindows_.emplace(simulated.windows, windows_);
   Machine& all = simulated.machine;
   machine_.emplace(Machine{all.files, all.registry, all.profile, all.environment, all.instances, all.screen,
-                           *scriptWindows_, all.boxes, all.metrics, all.printer, all.pictures, all.shell,
-                           all.sound, all.figures});
+                           *scriptWindows_, all.boxes, all.notices, all.metrics, all.printer, all.pictures,
+                           all.shell, all.sound, all.figures});
   return *machine_;
 }
 

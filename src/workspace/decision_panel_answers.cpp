@@ -78,6 +78,7 @@ void SaveAndQuit(Program& program) {
 
 void QuitWithoutSaving(Program& program) {
   program.workspace.QuickQuit = kYesWord;
+  program.hooks.GivenUp();
   program.form2.Timer3.Enabled = false;
   program.form2.UnloadWindow();
 }
@@ -92,6 +93,7 @@ void SaveAndReopen(Program& program) {
 
 /// The changes are dropped before the chooser comes up, whose CANCEL brings them back.
 void LoadWithoutSaving(Program& program) {
+  program.hooks.GivenUp();
   program.workspace.DataChanged = dirty::kNo;
   HidePanel(program);
   TakeAnswer(program);
@@ -106,7 +108,10 @@ void ReopenWithoutSaving(Program& program) {
   Workspace& workspace = program.workspace;
   const int index = workspace.PendingHistoryIndex;
   const bool there = program.form2.menu_files.Has(index);
-  if (there) workspace.DataChanged = dirty::kNo;
+  if (there) {
+    program.hooks.GivenUp();
+    workspace.DataChanged = dirty::kNo;
+  }
   HidePanel(program);
   TakeAnswer(program);
   if (!there) return;

@@ -38,11 +38,6 @@ const Cause& CauseOf(int fault) {
   return found == std::end(kCauses) ? kAnyOther : *found;
 }
 
-/// A caption file is there on Japanese systems alone.
-bool SpeaksJapanese(const Workspace& workspace) {
-  return workspace.IsJapanese == 1 && workspace.Language != kEnglish;
-}
-
 std::string InLanguage(const Workspace& workspace, const Cause& cause) {
   return SpeaksJapanese(workspace) ? cause.japanese : cause.english;
 }
@@ -52,6 +47,12 @@ std::string InLanguage(const Workspace& workspace, const Cause& cause) {
 bool IsFileFault(int fault) {
   if (fault == kFaultFileAlreadyOpen) return false;
   return fault == kFaultFileNotFound || &CauseOf(fault) != &kAnyOther;
+}
+
+BothLanguages FailureCause(int fault) {
+  if (fault == kFaultFileNotFound) return {"The file is not there.", "ファイルがありません"};
+  const Cause& cause = CauseOf(fault);
+  return {cause.english, cause.japanese};
 }
 
 std::string FailureText(const Workspace& workspace, int fault) {

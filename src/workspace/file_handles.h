@@ -41,6 +41,11 @@ class FileHandles {
   void Close(Handle handle);
   /// Gives a writing up: the file stays as it was.
   void Abandon(Handle handle) { open_.erase(handle); }
+  /// Path of the file that the handle is open on, empty when it is not.
+  std::string PathOf(Handle handle) const {
+    const auto found = open_.find(handle);
+    return found == open_.end() ? "" : found->second.path;
+  }
   bool IsOpen(Handle handle) const { return open_.count(handle) != 0; }
 
  private:

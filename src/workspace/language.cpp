@@ -57,6 +57,11 @@ void LoadLanguage(Program& program) {
   }
 }
 
+bool SpeaksJapanese(const Workspace& workspace) {
+  if (workspace.Language == kJapanese) return true;
+  return workspace.IsJapanese == 1 && workspace.Language != kEnglish;
+}
+
 const std::string& Message(const Workspace& workspace, int number) {
   return workspace.MessageTable[number];
 }

@@ -57,6 +57,10 @@ void SetTitleTexts(Program& program, int instanceNumber);
 /// file of fewer than 30 lines, what was read being stored, and the faults of a file that cannot be opened.
 void LoadLanguage(Program& program);
 
+/// Whether texts that are in both languages show in Japanese: under the Japanese table, and on a Japanese
+/// system under a caption file as well. Raises nothing.
+bool SpeaksJapanese(const Workspace& workspace);
+
 /// Message `number` (1..30). Raises fault 9 outside.
 const std::string& Message(const Workspace& workspace, int number);
 

@@ -191,6 +191,7 @@ void ReadMachineList(Program& program) {
   // Without a waiting file every field is missing, and the first keyword fails.
   TextReader nothing("");
   const bool open = program.files.IsOpen(Handle::Reader);
+  workspace.LoadedList = program.files.PathOf(Handle::Reader);
   TextReader& reader = open ? program.files.Reader(Handle::Reader) : nothing;
   const bool understood = ReadListTables(reader, workspace);
   program.files.Close(Handle::Reader);
@@ -221,6 +222,7 @@ void ReadMachineList(Program& program) {
   workspace.ModeWord = mode::kBasing;
   workspace.DataChanged = dirty::kZero;
   program.form3.Hide();
+  program.hooks.Loaded();
 }
 
 }  // namespace veldrin

@@ -190,6 +190,7 @@ void ReadOpenPlan(Program& program) {
     Raise(fault);
   }
   EnableRestore(program, false);
+  program.hooks.Loaded();
 }
 
 void ReadWorkFile(Program& program, TextReader& reader) {
@@ -215,6 +216,7 @@ void ReadWorkFile(Program& program, TextReader& reader) {
   RefreshAfterReading(program);
   ShowPlanMode(program);
   EnableRestore(program, false);
+  program.hooks.Restored();
 }
 
 /// Reads a plan; one that is refused shows how far it came.

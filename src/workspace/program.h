@@ -55,6 +55,15 @@ struct Hooks {
   /// The chooser in its saving and in its deleting role.
   Hook OpenSaveChooser;
   Hook OpenDeleteChooser;
+  // For who watches over the plan; nothing depends on these being filled.
+  /// A plan or a list was read and stands in the place of what was there.
+  Hook Loaded;
+  /// The plan on the screen has just been written to its file.
+  Hook Saved;
+  /// It is that of the working file again.
+  Hook Restored;
+  /// The user has given the unsaved changes up: what follows may drop them.
+  Hook GivenUp;
 };
 
 struct KeptMachine;

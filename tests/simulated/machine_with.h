@@ -29,9 +29,9 @@ Machine MachineWith(SimulatedMachine& simulated, Parts&... parts) {
   return {
       PartFor(own.files, parts...),       PartFor(own.registry, parts...),  PartFor(own.profile, parts...),
       PartFor(own.environment, parts...), PartFor(own.instances, parts...), PartFor(own.screen, parts...),
-      PartFor(own.windows, parts...),     PartFor(own.boxes, parts...),     PartFor(own.metrics, parts...),
-      PartFor(own.printer, parts...),     PartFor(own.pictures, parts...),  PartFor(own.shell, parts...),
-      PartFor(own.sound, parts...),       PartFor(own.figures, parts...)};
+      PartFor(own.windows, parts...),     PartFor(own.boxes, parts...),     PartFor(own.notices, parts...),
+      PartFor(own.metrics, parts...),     PartFor(own.printer, parts...),   PartFor(own.pictures, parts...),
+      PartFor(own.shell, parts...),       PartFor(own.sound, parts...),     PartFor(own.figures, parts...)};
 }
 
 }  // namespace veldrin
