@@ -6,6 +6,7 @@
 #include "runtime/fault.h"
 #include "runtime/text.h"
 #include "view/user_input.h"
+#include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/kept_machine.h"
 #include "workspace/language.h"
@@ -90,11 +91,6 @@ void TellRefusal(Program& program, const Drop& drop) {
   Tell(program, drop.listFirst.empty() ? reason : drop.listFirst + "\r\n\r\n" + reason);
 }
 
-void Open(Program& program, const std::string& path) {
-  program.workspace.CallerWord = caller::kForm1;
-  OpenAnyFile(program, path);
-}
-
 }  // namespace
 
 bool TakesDroppedFiles(const Program& program) {
@@ -118,10 +114,13 @@ bool OpenDroppedFile(Program& program, const std::string& path) {
   }
   ForgetWaitingList(program);
   SaveHistory(program);  // that of the machine that may be left
-  if (!drop.listFirst.empty()) Open(program, drop.listFirst);
-  Open(program, path);
-  SettleMachine(program);
-  workspace.CallerWord = caller::kUser;
+  if (!drop.listFirst.empty()) {
+    Under(program, caller::kForm1, [&] { OpenAnyFile(program, drop.listFirst); });
+  }
+  Under(program, caller::kForm1, [&] {
+    OpenAnyFile(program, path);
+    SettleMachine(program);
+  });
   // Nothing has come in the place of the changes: what was read would have left another word.
   if (discards && workspace.DataChanged == dirty::kNo) workspace.DataChanged = dirty::kYes;
   if (workspace.ResultWord == result::kNotGood) Tell(program, Message(workspace, kUnknownKindMessage));

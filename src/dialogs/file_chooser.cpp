@@ -9,6 +9,7 @@
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/control_states.h"
 #include "workspace/decision_panel.h"
@@ -103,7 +104,7 @@ void LoadList(Program& program) {
   Workspace& workspace = program.workspace;
   KeepMachine(program);
   workspace.ListPath = workspace.TempDir;
-  workspace.CallerWord = caller::kForm3;
+  StayUnder(program, caller::kForm3);  // until a reader sets its own
   program.form3.Command1.Enabled = false;
   SaveHistory(program);
   ClearMachine(workspace);
@@ -136,7 +137,7 @@ void LoadData(Program& program) {
     ForgetWaitingList(program);
     program.form3.Label4.Visible = false;
   }
-  workspace.CallerWord = caller::kForm3DataLoad;
+  StayUnder(program, caller::kForm3DataLoad);  // until a reader sets its own
   OpenAnyFile(program, path);
 }
 

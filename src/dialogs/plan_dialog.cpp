@@ -9,6 +9,7 @@
 #include "mainwin/search.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"
+#include "workspace/caller.h"
 #include "workspace/captions.h"
 #include "workspace/control_states.h"
 
@@ -184,9 +185,8 @@ void ForgetForbiddenPair(Form2& form2) {
 
 /// The chosen rows and pairs on the main window, without a refresh.
 void ShowChosenRows(Program& program) {
-  Workspace& workspace = program.workspace;
+  const Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  workspace.CallerWord = caller::kModule1;
   EnableAll({&form2.Label6, &form2.Label8, &form2.HScroll1, &form2.HScroll2, &form2.Command11});
   form2.Label6.Caption = workspace.PrimaryTable[workspace.PrimaryIndex].Text;
   form2.Label8.Caption = workspace.FinalTable[workspace.FinalIndex].Text;
@@ -217,10 +217,8 @@ void Command1_Click(Program& program) {
   Form2& form2 = program.form2;
   TakePlan(program);
   ShowPlanPanels(form2);
-  ShowChosenRows(program);
-  workspace.CallerWord = caller::kForm4Ok;
-  RefreshDisplay(program);
-  workspace.CallerWord = caller::kUser;
+  Under(program, caller::kModule1, [&] { ShowChosenRows(program); });
+  Under(program, caller::kForm4Ok, [&] { RefreshDisplay(program); });
   form2.Show();
   workspace.ResultWord = result::kNone;
   if (workspace.ModeWord != mode::kReferenceInForce && !workspace.WorkFileStale)
@@ -252,9 +250,7 @@ void Command2_Click(Program& program) {
 /// A quick-ratio or reference file was not followed by a plan of its own: the one before it stands, with
 /// speeds at the file's tyre length and revolutions.
 void KeepPlanAtNewConditions(Program& program) {
-  program.workspace.CallerWord = caller::kScroll;
-  RefreshDisplay(program);
-  program.workspace.CallerWord = caller::kUser;
+  Under(program, caller::kScroll, [&] { RefreshDisplay(program); });
 }
 
 /// By either button or by closing the window.

@@ -6,6 +6,7 @@
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
+#include "workspace/caller.h"
 #include "workspace/title.h"
 
 #include <algorithm>
@@ -85,14 +86,14 @@ void PutInForce(Program& program) {
 void ShowConditions(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  workspace.CallerWord = caller::kQuick;
-  Guarded([&] { form2.Text2.Text = SingleText(workspace, workspace.CheckNe); });
-  Guarded([&] { form2.Text4.Text = std::to_string(workspace.ShiftNe); });
-  Guarded([&] { form2.Text3.Text = SingleText(workspace, workspace.TyreLength); });
+  Under(program, caller::kQuick, [&] {
+    Guarded([&] { form2.Text2.Text = SingleText(workspace, workspace.CheckNe); });
+    Guarded([&] { form2.Text4.Text = std::to_string(workspace.ShiftNe); });
+    Guarded([&] { form2.Text3.Text = SingleText(workspace, workspace.TyreLength); });
+  });
 }
 
 void LeaveChooser(Program& program) {
-  program.workspace.CallerWord = caller::kUser;
   program.form3.Command1.Enabled = false;
   program.form3.Hide();
 }

@@ -3,6 +3,7 @@
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/history_reopen.h"
 #include "workspace/kept_machine.h"
@@ -57,9 +58,7 @@ void ShowSplash(Program& program) {
 }
 
 void ShowMainWindow(Program& program) {
-  program.workspace.CallerWord = caller::kForm1Timer;
-  program.form2.Show();
-  program.workspace.CallerWord = caller::kUser;
+  Under(program, caller::kForm1Timer, [&] { program.form2.Show(); });
 }
 
 void HandOverToMainWindow(Program& program) {
@@ -78,10 +77,10 @@ void SetUpListChooser(Program& program) {
 
 /// Sets the chooser up and shows it until it hides, so that what the opener wrote on it stays.
 void ShowChooserAtStart(Program& program, void (*setUp)(Program&)) {
-  program.workspace.CallerWord = caller::kForm1Timer;
-  setUp(program);
-  ShowChooser(program, program.form3.File1);
-  program.workspace.CallerWord = caller::kUser;
+  Under(program, caller::kForm1Timer, [&] {
+    setUp(program);
+    ShowChooser(program, program.form3.File1);
+  });
 }
 
 void WaitForSecondTick(Program& program) {
@@ -100,7 +99,7 @@ void StartWithoutFile(Program& program, bool machineLoaded) {
 
 void StartWithFile(Program& program, bool machineLoaded) {
   Workspace& workspace = program.workspace;
-  workspace.CallerWord = caller::kForm1;
+  StayUnder(program, caller::kForm1);  // until a reader or the main window's showing sets its own
   OpenAnyFile(program, std::string(workspace.CommandFile));
   if (machineLoaded && workspace.ResultWord == result::kNotGood) {
     SettleMachine(program);  // a list that was refused has overwritten the default one

@@ -1,6 +1,7 @@
 #include "mainwin/chart.h"
 
 #include "runtime/conversion.h"
+#include "workspace/caller.h"
 
 namespace veldrin {
 
@@ -50,6 +51,19 @@ void DrawTooth(Program& program, const Speeds& speeds) {
   DrawSawTooth(surface, tooth, PaletteColour(kWhiteNumber));
 }
 
+void SetScales(Program& program) {
+  const Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  const float thousandNe = TwipsPerThousandNe(workspace);
+  const float twentyKmh = TwipsPerTwentyKmh(workspace);
+  PlaceTicks(form2, thousandNe, twentyKmh);
+  form2.Picture21.surface.SetScale(ChartUnits(workspace));
+  PlaceNumerals(form2, thousandNe, twentyKmh);
+  form2.HScroll1.Max = workspace.MaxNe;
+  form2.HScroll2.Max = workspace.MaxNe;
+  form2.HScroll2.Value = ToInt16(workspace.CheckNe);
+}
+
 }  // namespace
 
 void DrawRay(Surface& surface, double maxNe, double speed, double revolutions, Colour colour) {
@@ -71,19 +85,8 @@ void DrawSawTooth(Surface& surface, const SawTooth& tooth, Colour colour) {
 }
 
 void ChartScale(Program& program) {
-  Workspace& workspace = program.workspace;
-  Form2& form2 = program.form2;
-  workspace.CallerWord = caller::kInit;
-  const float thousandNe = TwipsPerThousandNe(workspace);
-  const float twentyKmh = TwipsPerTwentyKmh(workspace);
-  PlaceTicks(form2, thousandNe, twentyKmh);
-  form2.Picture21.surface.SetScale(ChartUnits(workspace));
-  PlaceNumerals(form2, thousandNe, twentyKmh);
-  form2.HScroll1.Max = workspace.MaxNe;
-  form2.HScroll2.Max = workspace.MaxNe;
-  form2.HScroll2.Value = ToInt16(workspace.CheckNe);
-  workspace.CallerWord = caller::kUser;
-  program.machine.windows.Repaint(form2);
+  Under(program, caller::kInit, [&] { SetScales(program); });
+  program.machine.windows.Repaint(program.form2);
 }
 
 void ChartPlan(Program& program) {

@@ -9,6 +9,7 @@
 #include "mainwin/gear_panel_steps.h"
 #include "mainwin/refresh_display.h"
 #include "view/bind.h"
+#include "workspace/caller.h"
 #include "workspace/decision_panel.h"
 #include "workspace/plan_file.h"
 
@@ -29,9 +30,7 @@ void Command11_Click(Program& program) {
   for (int gear = 1; gear <= kGears; ++gear) ShowBaseline(program, gear);
   if (workspace.DataChanged == dirty::kYes) workspace.RemarkChanged = dirty::kYes;
   workspace.ReferenceNe = workspace.ShiftNe;
-  workspace.CallerWord = caller::kTakeBaseline;
-  RefreshPlan(program);
-  workspace.CallerWord = caller::kUser;
+  Under(program, caller::kTakeBaseline, [&] { RefreshPlan(program); });
 }
 
 // ---- Compare, save, load ----
@@ -84,7 +83,7 @@ void Restore(Program& program) {
     if (restored) DropQuestion(program);
     return;
   }
-  workspace.CallerWord = caller::kUser;
+  StayUnder(program, caller::kUser);
   workspace.DataChanged = dataChanged;
   workspace.RemarkChanged = remarkChanged;
 }

@@ -5,7 +5,7 @@
 //   gear_panel_steps     arrows of the plan           gear_panel_lists   lists to pick from
 //
 // States that several of them set alike stand in workspace/control_states.h.
-// `CallerWord` tells the Change events who is writing; what it holds back stands at the top of each unit.
+// `CallerWord` tells the Change events who is writing (`workspace/caller.h`).
 #pragma once
 
 #include "workspace/program.h"

@@ -7,6 +7,7 @@
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/caller.h"
 #include "workspace/control_states.h"
 #include "workspace/title.h"
 
@@ -21,9 +22,8 @@ namespace {
 
 /// Readers move the bars too, and go on after a fault: the word must not outlast it.
 void RefreshForScroll(Program& program) {
-  program.workspace.CallerWord = caller::kScroll;
-  const int fault = Guarded([&] { RefreshPlan(program); });
-  program.workspace.CallerWord = caller::kUser;
+  int fault = 0;
+  Under(program, caller::kScroll, [&] { fault = Guarded([&] { RefreshPlan(program); }); });
   if (fault != 0) Raise(fault);
 }
 
@@ -111,7 +111,7 @@ void ValidateTyreLength(Program& program) {
   const auto number = ValidTyreLength(program, box);
   if (!number) return;
   workspace.TyreLength = ToSingle(*number);
-  workspace.CallerWord = caller::kUser;
+  StayUnder(program, caller::kUser);
   box.Text = SingleText(workspace, workspace.TyreLength);
   RefreshPlan(program);
 }

@@ -5,6 +5,7 @@
 #include "mainwin/search.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"
+#include "workspace/caller.h"
 #include "workspace/control_states.h"
 
 #include <string>
@@ -42,13 +43,9 @@ void ShowScrollBars(Program& program) {
 }
 
 /// The baseline that the first refresh takes belongs to the revolutions of that refresh.
-/// Kept: the working file is stale from here on, so refreshes never mark this plan as changed until a plan
-/// is read or saved. The refresh of this routine runs before the word is set.
-void MakeFirstPlan(Program& program) {
+void ShowFirstPlan(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  EnableAll({&form2.Command4, &form2.f_comp});
-  workspace.CallerWord = caller::kModule1;
   ShowFirstRows(program);
   ShowAll({&form2.Picture2, &form2.Picture3, &form2.Picture12});
   form2.Picture12.BringToFront();
@@ -61,7 +58,15 @@ void MakeFirstPlan(Program& program) {
   workspace.ReferenceNe = workspace.ShiftNe;
   ShowScrollBars(program);
   RefreshDisplay(program);
-  workspace.CallerWord = caller::kUser;
+}
+
+/// Kept: the working file is stale from here on, so refreshes never mark this plan as changed until a plan
+/// is read or saved. The refresh of the first showing runs before the word is set.
+void MakeFirstPlan(Program& program) {
+  Workspace& workspace = program.workspace;
+  Form2& form2 = program.form2;
+  EnableAll({&form2.Command4, &form2.f_comp});
+  Under(program, caller::kModule1, [&] { ShowFirstPlan(program); });
   workspace.ModeWord = mode::kChange;
   workspace.WorkFileStale = true;
   form2.Picture31.Visible = true;

@@ -6,6 +6,7 @@
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/caller.h"
 #include "workspace/control_states.h"
 
 #include <string>
@@ -108,14 +109,14 @@ void TakeBaselineAsRequest(Program& program, int gear) {
 void Command10_Click(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  workspace.CallerWord = caller::kCopyRequests;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    TakeBaselineAsRequest(program, gear);
-    workspace.RequestNe[gear] = workspace.BaseNe[gear];
-    form2.Label35[gear].Caption = form2.Label34[gear].Caption;
-  }
-  ShowRequestSteps(program);
-  workspace.CallerWord = caller::kUser;
+  Under(program, caller::kCopyRequests, [&] {
+    for (int gear = 1; gear <= kGears; ++gear) {
+      TakeBaselineAsRequest(program, gear);
+      workspace.RequestNe[gear] = workspace.BaseNe[gear];
+      form2.Label35[gear].Caption = form2.Label34[gear].Caption;
+    }
+    ShowRequestSteps(program);
+  });
   ChartScale(program);
   ChartRequest(program);
 }
@@ -234,20 +235,20 @@ void SpinButton2_SpinUp(Program& program, int gear) {
 }  // namespace
 
 void CopyBaselineToRequests(Program& program) {
-  program.workspace.CallerWord = caller::kCopyRequests;
-  for (int gear = 1; gear <= kGears; ++gear) TakeBaselineAsRequest(program, gear);
-  ShowRequestSteps(program);
-  program.workspace.CallerWord = caller::kUser;
+  Under(program, caller::kCopyRequests, [&] {
+    for (int gear = 1; gear <= kGears; ++gear) TakeBaselineAsRequest(program, gear);
+    ShowRequestSteps(program);
+  });
 }
 
 void FillRequestBoxes(Program& program) {
-  Workspace& workspace = program.workspace;
-  workspace.CallerWord = caller::kCopyRequests;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    program.form2.Text1[gear].Text = SingleText(workspace, workspace.SpeedRequest[gear]);
-  }
-  ShowRequestSteps(program);
-  workspace.CallerWord = caller::kUser;
+  const Workspace& workspace = program.workspace;
+  Under(program, caller::kCopyRequests, [&] {
+    for (int gear = 1; gear <= kGears; ++gear) {
+      program.form2.Text1[gear].Text = SingleText(workspace, workspace.SpeedRequest[gear]);
+    }
+    ShowRequestSteps(program);
+  });
 }
 
 void AttachGearPanelRequests(Program& program) {

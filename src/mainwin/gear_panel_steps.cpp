@@ -4,6 +4,7 @@
 #include "mainwin/refresh_display.h"
 #include "model/list_tables.h"
 #include "view/bind.h"
+#include "workspace/caller.h"
 #include "workspace/control_states.h"
 
 namespace veldrin {
@@ -87,13 +88,10 @@ void Row_Change(Program& program) {
 }
 
 void Label12_Change(Program& program, int) {
-  Workspace& workspace = program.workspace;
-  if (workspace.CallerWord == caller::kModule1) return;
+  if (program.workspace.CallerWord == caller::kModule1) return;
   RefreshPlan(program);
   if (!program.form2.Picture9.Visible) return;
-  workspace.CallerWord = caller::kCombination;
-  program.form2.menu_comb.Click();
-  workspace.CallerWord = caller::kUser;
+  Under(program, caller::kCombination, [&] { program.form2.menu_comb.Click(); });
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
 #include "workspace/language.h"
@@ -170,9 +171,7 @@ void Form2_Load(Program& program) {
   if (CountryCode(program, 0) == kJapan) SetJapaneseFonts(program.form2);
   if (!workspace.FirstInstance) program.form2.menu_opt.Visible = false;
   Guarded([&] { program.hooks.BuildExtensionMenu(); });
-  workspace.CallerWord = caller::kForm2Load;
-  PlaceWindow(program);
-  workspace.CallerWord = caller::kUser;
+  Under(program, caller::kForm2Load, [&] { PlaceWindow(program); });
   ColourGears(program);
   DisableLargeSizes(program);
 }

@@ -1,6 +1,7 @@
 #include "workspace/history_reopen.h"
 
 #include "platform/paths.h"
+#include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/decision_panel.h"
 #include "workspace/kept_machine.h"
@@ -36,16 +37,15 @@ bool OffersPlans(const Program& program) {
 /// Opens the entry without the chooser's OK; the file box follows where it can. The word holds back the
 /// double click that following fires, and no other: the chooser that tells of a failure is the user's.
 void OpenBesideChooser(Program& program, const std::string& path) {
-  Workspace& workspace = program.workspace;
   FileBox& box = program.form3.File1;
   const Files& files = program.machine.files;
-  workspace.CallerWord = caller::kCloseOpen;
-  if (!OffersPlans(program)) SetUpDataChooser(program);
-  Guarded([&] { box.Path = BoxFolder(files, path); });
-  Guarded([&] { box.FileName = LastPartOf(files.Rules(), path); });
-  OpenAnyFile(program, path);
-  workspace.CallerWord = caller::kUser;
-  if (workspace.ResultWord == result::kNotGood) ShowChooser(program, program.form3.File1);
+  Under(program, caller::kCloseOpen, [&] {
+    if (!OffersPlans(program)) SetUpDataChooser(program);
+    Guarded([&] { box.Path = BoxFolder(files, path); });
+    Guarded([&] { box.FileName = LastPartOf(files.Rules(), path); });
+    OpenAnyFile(program, path);
+  });
+  if (program.workspace.ResultWord == result::kNotGood) ShowChooser(program, program.form3.File1);
 }
 
 /// Moves the file box to the entry; the double click that this fires runs the chooser's OK.

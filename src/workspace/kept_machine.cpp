@@ -1,5 +1,6 @@
 #include "workspace/kept_machine.h"
 
+#include "workspace/caller.h"
 #include "workspace/history_menu.h"
 
 #include <memory>
@@ -27,9 +28,10 @@ void PutHistoryBack(Program& program) {
 
 /// What has the focus and cannot keep it is not left by the user.
 void HandOnFocus(Program& program) {
-  const std::string word = std::exchange(program.workspace.CallerWord, caller::kModule1);
+  const std::string word = program.workspace.CallerWord;
+  StayUnder(program, caller::kModule1);
   Guarded([&] { program.form2.HandOnFocus(); });
-  program.workspace.CallerWord = word;
+  StayUnder(program, word);
 }
 
 void PutBack(Program& program, const KeptMachine& kept) {
@@ -41,7 +43,7 @@ void PutBack(Program& program, const KeptMachine& kept) {
   // The scale's ticks lie where the window's size wants them now.
   const std::string word = program.workspace.CallerWord;
   Guarded([&] { program.hooks.ChartScale(); });
-  program.workspace.CallerWord = word;
+  StayUnder(program, word);
   kept.controls.PutBack(form2);
   form2.Caption = kept.title;
   form2.Picture21.surface.CopyDrawing(kept.chart);

@@ -3,6 +3,7 @@
 #include "model/list_tables.h"
 #include "platform/paths.h"
 #include "runtime/text.h"
+#include "workspace/caller.h"
 #include "workspace/control_states.h"
 #include "workspace/decision_panel.h"
 #include "workspace/failure_texts.h"
@@ -212,7 +213,7 @@ void ReadMachineList(Program& program) {
   SortTables(workspace);
   form2.Caption = MachineTitle(workspace);
 
-  workspace.CallerWord = caller::kModule1;
+  StayUnder(program, caller::kModule1);  // until the next word
   workspace.PrimaryIndex = 1;
   workspace.FinalIndex = 1;
   form2.Label6.Caption = workspace.PrimaryTable[1].Text;

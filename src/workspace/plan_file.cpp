@@ -3,6 +3,7 @@
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
+#include "workspace/caller.h"
 #include "workspace/captions.h"
 #include "workspace/control_states.h"
 #include "workspace/decision_panel.h"
@@ -73,11 +74,12 @@ void ShowGears(Program& program) {
   }
 }
 
-/// Remark, rows, gear pairs and baseline, found in the machine's tables and shown.
+/// Remark, rows, gear pairs and baseline, found in the machine's tables and shown. "MODULE1" stands until the
+/// first refresh of the plan.
 void TakePlan(Program& program, TextReader& reader) {
   Workspace& workspace = program.workspace;
   ReadChoice(workspace, reader);
-  workspace.CallerWord = caller::kModule1;
+  StayUnder(program, caller::kModule1);
   ReadRemark(program, reader);
   FindChoice(workspace);
   ShowRows(program);
@@ -109,18 +111,14 @@ void ShowPlanControls(Program& program) {
 
 /// The first refresh of a plan that was read.
 void RefreshAfterReading(Program& program) {
-  program.workspace.CallerWord = caller::kRead2;
   program.workspace.DataChanged = dirty::kZero;
-  program.hooks.RefreshDisplay();
-  program.workspace.CallerWord = caller::kUser;
+  Under(program, caller::kRead2, [&] { program.hooks.RefreshDisplay(); });
 }
 
 /// The stored speeds belong to other tables: the user chooses between them and the stored plan.
 void AskWhatToBelieve(Program& program) {
   // A box that loses the focus because the question disables it has not been left by the user.
-  program.workspace.CallerWord = caller::kModule1;
-  AskQuestion(program, Question::SpeedsDiffer);
-  program.workspace.CallerWord = caller::kUser;
+  Under(program, caller::kModule1, [&] { AskQuestion(program, Question::SpeedsDiffer); });
 }
 
 void ShowPlanMode(Program& program) {
@@ -134,23 +132,25 @@ void ShowPlanMode(Program& program) {
   form2.Label12[4].BackColor = kLightGrey;
 }
 
-/// A file that was refused half-way leaves behind what was read of it. The boxes, the bars and the columns
-/// show what is in force then.
-void ShowWhatIsInForce(Program& program) {
-  Workspace& workspace = program.workspace;
+void ShowConditionsInForce(Program& program) {
+  const Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  workspace.CallerWord = caller::kInit;
   form2.Text3.Text = SingleText(workspace, workspace.TyreLength);
   form2.Text4.Text = std::to_string(workspace.ShiftNe);
   form2.HScroll1.Value = workspace.ShiftNe;
   for (int gear = 1; gear <= kGears; ++gear) {
     if (workspace.SpeedBaseline[gear] != 0) Guarded([&] { ShowBaseline(program, gear); });
   }
+}
+
+/// A file that was refused half-way leaves behind what was read of it. The boxes, the bars and the columns
+/// show what is in force then.
+void ShowWhatIsInForce(Program& program) {
+  const Workspace& workspace = program.workspace;
+  Under(program, caller::kInit, [&] { ShowConditionsInForce(program); });
   const bool planOnShow = !workspace.ModeWord.empty() && workspace.ModeWord != mode::kBasing;
   // What was read is no change of the user's.
-  workspace.CallerWord = caller::kScroll;
-  if (planOnShow) Guarded([&] { program.hooks.RefreshPlan(); });
-  workspace.CallerWord = caller::kUser;
+  if (planOnShow) Under(program, caller::kScroll, [&] { Guarded([&] { program.hooks.RefreshPlan(); }); });
 }
 
 // ---- The two readers ----
@@ -196,7 +196,7 @@ void ReadOpenPlan(Program& program) {
 void ReadWorkFile(Program& program, TextReader& reader) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  workspace.CallerWord = caller::kOriginal;
+  StayUnder(program, caller::kOriginal);  // until the plan's remark is read
   ForgetChanges(workspace);
   form2.Picture21.surface.Clear();
   workspace.ResultWord = result::kOk;
