@@ -11,13 +11,18 @@ constexpr double kPlotHeightPerKmh = 110400;  // twips times km/h over 20
 
 }  // namespace
 
-void WalkSawTooth(const SawTooth& tooth, const std::function<void(double x, double y)>& to) {
-  to(tooth.shiftNe, tooth.speed(1));
+void RunStep(const std::function<void()>& step) {
+  step();
+}
+
+void WalkSawTooth(const SawTooth& tooth, const std::function<void(double x, double y)>& to,
+                  const PointRunner& run) {
+  run([&] { to(tooth.shiftNe, tooth.speed(1)); });
   for (int gear = 2; gear <= kGears; ++gear) {
-    to(tooth.dropNe(gear), tooth.speed(gear - 1));
-    to(tooth.shiftNe, tooth.speed(gear));
+    run([&] { to(tooth.dropNe(gear), tooth.speed(gear - 1)); });
+    run([&] { to(tooth.shiftNe, tooth.speed(gear)); });
   }
-  to(tooth.maxNe, Divide(tooth.maxNe * tooth.speed(kGears), tooth.shiftNe));
+  run([&] { to(tooth.maxNe, Divide(tooth.maxNe * tooth.speed(kGears), tooth.shiftNe)); });
 }
 
 double RayEnd(double maxNe, double speed, double revolutions) {

@@ -17,10 +17,18 @@ struct SawTooth {
   std::function<double(int gear)> dropNe;  // rev/min after changing up into gears 2..6
 };
 
+/// Runs the step to one point.
+using PointRunner = std::function<void(const std::function<void()>& step)>;
+
+/// The runner that lets faults pass.
+void RunStep(const std::function<void()>& step);
+
 /// Walks the saw-tooth's points behind the origin: up the first ray, for every further gear the drop and the
 /// climb, and on along top gear to the edge of the scale. Speeds and drops are asked for point by point, so
-/// that whoever draws has drawn all before the one that fails. Raises fault 11 for a `shiftNe` of 0.
-void WalkSawTooth(const SawTooth& tooth, const std::function<void(double x, double y)>& to);
+/// that whoever draws has drawn all before the one that fails; a runner may skip that one and go on. Raises
+/// fault 11 for a `shiftNe` of 0.
+void WalkSawTooth(const SawTooth& tooth, const std::function<void(double x, double y)>& to,
+                  const PointRunner& run = RunStep);
 
 /// Height in km/h of a ray through `speed` at `revolutions` where it reaches `maxNe`. Raises fault 11 for
 /// revolutions of 0 (6 when the speed is 0 too).

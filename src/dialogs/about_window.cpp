@@ -110,8 +110,7 @@ void ShowFigures(Program& program) {
 void Form10_Load(Program& program) {
   const Workspace& workspace = program.workspace;
   Form10& form10 = *program.form10;
-  form10.Top = (program.machine.screen.Height() - form10.Height) / 2;
-  form10.Left = (program.machine.screen.Width() - form10.Width) / 2;
+  form10.Centre();
   form10.Picture_Close.Image = kCloseImage;
   form10.Picture_Roll.Image = kRollImage;
   ShowFigures(program);

@@ -101,11 +101,6 @@ void ReopenWaitingEntry(Program& program) {
   program.form2.Show();
 }
 
-void LeaveChooser(Program& program) {
-  program.form3.Command1.Enabled = false;
-  program.form3.Hide();
-}
-
 /// What follows the save of a new file.
 void FinishNewFile(Program& program, const std::string& modeWord) {
   const std::string& pendingAction = program.workspace.PendingAction;

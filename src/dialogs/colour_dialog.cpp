@@ -2,6 +2,7 @@
 
 #include "mainwin/gear_panel_chart.h"
 #include "view/bind.h"
+#include "workspace/control_states.h"
 #include "workspace/settings.h"
 
 #include <string>
@@ -10,13 +11,11 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kPickedRow = 10;       // what the lower row's subscripts have more than the upper one's
-constexpr int kFirstGearColour = 9;  // palette number of gear 1
+constexpr int kPickedRow = 10;  // what the lower row's subscripts have more than the upper one's
 
 void Form9_Load(Program& program) {
   Form9& form9 = *program.form9;
-  form9.Top = (program.machine.screen.Height() - form9.Height) / 2;
-  form9.Left = (program.machine.screen.Width() - form9.Width) / 2;
+  form9.Centre();
   for (int gear = 1; gear <= kGears; ++gear) {
     form9.Label1[gear].ForeColor = program.workspace.GearColour[gear];
     form9.Label1[gear + kPickedRow].ForeColor = program.workspace.GearColour[gear];
@@ -34,18 +33,13 @@ void Command1_Click(Program& program, int gear) {
 /// The colour as a decimal number. Failing writes go unnoticed.
 void StoreColour(Program& program, int gear) {
   const auto number = static_cast<std::int32_t>(program.workspace.GearColour[gear].bgr);
-  WriteSetting(program, RegistryRoot::CurrentUser, kSettingsKey, "Color_" + std::to_string(gear),
-               std::to_string(number));
+  Store(program, ColourValue(gear), std::to_string(number));
 }
 
 /// Shows the gears' colours on the main window, stores them and closes the dialog.
 void Apply(Program& program) {
-  Form2& form2 = program.form2;
   for (int gear = 1; gear <= kGears; ++gear) {
-    for (auto* labels : {&form2.Label1, &form2.Label2, &form2.Label9, &form2.Label31, &form2.Label32,
-                         &form2.Label33, &form2.Label44}) {
-      (*labels)[gear].ForeColor = program.workspace.GearColour[gear];
-    }
+    ShowGearColour(program, gear);
     StoreColour(program, gear);
   }
   if (program.workspace.ModeWord != mode::kBasing) RedrawChart(program);
@@ -68,7 +62,7 @@ void Command3_Click(Program& program) {
 /// "Default", at once and without a question.
 void Command4_Click(Program& program) {
   for (int gear = 1; gear <= kGears; ++gear) {
-    program.workspace.GearColour[gear] = PaletteColour(kFirstGearColour + gear - 1);
+    program.workspace.GearColour[gear] = DesignedGearColour(gear);
   }
   Apply(program);
 }

@@ -2,14 +2,13 @@
 
 #include "mainwin/chart.h"
 #include "model/decimal.h"
+#include "model/plan_line.h"
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"
 #include "workspace/captions.h"
 #include "workspace/chooser_setup.h"
-
-#include <algorithm>
 
 namespace veldrin {
 
@@ -80,8 +79,7 @@ void SetJapaneseTexts(Form5& form5) {
 
 void PlaceWindow(Program& program) {
   Form5& form5 = *program.form5;
-  form5.Top = (program.machine.screen.Height() - kOuterHeight) / 2;
-  form5.Left = (program.machine.screen.Width() - kOuterWidth) / 2;
+  form5.Centre(kOuterWidth, kOuterHeight);
   form5.Height = kOuterHeight;
   form5.Width = kOuterWidth;
 }
@@ -279,16 +277,6 @@ void Command4_Click(Program& program) {
 }
 
 }  // namespace
-
-void SplitPairs(const std::string& line, Table<std::string, 1, kGears>& pairs) {
-  std::size_t begin = 0;
-  for (int gear = 1; gear < kGears; ++gear) {
-    const std::size_t end = std::min(line.find('-', begin), line.size());
-    pairs[gear] = line.substr(begin, end - begin);
-    begin = std::min(end + 1, line.size());
-  }
-  pairs[kGears] = line.substr(begin);
-}
 
 void AttachCompareWindow(Program& program) {
   program.form5.attach = [&program](Form5& form5) {

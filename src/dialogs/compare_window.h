@@ -8,14 +8,7 @@
 
 #include "workspace/program.h"
 
-#include <string>
-
 namespace veldrin {
-
-/// Cuts the plan line of a file at its hyphens into the texts of six gear pairs. The last takes the rest of
-/// the line; pairs beyond the line's end are empty. Raises nothing.
-/// Kept: a gear text with a hyphen of its own shifts the texts behind it.
-void SplitPairs(const std::string& line, Table<std::string, 1, kGears>& pairs);
 
 /// Binds the events of every compare window that will be loaded.
 void AttachCompareWindow(Program& program);

@@ -13,9 +13,7 @@ namespace veldrin {
 
 namespace {
 
-constexpr char kDefaultValue[] = "";  // the name of a key's default value
 constexpr char kSlotValue[] = "vdExtNum";
-constexpr char kCountValue[] = "NumExtReg";
 constexpr char kOpenCommand[] = "\\shell\\open\\command";
 constexpr char kProgramFile[] = "veldrin.exe";
 constexpr int kDesignedEntry = 1;
@@ -31,7 +29,7 @@ std::string HandMadeType(const Program& program) {
 }
 
 std::string SlotKey(int slot) {
-  return std::string(kSettingsKey) + "\\Ext\\" + std::to_string(slot);
+  return ExtensionKey(std::to_string(slot));
 }
 
 std::string RemovingCaption(const std::string& extension) {
@@ -55,7 +53,7 @@ void WriteSlot(Program& program, int slot, const std::string& text) {
 }
 
 void WriteCount(Program& program, int count) {
-  WriteSetting(program, RegistryRoot::CurrentUser, kSettingsKey, kCountValue, std::to_string(count));
+  Store(program, kExtensionCountValue, std::to_string(count));
 }
 
 /// A number of the store. Raises faults 13 and 6.
@@ -90,10 +88,7 @@ void RemoveLastEntry(Program& program) {
 
 void BuildExtensionMenu(Program& program) {
   Workspace& workspace = program.workspace;
-  Guarded([&] {
-    workspace.NumExtReg =
-        Number(program, ReadSetting(program, RegistryRoot::CurrentUser, kSettingsKey, kCountValue));
-  });
+  Guarded([&] { workspace.NumExtReg = Number(program, Stored(program, kExtensionCountValue)); });
   // There are no entries below the first, whatever a damaged store says.
   workspace.NumExtReg = std::max<std::int16_t>(workspace.NumExtReg, 0);
   for (int slot = 1; slot <= workspace.NumExtReg; ++slot) {

@@ -34,8 +34,7 @@ void Form3_Load(Program& program) {
   Form3& form3 = program.form3;
   form3.Label4.Caption = Message(workspace, kMissingFileMessage);
   if (workspace.IsJapanese == 1) form3.Label4.FontName = "ＭＳ ゴシック";
-  form3.Left = (program.machine.screen.Width() - form3.Width) / 2;
-  form3.Top = (program.machine.screen.Height() - form3.Height) / 2;
+  form3.Centre();
   form2.Text2.Text = SingleText(workspace, workspace.CheckNe);
   form2.Text3.Text = SingleText(workspace, workspace.TyreLength);
   form2.Text4.Text = std::to_string(workspace.ShiftNe);

@@ -129,8 +129,7 @@ void Form4_Load(Program& program) {
     form4.Label24[gear].ForeColor = workspace.GearColour[gear];
   }
   if (workspace.PlanCount == 1) form4.Spin1.Enabled = false;
-  form4.Top = (program.machine.screen.Height() - kOuterHeight) / 2;
-  form4.Left = (program.machine.screen.Width() - kOuterWidth) / 2;
+  form4.Centre(kOuterWidth, kOuterHeight);
   program.planDialog.ShownPlan = 1;
   form4.Label8.Caption = SingleText(workspace, workspace.TyreLength);
   form4.Label10.Caption = std::to_string(workspace.ShiftNe);

@@ -2,22 +2,20 @@
 
 #include "mainwin/chart.h"
 #include "mainwin/gear_panel_requests.h"
+#include "model/chart_room.h"
 #include "model/decimal.h"
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "workspace/caller.h"
+#include "workspace/chooser_setup.h"
 #include "workspace/title.h"
 
-#include <algorithm>
-#include <cmath>
 #include <string>
 
 namespace veldrin {
 
 namespace {
-
-constexpr int kNeAboveShift = 1000;  // rev/min
 
 /// The file on its handle, or an empty one when it could not be opened: every read is then past the end.
 class OpenedReference {
@@ -51,22 +49,11 @@ void ReadRemarkLine(Program& program, TextReader& reader) {
   Append(program, program.workspace.RemarkFirstLine);
 }
 
-/// Revolutions beyond the scale raise its end.
 /// Kept: unlike a plan's, they do not lay out the scale anew, so the scroll bar's thumb stays at its old end.
 void FollowShiftNe(Program& program) {
   Workspace& workspace = program.workspace;
-  if (workspace.MaxNe < workspace.ShiftNe) {
-    Guarded([&] { workspace.MaxNe = ToInt16(workspace.ShiftNe + kNeAboveShift); });
-  }
+  Guarded([&] { WidenRevolutions(workspace); });
   Guarded([&] { program.form2.HScroll1.Value = workspace.ShiftNe; });
-}
-
-/// A top speed beyond the scale raises its end to the next tens but one.
-void FollowTopSpeed(Workspace& workspace) {
-  const float top = workspace.SpeedBaseline[kGears];
-  if (top <= workspace.MaxSpeed) return;
-  const double tens = std::floor(static_cast<double>(top) / 10) * 10 + 20;
-  workspace.MaxSpeed = ToInt16(std::min<double>(tens, kMaxSpeedLimits.highest));
 }
 
 void AppendRest(Program& program, TextReader& reader) {
@@ -91,11 +78,6 @@ void ShowConditions(Program& program) {
     Guarded([&] { form2.Text4.Text = std::to_string(workspace.ShiftNe); });
     Guarded([&] { form2.Text3.Text = SingleText(workspace, workspace.TyreLength); });
   });
-}
-
-void LeaveChooser(Program& program) {
-  program.form3.Command1.Enabled = false;
-  program.form3.Hide();
 }
 
 /// A field that is missing leaves both speeds as they were. Whether the baseline has its speed from the file.
@@ -141,7 +123,7 @@ void LoadQuickRatioFile(Program& program) {
     Append(program, std::to_string(workspace.ShiftNe));
     FollowShiftNe(program);
     ReadQuickRatioSpeeds(program, reader);
-    FollowTopSpeed(workspace);
+    RaiseTopSpeed(workspace);
     AppendRest(program, reader);
   }
   PutInForce(program);
@@ -168,7 +150,7 @@ void LoadReferenceFile(Program& program) {
     workspace.ReferenceNe = workspace.ShiftNe;
     Append(program, std::to_string(workspace.ShiftNe));
     for (int gear = 1; gear <= kGears; ++gear) ReadReferenceSpeed(program, reader, gear);
-    FollowTopSpeed(workspace);
+    RaiseTopSpeed(workspace);
     AppendRest(program, reader);
   }
   PutInForce(program);

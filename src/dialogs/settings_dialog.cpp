@@ -105,8 +105,7 @@ void PointBoxes(Program& program) {
 void Form7_Load(Program& program) {
   Form7& form7 = *program.form7;
   program.settingsDialog = {};
-  form7.Top = (program.machine.screen.Height() - kOuterHeight) / 2;
-  form7.Left = (program.machine.screen.Width() - kOuterWidth) / 2;
+  form7.Centre(kOuterWidth, kOuterHeight);
   SelectEntries(program);
   ListFonts(program);
   const bool english = program.workspace.Language != kJapanese && CountryCode(program, 0) != kJapan;
@@ -150,11 +149,6 @@ void Combo1_Click(Program& program, int index) {
 }
 
 // ---- Save ----
-
-/// Failing writes go unnoticed.
-void Store(Program& program, const char* value, const std::string& text) {
-  WriteSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value, text);
-}
 
 void StoreBox(Program& program, int box) {
   Store(program, kConditions[box].setting, StoredNumber(program, box));

@@ -68,8 +68,7 @@ void HandOverToMainWindow(Program& program) {
 
 void SetUpListChooser(Program& program) {
   Form3& form3 = program.form3;
-  form3.Left = (program.machine.screen.Width() - form3.Width) / 2;
-  form3.Top = (program.machine.screen.Height() - form3.Height) / 2;
+  form3.Centre();
   form3.Caption = Message(program.workspace, kListTitleMessage);
   OfferCancel(program);
   SetUpChooserBoxes(program, {kListPattern}, program.workspace.ListPath);

@@ -75,13 +75,14 @@ void DrawMarkLine(Surface& surface, double revolutions, double maxSpeed, int sty
   surface.Line(revolutions, 0, revolutions, maxSpeed, colour);
 }
 
-void DrawSawTooth(Surface& surface, const SawTooth& tooth, Colour colour) {
+void DrawSawTooth(Surface& surface, const SawTooth& tooth, Colour colour, const PointRunner& run) {
   bool first = true;
-  WalkSawTooth(tooth, [&](double x, double y) {
+  const auto draw = [&](double x, double y) {
     if (first) surface.Line(0, 0, x, y, colour);
     if (!first) surface.LineTo(x, y, colour);
     first = false;
-  });
+  };
+  WalkSawTooth(tooth, draw, run);
 }
 
 void ChartScale(Program& program) {

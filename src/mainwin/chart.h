@@ -23,8 +23,8 @@ void ChartRequest(Program& program);
 
 /// The saw-tooth as one connected line with the surface's pen: up the first ray from the origin, for every
 /// further gear the drop and the climb, and on along top gear to the edge of the scale. Points are asked for
-/// one by one while it is drawn. Raises fault 11 for a `shiftNe` of 0.
-void DrawSawTooth(Surface& surface, const SawTooth& tooth, Colour colour);
+/// one by one while it is drawn, each by `run`. Raises fault 11 for a `shiftNe` of 0.
+void DrawSawTooth(Surface& surface, const SawTooth& tooth, Colour colour, const PointRunner& run = RunStep);
 
 /// A ray from the origin: `speed` at `revolutions`, drawn to the edge of the scale. Raises fault 11 for
 /// revolutions of 0 (6 when the speed is 0 too).

@@ -6,6 +6,7 @@
 #include "view/bind.h"
 #include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/control_states.h"
 #include "workspace/decision_panel.h"
 #include "workspace/language.h"
 #include "workspace/settings.h"
@@ -36,8 +37,7 @@ void SetJapaneseFonts(Form2& form2) {
 }
 
 std::int16_t StoredPlace(const Program& program, const char* value) {
-  const std::string text = ReadSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value);
-  return SystemInt16(program.workspace, text);
+  return SystemInt16(program.workspace, Stored(program, value));
 }
 
 /// In the middle of the screen, and then where it last stood.
@@ -46,27 +46,21 @@ std::int16_t StoredPlace(const Program& program, const char* value) {
 void PlaceWindow(Program& program) {
   Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  const Screen& screen = program.machine.screen;
   form2.Height = kHeightAtStart;
   form2.Width = kWidthAtStart;
-  form2.Top = (screen.Height() - form2.Height) / 2;
-  form2.Left = (screen.Width() - form2.Width) / 2;
-  Guarded([&] { workspace.LastTop = StoredPlace(program, "Last Top"); });
-  Guarded([&] { workspace.LastLeft = StoredPlace(program, "Last Left"); });
+  form2.Centre();
+  Guarded([&] { workspace.LastTop = StoredPlace(program, kLastTopValue); });
+  Guarded([&] { workspace.LastLeft = StoredPlace(program, kLastLeftValue); });
   form2.Top = workspace.LastTop;
   form2.Left = workspace.LastLeft;
 }
 
 void ColourGears(Program& program) {
   Workspace& workspace = program.workspace;
-  Form2& form2 = program.form2;
   for (int gear = 1; gear <= kGears; ++gear) {
     workspace.ToleranceMinus[gear] = 1;
     workspace.TolerancePlus[gear] = 1;
-    for (auto* labels : {&form2.Label1, &form2.Label2, &form2.Label9, &form2.Label31, &form2.Label32,
-                         &form2.Label33, &form2.Label44}) {
-      (*labels)[gear].ForeColor = workspace.GearColour[gear];
-    }
+    ShowGearColour(program, gear);
   }
 }
 

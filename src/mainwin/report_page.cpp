@@ -249,17 +249,11 @@ void DrawRays(const Report& report) {
 /// The same line as on the main window's chart; here each of its parts may be left out.
 void DrawTooth(const Report& report) {
   const Workspace& workspace = report.program.workspace;
-  Surface& surface = report.surface;
   const double shiftX = ChartX(workspace.ShiftNe);
-  const double maxX = ChartX(workspace.MaxNe);
   const auto speed = [&](int gear) { return static_cast<double>(workspace.SpeedNow[gear]); };
-  surface.Line(0, 0, shiftX, speed(1), kBlack);
-  for (int gear = 2; gear <= kGears; ++gear) {
-    const double before = speed(gear - 1);
-    Run(report, [&] { surface.LineTo(Divide(before * shiftX, speed(gear)), before, kBlack); });
-    surface.LineTo(shiftX, speed(gear), kBlack);
-  }
-  Run(report, [&] { surface.LineTo(maxX, Divide(speed(kGears) * maxX, shiftX), kBlack); });
+  const auto drop = [&](int gear) { return Divide(shiftX * speed(gear - 1), speed(gear)); };
+  DrawSawTooth(report.surface, {shiftX, ChartX(workspace.MaxNe), speed, drop}, kBlack,
+               [&](const std::function<void()>& step) { Run(report, step); });
 }
 
 void DrawChart(const Report& report) {

@@ -86,6 +86,16 @@ void Window::SetSize(float width, float height) {
   if (wider || higher) Resize();
 }
 
+void Window::Centre() {
+  Centre(Width, Height);
+}
+
+void Window::Centre(float width, float height) {
+  const Screen& screen = desk.machine.screen;
+  Top = (screen.Height() - height) / 2;
+  Left = (screen.Width() - width) / 2;
+}
+
 float Window::InnerWidth() const {
   return Width - desk.machine.windows.FrameWidth(*this);
 }

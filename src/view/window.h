@@ -79,6 +79,9 @@ struct Window : PlacedControl {
 
   /// Outer size in twips at once, as a user's drag gives it: one Resize.
   void SetSize(float width, float height);
+  /// Puts the window in the middle of the screen, by its own size or by another outer one in twips.
+  void Centre();
+  void Centre(float width, float height);
   float InnerWidth() const;
   float InnerHeight() const;
 

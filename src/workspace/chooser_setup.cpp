@@ -68,4 +68,9 @@ void ShowChooser(Program& program, Control& hands) {
   program.form3.ShowModal();
 }
 
+void LeaveChooser(Program& program) {
+  program.form3.Command1.Enabled = false;
+  program.form3.Hide();
+}
+
 }  // namespace veldrin

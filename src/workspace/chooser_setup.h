@@ -43,4 +43,7 @@ void OfferCancel(Program& program);
 /// up already and has only taken another role.
 void ShowChooser(Program& program, Control& hands);
 
+/// Disables OK and hides the chooser: its role is done.
+void LeaveChooser(Program& program);
+
 }  // namespace veldrin

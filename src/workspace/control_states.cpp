@@ -49,6 +49,14 @@ void EnableRowSpins(Program& program) {
   EnableSpin(program.form2.Spin5);
 }
 
+void ShowGearColour(Program& program, int gear) {
+  Form2& form2 = program.form2;
+  for (auto* labels : {&form2.Label1, &form2.Label2, &form2.Label9, &form2.Label31, &form2.Label32,
+                       &form2.Label33, &form2.Label44}) {
+    (*labels)[gear].ForeColor = program.workspace.GearColour[gear];
+  }
+}
+
 void EnableRestore(Program& program, bool enabled) {
   program.form2.Command7.Enabled = enabled;
   program.form2.f_rest.Enabled = enabled;

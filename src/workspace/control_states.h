@@ -24,6 +24,9 @@ void EnableOutput(Program& program, bool enabled);
 /// the primary stay as they are. Raises nothing.
 void EnableRowSpins(Program& program);
 
+/// What tells the gears apart on the main window takes a gear's colour.
+void ShowGearColour(Program& program, int gear);
+
 /// Restore, as button and as menu entry.
 void EnableRestore(Program& program, bool enabled);
 

@@ -1,5 +1,7 @@
 #include "workspace/plan_file.h"
 
+#include "model/chart_room.h"
+#include "model/decimal.h"
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
@@ -9,9 +11,6 @@
 #include "workspace/decision_panel.h"
 #include "workspace/plan_lines.h"
 #include "workspace/title.h"
-
-#include <algorithm>
-#include <cmath>
 
 namespace veldrin {
 
@@ -29,24 +28,6 @@ void EmptyChart(Picture& chart) {
   if (chart.Image == 0 && chart.surface.Drawing().empty()) return;
   chart.Image = 0;
   chart.surface.Clear();
-}
-
-/// Makes room on the chart for revolutions beyond its end.
-void WidenRevolutions(Program& program) {
-  Workspace& workspace = program.workspace;
-  if (workspace.ShiftNe <= workspace.MaxNe) return;
-  workspace.MaxNe = ToInt16(workspace.ShiftNe + 1000.0);
-  program.hooks.ChartScale();
-}
-
-/// Makes room on the chart for a 6th gear above its top.
-void RaiseTopSpeed(Program& program) {
-  Workspace& workspace = program.workspace;
-  const double fastest = workspace.SpeedBaseline[kGears];
-  if (fastest <= workspace.MaxSpeed) return;
-  workspace.MaxSpeed =
-      ToInt16(std::min(std::floor(fastest / 10) * 10 + 20, static_cast<double>(kMaxSpeedLimits.highest)));
-  program.hooks.ChartScale();
 }
 
 void ReadRemark(Program& program, TextReader& reader) {
@@ -165,10 +146,10 @@ void ReadOpenPlan(Program& program) {
 
   workspace.TyreLength = ReadDecimal(workspace, reader);
   workspace.ShiftNe = ToInt16(ReadDecimal(workspace, reader));
-  WidenRevolutions(program);
+  if (WidenRevolutions(workspace)) program.hooks.ChartScale();
   form2.HScroll1.Value = workspace.ShiftNe;
   ReadStoredSpeeds(workspace, reader);
-  RaiseTopSpeed(program);
+  if (RaiseTopSpeed(workspace)) program.hooks.ChartScale();
   TakePlan(program, reader);
 
   workspace.DataFile = workspace.OpenFile;

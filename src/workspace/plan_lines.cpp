@@ -2,10 +2,9 @@
 
 #include "model/decimal.h"
 #include "model/list_tables.h"
+#include "model/plan_line.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
-
-#include <algorithm>
 
 namespace veldrin {
 
@@ -38,23 +37,6 @@ void FindRows(Workspace& workspace) {
                                workspace.FileFinalDriven, workspace.FinalIndex);
 }
 
-/// Cuts the plan line at its hyphens; pieces beyond the line's end are empty.
-/// Kept: a gear text with a hyphen of its own shifts the pieces behind it.
-void FindGearPairs(Workspace& workspace) {
-  const std::string& line = workspace.PlanLine;
-  std::size_t begin = 0;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    const std::size_t end = std::min(line.find('-', begin), line.size());
-    const std::string piece = line.substr(begin, end - begin);
-    for (int row = 1; row <= workspace.GearRows; ++row) {
-      if (workspace.GearTable(gear, row) != piece) continue;
-      workspace.PlanIndex[gear] = static_cast<std::int16_t>(row);
-      break;
-    }
-    begin = std::min(end + 1, line.size());
-  }
-}
-
 }  // namespace
 
 bool NamesLoadedMachine(const Workspace& workspace, const std::string& line) {
@@ -80,7 +62,7 @@ void ReadChoice(Workspace& workspace, TextReader& reader) {
 
 void FindChoice(Workspace& workspace) {
   FindRows(workspace);
-  FindGearPairs(workspace);
+  FindGearPairs(workspace, workspace.PlanLine);
 }
 
 std::string PlanText(const Workspace& workspace, const std::string& remark) {

@@ -16,8 +16,7 @@ namespace {
 constexpr std::size_t kReadLimit = 1024;  // bytes of a stored text
 constexpr char kOlderSettingsFile[] = "VELDRIN.INI";
 constexpr char kDefaultSeparator[] = ".";
-constexpr char kDefaultValue[] = "";  // the name of a key's default value
-constexpr int kFirstGearColour = 9;   // palette number of gear 1
+constexpr int kFirstGearColour = 9;  // palette number of gear 1
 
 /// `text` without its bytes from `limit` on; a character that the limit cuts goes as a whole.
 std::string CutBytes(std::string text, std::size_t limit) {
@@ -25,14 +24,6 @@ std::string CutBytes(std::string text, std::size_t limit) {
   while (limit > 0 && (static_cast<unsigned char>(text[limit]) & 0xC0) == 0x80) --limit;
   text.resize(limit);
   return text;
-}
-
-std::string Stored(const Program& program, const std::string& value) {
-  return ReadSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value);
-}
-
-void Store(Program& program, const std::string& value, const std::string& text) {
-  WriteSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value, text);
 }
 
 std::string StoredText(const Program& program, const std::string& value, const std::string& whenEmpty) {
@@ -60,10 +51,6 @@ Colour StoredColour(const Program& program, const std::string& value, Colour whe
   if (text.empty()) return whenZero;
   const std::int32_t number = ParseInt32(text, DecimalSeparator(program.workspace));
   return number == 0 ? whenZero : Colour{static_cast<std::uint32_t>(number)};
-}
-
-std::string ColourValue(int gear) {
-  return "Color_" + std::to_string(gear);
 }
 
 /// One character of the profile.
@@ -165,6 +152,26 @@ bool WriteSetting(Program& program, RegistryRoot root, const std::string& key, c
   return program.machine.registry.Write(root, key, value, text);
 }
 
+std::string Stored(const Program& program, const std::string& value) {
+  return ReadSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value);
+}
+
+void Store(Program& program, const std::string& value, const std::string& text) {
+  WriteSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value, text);
+}
+
+std::string ColourValue(int gear) {
+  return "Color_" + std::to_string(gear);
+}
+
+Colour DesignedGearColour(int gear) {
+  return PaletteColour(kFirstGearColour + gear - 1);
+}
+
+std::string ExtensionKey(const std::string& slot) {
+  return std::string(kSettingsKey) + "\\Ext\\" + slot;
+}
+
 bool DeleteKey(Program& program, RegistryRoot root, const std::string& key) {
   return program.machine.registry.DeleteKey(root, key);
 }
@@ -194,7 +201,7 @@ void CreateSettings(Program& program) {
   Workspace& workspace = program.workspace;
   workspace.AppPath = program.machine.files.CurrentFolder();
   Store(program, "App Path", workspace.AppPath);
-  Store(program, "NumExtReg", "0");
+  Store(program, kExtensionCountValue, "0");
   RegisterFileType(program);
   const std::string older = JoinPath(program.machine.files.Rules(), workspace.AppPath, kOlderSettingsFile);
   // A file that cannot be read leaves the defaults.
@@ -238,8 +245,7 @@ void ReadSettings(Program& program) {
   workspace.PrintFont = StoredText(program, "Pr_Font", "ＭＳ ゴシック");
   workspace.Separate34 = StoredText(program, "Separate_34", "nv0");
   for (int gear = 1; gear <= kGears; ++gear) {
-    const Colour designed = PaletteColour(kFirstGearColour + gear - 1);
-    workspace.GearColour[gear] = StoredColour(program, ColourValue(gear), designed);
+    workspace.GearColour[gear] = StoredColour(program, ColourValue(gear), DesignedGearColour(gear));
   }
   workspace.InitialDataPath = workspace.DataPath;
   if (CountryCode(program, 0) != kJapan) {

@@ -15,6 +15,25 @@ namespace veldrin {
 /// The key of all settings below the current user.
 inline constexpr char kSettingsKey[] = "Software\\Tarn Ridge\\Veldrin";
 
+/// The name of a key's default value.
+inline constexpr char kDefaultValue[] = "";
+
+/// Values of `kSettingsKey` that several units know: how many extensions are tied, and where the main window
+/// last stood.
+inline constexpr char kExtensionCountValue[] = "NumExtReg";
+inline constexpr char kLastTopValue[] = "Last Top";
+inline constexpr char kLastLeftValue[] = "Last Left";
+
+/// The key below `kSettingsKey` that holds an extension's name and history; the slot is its number, or "Sub"
+/// for a machine without one.
+std::string ExtensionKey(const std::string& slot);
+
+/// The value that holds a gear's colour.
+std::string ColourValue(int gear);
+
+/// The colour of a gear in a new installation.
+Colour DesignedGearColour(int gear);
+
 /// The file type's key below the classes root.
 inline constexpr char kFileTypeKey[] = "Veldrin.file";
 
@@ -29,6 +48,10 @@ std::string ReadSetting(const Program& program, RegistryRoot root, const std::st
 /// Writes a text, making the key if needed. True on success. Raises nothing.
 bool WriteSetting(Program& program, RegistryRoot root, const std::string& key, const std::string& value,
                   const std::string& text);
+
+/// Reads and writes a value of `kSettingsKey`. Failing writes go unnoticed. Raises nothing.
+std::string Stored(const Program& program, const std::string& value);
+void Store(Program& program, const std::string& value, const std::string& text);
 
 /// Deletes a key. True on success. Raises nothing.
 bool DeleteKey(Program& program, RegistryRoot root, const std::string& key);

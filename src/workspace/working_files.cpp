@@ -16,7 +16,6 @@ namespace {
 
 constexpr int kLastWorkFile = 999;
 constexpr char kWorkFilePattern[] = "veld???.tmp";
-constexpr char kDefaultValue[] = "";  // the name of a key's default value
 constexpr char kCountValue[] = "0";
 
 std::string WorkFileName(int number) {
@@ -43,7 +42,7 @@ void DeleteLeftovers(Program& program) {
 /// The key that holds the loaded machine's history.
 std::string HistoryKey(const Workspace& workspace) {
   const std::string slot = workspace.ExtSlot == 0 ? "Sub" : std::to_string(workspace.ExtSlot);
-  return std::string(kSettingsKey) + "\\Ext\\" + slot;
+  return ExtensionKey(slot);
 }
 
 std::string Stored(const Program& program, const std::string& key, const std::string& value) {
@@ -95,8 +94,8 @@ void StoreWindowPlace(Program& program) {
     Guarded([&] { workspace.LastLeft = ToInt16(form2.Left); });
     Guarded([&] { workspace.LastTop = ToInt16(form2.Top); });
   }
-  Store(program, kSettingsKey, "Last Top", std::to_string(workspace.LastTop));
-  Store(program, kSettingsKey, "Last Left", std::to_string(workspace.LastLeft));
+  Store(program, kLastTopValue, std::to_string(workspace.LastTop));
+  Store(program, kLastLeftValue, std::to_string(workspace.LastLeft));
 }
 
 }  // namespace
