@@ -164,6 +164,7 @@ void ReadOpenPlan(Program& program) {
   RefreshAfterReading(program);
   if (workspace.ResultWord == result::kDifferent) AskWhatToBelieve(program);
   ShowPlanMode(program);
+  program.hooks.Loaded();
   const int fault = Guarded([&] { WriteWorkFile(program); });
   if (fault != 0) {
     // A stale working file holds the dirty flag where it is: edits that it could not tell must not be lost.
@@ -171,7 +172,6 @@ void ReadOpenPlan(Program& program) {
     Raise(fault);
   }
   EnableRestore(program, false);
-  program.hooks.Loaded();
 }
 
 void ReadWorkFile(Program& program, TextReader& reader) {

@@ -1,0 +1,13 @@
+// What ended the program, in plain words: the run-time's own are for those who wrote it.
+#pragma once
+
+#include "platform/notices.h"
+#include "workspace/program.h"
+
+namespace veldrin {
+
+/// Words for a fault that has ended the program, by its number and what the program was at. `control` is
+/// where the event came from that ran last, null for none.
+BothLanguages FaultWords(const Program& program, int fault, const Control* control);
+
+}  // namespace veldrin
