@@ -61,6 +61,12 @@ struct Startup : testing::Test {
     program.form1.LoadWindow();
   }
   void Tick() { program.form1.Timer1.Timer(); }
+  void TakeAllWorkingFiles() {
+    simulated.instances.others = 1;
+    for (int number = 1000; number <= 1999; ++number) {
+      simulated.files.AddFile("C:\\TEMP\\VELD" + std::to_string(number).substr(1) + ".TMP", "");
+    }
+  }
   void AddPlan(const std::string& path, const std::string& text) { simulated.files.AddFile(path, text); }
 };
 
@@ -181,12 +187,34 @@ TEST_F(Startup, TheCommandLineLosesBlanksAndQuotes) {
 }
 
 TEST_F(Startup, NoFreeWorkingFileEndsTheProgramWithoutAWord) {
-  simulated.instances.others = 1;
-  for (int number = 1000; number <= 1999; ++number) {
-    simulated.files.AddFile("C:\\TEMP\\VELD" + std::to_string(number).substr(1) + ".TMP", "");
-  }
+  TakeAllWorkingFiles();
   EXPECT_THROW(Start(), EndOfProgram);
   EXPECT_TRUE(simulated.boxes.shown.empty());
+}
+
+TEST_F(Startup, AFirstRunWithoutAWorkingFileLeavesTheStoreToTheNext) {
+  TakeAllWorkingFiles();
+  simulated.files.AddFile("C:\\VELDRIN\\VELDRIN.INI", "SHIFT_NE=9000\r\n");
+  EXPECT_THROW(Start(), EndOfProgram);
+  const auto stored = [&](const char* value) {
+    return simulated.registry.Read(RegistryRoot::CurrentUser, kSettings, value);
+  };
+  EXPECT_EQ(stored("App Path"), std::nullopt);
+  EXPECT_TRUE(simulated.files.FileExists("C:\\VELDRIN\\VELDRIN.INI"));
+  EXPECT_EQ(workspace.ShiftNe, 0) << "settings are read last";
+
+  simulated.files.Delete("C:\\TEMP\\VELD500.TMP");
+  Form1_Load(program);
+  EXPECT_EQ(stored("App Path"), "C:\\VELDRIN");
+  EXPECT_EQ(workspace.ShiftNe, 9000);
+  EXPECT_EQ(workspace.WorkFile, "C:\\TEMP\\VELD500.TMP");
+}
+
+TEST_F(Startup, ALaterRunKnowsItsFolderBeforeItLooksForAWorkingFile) {
+  TakeAllWorkingFiles();
+  simulated.registry.Write(RegistryRoot::CurrentUser, kSettings, "App Path", "C:\\VELDRIN");
+  EXPECT_THROW(Start(), EndOfProgram);
+  EXPECT_EQ(workspace.AppPath, "C:\\VELDRIN");
 }
 
 TEST_F(Startup, TheMainWindowIsShownUnderTheTimersWord) {

@@ -71,6 +71,28 @@ TEST_F(Sort, EqualPairStaysAsItIs) {
   EXPECT_EQ(Texts(), (Names{"15-45", "14-42"}));
 }
 
+// Rows of equal ratios change places by the rule, always alike. The generator begins with 48271 of 2^31 - 2,
+// so that the first row is the first pivot: it changes places with the last one.
+//
+//   15-45 14-42 14-45    pivot and last row change places: 14-45 14-42 15-45
+//                        no row is above 15-45, which stays the last
+//                        the two others are a pair in order
+TEST_F(Sort, OfEqualRowsThePivotComesLast) {
+  rows = {Row(15, 45), Row(14, 42), Row(14, 45)};
+  SortAll();
+  EXPECT_EQ(Texts(), (Names{"14-45", "14-42", "15-45"}));
+}
+
+//   15-45 18-34 14-42 14-45    pivot and last row change places: 14-45 18-34 14-42 15-45
+//                              from the left 18-34 is above; from the right nothing is below before it
+//                              so 18-34 and the pivot change places: 14-45 15-45 14-42 18-34
+//                              on the right 14-42 18-34 are a pair in order
+TEST_F(Sort, OfEqualRowsThoseBehindARowAboveStayBehindThePivot) {
+  rows = {Row(15, 45), Row(18, 34), Row(14, 42), Row(14, 45)};
+  SortAll();
+  EXPECT_EQ(Texts(), (Names{"14-45", "15-45", "14-42", "18-34"}));
+}
+
 TEST_F(Sort, MovesAllFieldsOfARow) {
   rows = {Row(18, 34), Row(14, 45), Row(16, 40), Row(15, 36)};
   SortAll();
