@@ -1,5 +1,5 @@
 // Where the chart's points lie, as numbers: the scale, rays and the saw-tooth. Drawing them is left to those
-// who have a surface, the axes to view/chart_axes.h.
+// who have a surface, the axes to view/forms/chart_axes.h.
 #pragma once
 
 #include "model/workspace.h"

@@ -4,14 +4,14 @@
 #include "runtime/text.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/control_states.h"
-#include "workspace/decision_panel.h"
-#include "workspace/decision_panel_answers.h"
+#include "workspace/decision_panel/decision_panel.h"
+#include "workspace/decision_panel/decision_panel_answers.h"
 #include "workspace/failure_texts.h"
+#include "workspace/files/plan_file.h"
+#include "workspace/files/working_files.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
-#include "workspace/plan_file.h"
 #include "workspace/title.h"
-#include "workspace/working_files.h"
 
 #include <string>
 

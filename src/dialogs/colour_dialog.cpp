@@ -1,6 +1,6 @@
 #include "dialogs/colour_dialog.h"
 
-#include "mainwin/gear_panel_chart.h"
+#include "mainwin/gear_panel/gear_panel_chart.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"
 #include "workspace/settings.h"

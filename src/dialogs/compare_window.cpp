@@ -2,7 +2,7 @@
 
 #include "mainwin/chart.h"
 #include "model/decimal.h"
-#include "model/plan_line.h"
+#include "model/gear_pairs.h"
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"

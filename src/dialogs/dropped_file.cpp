@@ -8,10 +8,10 @@
 #include "view/user_input.h"
 #include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
-#include "workspace/kept_machine.h"
+#include "workspace/files/kept_machine.h"
+#include "workspace/files/machine_list.h"
+#include "workspace/files/working_files.h"
 #include "workspace/language.h"
-#include "workspace/machine_list.h"
-#include "workspace/working_files.h"
 
 #include <memory>
 

@@ -12,12 +12,12 @@
 #include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/control_states.h"
-#include "workspace/decision_panel.h"
+#include "workspace/decision_panel/decision_panel.h"
 #include "workspace/failure_texts.h"
-#include "workspace/kept_machine.h"
+#include "workspace/files/kept_machine.h"
+#include "workspace/files/machine_list.h"
+#include "workspace/files/working_files.h"
 #include "workspace/language.h"
-#include "workspace/machine_list.h"
-#include "workspace/working_files.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "dialogs/load_dispatch.h"
 
 #include "workspace/chooser_setup.h"
-#include "workspace/decision_panel.h"
+#include "workspace/decision_panel/decision_panel.h"
 #include "workspace/language.h"
 
 namespace veldrin {

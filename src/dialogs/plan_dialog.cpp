@@ -4,7 +4,7 @@
 #include "calc/plan_rows.h"
 #include "calc/plan_search.h"
 #include "mainwin/chart.h"
-#include "mainwin/gear_panel_chart.h"
+#include "mainwin/gear_panel/gear_panel_chart.h"
 #include "mainwin/refresh_display.h"
 #include "mainwin/search.h"
 #include "runtime/conversion.h"

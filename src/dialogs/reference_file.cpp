@@ -1,7 +1,7 @@
 #include "dialogs/reference_file.h"
 
 #include "mainwin/chart.h"
-#include "mainwin/gear_panel_requests.h"
+#include "mainwin/gear_panel/gear_panel_requests.h"
 #include "model/chart_room.h"
 #include "model/decimal.h"
 #include "platform/paths.h"

@@ -5,12 +5,12 @@
 #include "view/bind.h"
 #include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/files/kept_machine.h"
+#include "workspace/files/machine_list.h"
+#include "workspace/files/working_files.h"
 #include "workspace/history_reopen.h"
-#include "workspace/kept_machine.h"
 #include "workspace/language.h"
-#include "workspace/machine_list.h"
 #include "workspace/settings.h"
-#include "workspace/working_files.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "calc/chart_geometry.h"
-#include "view/chart_axes.h"
+#include "view/forms/chart_axes.h"
 #include "workspace/program.h"
 
 namespace veldrin {

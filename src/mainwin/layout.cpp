@@ -1,7 +1,7 @@
 #include "mainwin/layout.h"
 
 #include "mainwin/chart.h"
-#include "mainwin/gear_panel_chart.h"
+#include "mainwin/gear_panel/gear_panel_chart.h"
 #include "runtime/conversion.h"
 #include "view/bind.h"
 

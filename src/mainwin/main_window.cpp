@@ -7,10 +7,10 @@
 #include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/control_states.h"
-#include "workspace/decision_panel.h"
+#include "workspace/decision_panel/decision_panel.h"
+#include "workspace/files/working_files.h"
 #include "workspace/language.h"
 #include "workspace/settings.h"
-#include "workspace/working_files.h"
 
 #include <string>
 

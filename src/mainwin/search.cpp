@@ -3,7 +3,7 @@
 #include "calc/plan_search.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"
-#include "workspace/decision_panel.h"
+#include "workspace/decision_panel/decision_panel.h"
 #include "workspace/language.h"
 
 namespace veldrin {

@@ -2,8 +2,8 @@
 
 #include "dialogs/dropped_file.h"
 #include "mainwin/chart.h"
-#include "mainwin/gear_panel_chart.h"
-#include "mainwin/gear_panel_steps.h"
+#include "mainwin/gear_panel/gear_panel_chart.h"
+#include "mainwin/gear_panel/gear_panel_steps.h"
 #include "mainwin/refresh_display.h"
 #include "model/decimal.h"
 #include "runtime/fault.h"
@@ -11,11 +11,11 @@
 #include "view/user_input.h"
 #include "workspace/captions.h"
 #include "workspace/control_states.h"
-#include "workspace/decision_panel.h"
-#include "workspace/kept_machine.h"
-#include "workspace/machine_list.h"
+#include "workspace/decision_panel/decision_panel.h"
+#include "workspace/files/kept_machine.h"
+#include "workspace/files/machine_list.h"
+#include "workspace/files/working_files.h"
 #include "workspace/title.h"
-#include "workspace/working_files.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 
 #include "runtime/fault.h"
 #include "workspace/failure_texts.h"
-#include "workspace/plan_lines.h"
+#include "workspace/files/plan_lines.h"
 
 #include <utility>
 

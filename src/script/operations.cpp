@@ -10,8 +10,8 @@
 #include "script/script_values.h"
 #include "simulated/printed_values.h"
 #include "workspace/captions.h"
-#include "workspace/plan_file.h"
-#include "workspace/working_files.h"
+#include "workspace/files/plan_file.h"
+#include "workspace/files/working_files.h"
 
 #include <limits>
 

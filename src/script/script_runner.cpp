@@ -1,9 +1,9 @@
 #include "script/script_runner.h"
 
 #include "runtime/fault.h"
-#include "script/script_commands.h"
+#include "script/commands/script_commands.h"
+#include "script/commands/script_expectations.h"
 #include "script/script_error.h"
-#include "script/script_expectations.h"
 #include "script/script_suggest.h"
 #include "simulated/printed_values.h"
 

@@ -3,10 +3,10 @@
 #include "platform/paths.h"
 #include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
-#include "workspace/decision_panel.h"
-#include "workspace/kept_machine.h"
+#include "workspace/decision_panel/decision_panel.h"
+#include "workspace/files/kept_machine.h"
+#include "workspace/files/machine_list.h"
 #include "workspace/language.h"
-#include "workspace/machine_list.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "workspace/program.h"
 
-#include "workspace/kept_machine.h"
+#include "workspace/files/kept_machine.h"
 
 namespace veldrin {
 

@@ -1,6 +1,6 @@
 #include "dialogs/compare_window.h"
 
-#include "model/plan_line.h"
+#include "model/gear_pairs.h"
 #include "simulated/simulated_machine.h"
 
 #include <gtest/gtest.h>

@@ -4,10 +4,10 @@
 #include "mainwin/refresh_display.h"
 #include "simulated/simulated_machine.h"
 #include "tests/simulated/machine_with.h"
+#include "workspace/files/machine_list.h"
+#include "workspace/files/working_files.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
-#include "workspace/machine_list.h"
-#include "workspace/working_files.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "mainwin/gear_panel_chart.h"
+#include "mainwin/gear_panel/gear_panel_chart.h"
 
 #include "simulated/simulated_machine.h"
 

@@ -1,4 +1,4 @@
-#include "mainwin/gear_panel.h"
+#include "mainwin/gear_panel/gear_panel.h"
 
 #include "simulated/simulated_machine.h"
 

@@ -1,7 +1,7 @@
 #include "tests/monkey/walk.h"
 
 #include "runtime/fault.h"
-#include "script/script_commands.h"
+#include "script/commands/script_commands.h"
 #include "script/script_error.h"
 #include "tests/monkey/covered.h"
 

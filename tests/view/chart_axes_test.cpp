@@ -1,11 +1,11 @@
 // The axes of a chart: the same in every window that has one, at the scale that the windows are designed
 // with.
-#include "view/chart_axes.h"
+#include "view/forms/chart_axes.h"
 
 #include "tests/view/told_desk.h"
-#include "view/form2.h"
-#include "view/form4.h"
-#include "view/form5.h"
+#include "view/forms/form2.h"
+#include "view/forms/form4.h"
+#include "view/forms/form5.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "workspace/decision_panel.h"
+#include "workspace/decision_panel/decision_panel.h"
 
 #include "simulated/simulated_machine.h"
 #include "workspace/control_states.h"

@@ -1,5 +1,5 @@
 // Which opens refuse each other. Names are told apart without regard to case, as the file system does.
-#include "workspace/file_handles.h"
+#include "workspace/files/file_handles.h"
 
 #include "runtime/fault.h"
 #include "simulated/simulated_files.h"

@@ -1,5 +1,5 @@
 // The one way in for every file, and what the list reader does to the windows.
-#include "workspace/machine_list.h"
+#include "workspace/files/machine_list.h"
 
 #include "simulated/simulated_machine.h"
 #include "workspace/language.h"

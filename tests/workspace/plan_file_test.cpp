@@ -1,11 +1,11 @@
-#include "workspace/plan_file.h"
+#include "workspace/files/plan_file.h"
 
 #include "mainwin/chart.h"
 #include "mainwin/refresh_display.h"
 #include "runtime/text.h"
 #include "simulated/simulated_machine.h"
+#include "workspace/files/machine_list.h"
 #include "workspace/language.h"
-#include "workspace/machine_list.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "workspace/working_files.h"
+#include "workspace/files/working_files.h"
 
 #include "simulated/simulated_machine.h"
 

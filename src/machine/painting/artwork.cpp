@@ -1,7 +1,7 @@
 #include "machine/painting/artwork.h"
 
 #include "machine/painting/fonts.h"
-#include "view/form10.h"
+#include "view/forms/form10.h"
 
 #include <QPainterPath>
 #include <QPixmap>
