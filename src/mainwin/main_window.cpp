@@ -4,6 +4,7 @@
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "view/user_input.h"
 #include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
 #include "workspace/control_states.h"
@@ -98,8 +99,12 @@ void Form2_Unload(Program& program) {
 
 // ---- Timers ----
 
-/// Lets the chooser come up again from outside its own OK. The load that an answer wanted ends with it.
+/// Lets the chooser come up again from outside its own OK. The load that an answer wanted ends with it. A
+/// search that was started meanwhile, and any window in front, come first: a list that is read beside the
+/// plans that were found would get the rows of another machine.
 void Timer2_Timer(Program& program) {
+  const Form2& form2 = program.form2;
+  if (!user::Reachable(form2) || !form2.menu_file.Enabled) return;
   program.form2.Timer2.Enabled = false;
   ShowChooser(program, program.form3.File1);
   EndAnsweredLoad(program);

@@ -39,6 +39,8 @@ void Memory::Learn(const Program& program, const Deed& deed, bool blocked, const
 
   if (modeBefore == mode::kBasing && mode == mode::kChange) firstPlan = true;
   if (mode == mode::kBasing) firstPlan = false;
+  if (mode == mode::kChange) planWasOnShow = true;
+  if (mode == mode::kBasing) planWasOnShow = false;
 
   const bool leftEntry = IsRequestMode(modeBefore) && !IsRequestMode(mode);
   const bool enteredIt = !IsRequestMode(modeBefore) && IsRequestMode(mode);

@@ -17,6 +17,9 @@ struct Memory {
   /// The first plan was drawn while the word was still that of a machine without a plan: no baseline and no
   /// check line, until something draws it anew.
   bool firstPlan = false;
+  /// A plan of the loaded machine was on show: until then the labels of the pairs are those of the machine
+  /// before.
+  bool planWasOnShow = false;
   /// A search that was begun outside of the request entry was cancelled, which makes the word "SPEED" without
   /// opening the entry.
   bool entryNotOpened = false;

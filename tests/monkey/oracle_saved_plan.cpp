@@ -27,19 +27,20 @@ bool AnyGearBeginsInItsLastRow(const Workspace& workspace) {
   return false;
 }
 
-/// A quick-ratio file can be saved before any plan was on show; its pairs are the machine's first ones.
-std::string PairOn(const Program& program, int gear) {
+/// A quick-ratio or reference file can be saved before any plan of the machine was on show; its pairs are the
+/// machine's first ones.
+std::string PairOn(const Program& program, int gear, bool wasOnShow) {
   const Workspace& workspace = program.workspace;
   const std::string& shown = program.form2.Label12[gear].Caption;
   const int row = workspace.PlanIndex[gear];
-  return shown.empty() && row >= 1 && row <= kGearRowLimit ? workspace.GearTable(gear, row) : shown;
+  return !wasOnShow && row >= 1 && row <= kGearRowLimit ? workspace.GearTable(gear, row) : shown;
 }
 
-ShownPlan PlanOn(const Program& program) {
+ShownPlan PlanOn(const Program& program, bool wasOnShow) {
   const Form2& form2 = program.form2;
   ShownPlan plan{form2.Label6.Caption,         form2.Label8.Caption,      {},
                  program.workspace.TyreLength, program.workspace.ShiftNe, form2.Text6.Text};
-  for (int gear = 1; gear <= kGears; ++gear) plan.pairs.push_back(PairOn(program, gear));
+  for (int gear = 1; gear <= kGears; ++gear) plan.pairs.push_back(PairOn(program, gear, wasOnShow));
   return plan;
 }
 
@@ -66,7 +67,7 @@ class SavedPlanRule : public Rule {
  private:
   /// The plan and its list, as long as they can be had.
   void Remember(const Look& look) {
-    shown_ = PlanOn(look.program);
+    shown_ = PlanOn(look.program, look.memory.planWasOnShow);
     const std::string& machine = look.program.workspace.MachineName;
     if (look.now.machineKey.empty() || lists_.count(machine) != 0) return;
     for (const char* folder : {"C:\\VELDRIN\\LIST", "C:\\VELDRIN\\DAT", "C:", "D:"}) {
@@ -110,7 +111,7 @@ class SavedPlanRule : public Rule {
 
   std::string Compare(const Program& second) const {
     if (second.ended) return "opening the saved plan ends the program";
-    const ShownPlan plan = PlanOn(second);
+    const ShownPlan plan = PlanOn(second, true);
     if (second.workspace.ModeWord != mode::kChange) return "the saved plan does not open";
     // Speeds that no refresh has brought to the pair that was stepped to are doubted.
     if (second.form2.Picture20.Visible) {

@@ -43,8 +43,9 @@ class WordRule : public Rule {
     if (waits && look.now.question == 0 && !look.now.chooserUp) {
       return "ModeWord stays \"" + word + "\" without a question and a chooser";
     }
-    if (word.empty() && !look.now.machineKey.empty() && !look.now.chooserUp)
-      return "ModeWord is empty with a machine";
+    // A default list that was refused leaves its key and no machine.
+    const bool machine = !look.program.workspace.LoadedMachine.empty();
+    if (word.empty() && machine && !look.now.chooserUp) return "ModeWord is empty with a machine";
     return "";
   }
 

@@ -57,11 +57,15 @@ bool RevolutionsLeaveTheirWidth(const Look& look) {
 
 // ---- Divisions by speeds and revolutions ----
 
-/// The arrows draw the requests at once. Everything else that draws them has brought them to 10 km/h before.
+/// The arrows draw the requests at once, and what fills the boxes from the baseline draws what a file without
+/// sense has put there. Everything else that draws them has brought them to 10 km/h before.
 bool RequestIsZero(const Look& look) {
-  if (!Wrote(look, "SpinButton2")) return false;
+  const bool fromBaseline = Wrote(look, "Command2") || Wrote(look, "f_mode") || Wrote(look, "f_calc") ||
+                            Wrote(look, "Command8") || Wrote(look, "Command10");
   for (int gear = 1; gear <= kGears; ++gear) {
-    if (look.program.workspace.SpeedRequest[gear] == 0) return true;
+    if (look.program.workspace.SpeedRequest[gear] != 0) continue;
+    const bool noBaseline = std::abs(look.program.workspace.SpeedBaseline[gear]) <= 0.5F;
+    if (Wrote(look, "SpinButton2") || (fromBaseline && noBaseline)) return true;
   }
   return false;
 }
