@@ -1,8 +1,8 @@
 #include "calc/nearest_plan.h"
 
 #include "calc/gear_conflicts.h"
-#include "calc/gear_pairs.h"
 #include "calc/gear_speed.h"
+#include "calc/pairs_of_gear.h"
 #include "model/list_tables.h"
 
 #include <array>

@@ -8,6 +8,7 @@ namespace veldrin {
 
 FoundPlan FoundPlanOf(const Workspace& workspace, const PlanRows& rows) {
   FoundPlan plan;
+  plan.rows = rows;
   plan.primary = Trim(workspace.PrimaryTable[rows.primary].Text);
   plan.final = Trim(workspace.FinalTable[rows.final].Text);
   float below = 0;
@@ -25,14 +26,11 @@ FoundPlan FoundPlanOf(const Workspace& workspace, const PlanRows& rows) {
   return plan;
 }
 
-std::vector<FoundPlan> FoundPlans(const Workspace& workspace) {
-  std::vector<FoundPlan> plans;
+std::vector<PlanRows> FoundRows(const Workspace& workspace) {
+  std::vector<PlanRows> plans;
   for (int k = 1; k <= workspace.PlanCount; ++k) {
     const std::string& text = workspace.PlanList[k];
-    if (text.empty()) continue;
-    PlanRows rows;
-    ReadListText(text, '.', rows);
-    plans.push_back(FoundPlanOf(workspace, rows));
+    if (!text.empty()) ReadListText(text, '.', plans.emplace_back());
   }
   return plans;
 }

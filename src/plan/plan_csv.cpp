@@ -1,12 +1,10 @@
+#include "plan/csv_field.h"
 #include "plan/plan_output.h"
 #include "runtime/conversion.h"
 
 namespace veldrin {
 
-namespace {
-
-/// A text as a field: in quotation marks, those inside doubled, where it would not be read back without.
-std::string Field(const std::string& text) {
+std::string CsvField(const std::string& text) {
   const bool plain = text.find_first_of(",\"\r\n") == std::string::npos &&
                      (text.empty() || (text.front() != ' ' && text.back() != ' '));
   if (plain) return text;
@@ -15,22 +13,41 @@ std::string Field(const std::string& text) {
   return field + '"';
 }
 
+namespace {
+
+/// The measures and changes of a plan, the same in each of its lines.
+std::string Extras(const FoundPlan& plan) {
+  std::string extras;
+  if (plan.measures) {
+    extras += ',' + ShortestText(MissOf(*plan.measures)) + ',' + ShortestText(SumOf(*plan.measures)) + ',' +
+              ShortestText(StepsOf(*plan.measures));
+  }
+  if (plan.changes) {
+    extras += ',' + std::to_string(CountParts(*plan.changes)) + ',' + CsvField(ChangeText(*plan.changes));
+  }
+  return extras;
+}
+
 }  // namespace
 
 void WriteCsv(std::ostream& out, const std::vector<FoundPlan>& plans) {
-  out << "plan,primary,final,gear,pair,request,speed,step,ne_after\n";
+  out << "plan,primary,final,gear,pair,request,speed,step,ne_after";
+  if (!plans.empty() && plans[0].measures) out << ",miss,sum,steps";
+  if (!plans.empty() && plans[0].changes) out << ",parts,changes";
+  out << '\n';
   int number = 0;
   for (const FoundPlan& plan : plans) {
     ++number;
     int gearNumber = 0;
     for (const FoundGear& gear : plan.gears) {
       ++gearNumber;
-      out << number << ',' << Field(plan.primary) << ',' << Field(plan.final) << ',' << gearNumber << ','
-          << Field(gear.pair) << ',' << ShortestText(gear.request) << ',' << ShortestText(gear.speed) << ',';
+      out << number << ',' << CsvField(plan.primary) << ',' << CsvField(plan.final) << ',' << gearNumber
+          << ',' << CsvField(gear.pair) << ',' << ShortestText(gear.request) << ','
+          << ShortestText(gear.speed) << ',';
       if (gearNumber > 1) out << ShortestText(gear.step);
       out << ',';
       if (gearNumber > 1) out << ShortestText(gear.afterNe);
-      out << '\n';
+      out << Extras(plan) << '\n';
     }
   }
 }

@@ -33,6 +33,16 @@ void WriteGear(std::ostream& out, int number, const FoundGear& gear) {
       << ", \"ne_after\": " << (number > 1 ? ShortestText(gear.afterNe) : "null") << '}';
 }
 
+void WriteJsonChanges(std::ostream& out, const std::vector<PartChange>& changes) {
+  out << ",\n      \"parts\": " << CountParts(changes) << ", \"changes\": [";
+  const char* separator = "";
+  for (const PartChange& change : changes) {
+    out << separator << JsonText(ChangeText(change));
+    separator = ", ";
+  }
+  out << ']';
+}
+
 }  // namespace
 
 void WriteJsonPlan(std::ostream& out, const FoundPlan& plan) {
@@ -43,7 +53,14 @@ void WriteJsonPlan(std::ostream& out, const FoundPlan& plan) {
     if (number > 0) out << ",\n";
     WriteGear(out, ++number, gear);
   }
-  out << "\n      ]\n    }";
+  out << "\n      ]";
+  if (plan.measures) {
+    out << ",\n      \"miss\": " << ShortestText(MissOf(*plan.measures))
+        << ", \"sum\": " << ShortestText(SumOf(*plan.measures))
+        << ", \"steps\": " << ShortestText(StepsOf(*plan.measures));
+  }
+  if (plan.changes) WriteJsonChanges(out, *plan.changes);
+  out << "\n    }";
 }
 
 void WriteJson(std::ostream& out, const Workspace& workspace, const std::vector<FoundPlan>& plans,

@@ -2,12 +2,19 @@
 #pragma once
 
 #include "calc/nearest_plan.h"
+#include "plan/arguments.h"
 #include "plan/found_plans.h"
+#include "plan/why.h"
 
 #include <ostream>
 #include <vector>
 
 namespace veldrin {
+
+/// The plans in the format that the arguments ask for. A table of no plans is empty, and so are drawing and
+/// page.
+void WritePlans(std::ostream& out, const PlanArguments& arguments, const Workspace& workspace,
+                const std::vector<FoundPlan>& plans, const CombinationFile* combination = nullptr);
 
 /// A head with the machine and what the search rests on, then a block for each plan.
 void WriteTable(std::ostream& out, const Workspace& workspace, const std::vector<FoundPlan>& plans);

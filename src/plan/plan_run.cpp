@@ -4,6 +4,7 @@
 #include "runtime/fault.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace veldrin {
 
@@ -51,6 +52,29 @@ std::string ManualGear(PlanArguments arguments, const Workspace& machine) {
   return "";
 }
 
+/// How far the best plans may miss, where nothing is said.
+constexpr double kWithinByDefault = 5;
+
+std::optional<double> Within(const PlanArguments& arguments) {
+  if (arguments.within) return arguments.within;
+  const bool needsOne = arguments.rank == Rank::Steps || arguments.rank == Rank::Change;
+  return needsOne ? std::optional(kWithinByDefault) : std::nullopt;
+}
+
+/// The bounds of the gears that are held, and all others within the same.
+SearchBounds BestBounds(const PlanArguments& arguments) {
+  SearchBounds bounds;
+  const double within = Within(arguments).value_or(std::numeric_limits<double>::infinity());
+  for (int gear = 1; gear <= kGears; ++gear) {
+    bounds[gear] = {within, within, false};
+    if (gear == arguments.mainGear) bounds[gear] = {1, 1, true};
+    if (const auto& manual = arguments.manual[gear]) {
+      bounds[gear] = {static_cast<double>(manual->minus), static_cast<double>(manual->plus), true};
+    }
+  }
+  return bounds;
+}
+
 /// The gears that --manual holds.
 Table<bool, 1, kGears> ManualGears(const PlanArguments& arguments) {
   Table<bool, 1, kGears> manual;
@@ -73,7 +97,19 @@ bool RunSearch(const PlanArguments& arguments, Workspace& machine) {
   return SearchMixed(machine, ManualGears(arguments), silent);
 }
 
+std::vector<BestPlan> RunBest(const PlanArguments& arguments, Workspace& machine, const PartCosts& costs) {
+  machine.SpeedRequest = arguments.speed;
+  BestQuery query;
+  query.count = arguments.best.value_or(1);
+  query.rank = arguments.rank;
+  query.within = Within(arguments);
+  query.bounds = BestBounds(arguments);
+  query.costs = costs;
+  return FindBestPlans(machine, query);
+}
+
 NearestPlans WhyNoPlan(const PlanArguments& arguments, const Workspace& searched) {
+  if (arguments.best) return FindNearestPlans(searched, BestBounds(arguments));
   return FindNearestPlans(searched, arguments.HasManual() ? MixedBounds(searched, ManualGears(arguments))
                                                           : AutoBounds(arguments.mainGear));
 }

@@ -2,6 +2,7 @@
 
 #include "plan/columns.h"
 #include "plan/plan_output.h"
+#include "plan/sheet/gear_names.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"
 
@@ -33,12 +34,14 @@ void WriteGear(std::ostream& out, std::size_t k, const FoundGear& gear, int pair
   out << '\n';
 }
 
-}  // namespace
-
-std::string GearName(int gear) {
-  constexpr const char* kNames[] = {"1ST", "2ND", "3RD", "4TH", "5TH", "6TH"};
-  return kNames[gear - 1];
+/// "2 parts: final 16-37 for 17-39; 3rd 21.25 for 20.24", "nothing".
+std::string ChangeLine(const std::vector<PartChange>& changes) {
+  if (changes.empty()) return ChangeText(changes);
+  const int parts = CountParts(changes);
+  return std::to_string(parts) + (parts == 1 ? " part: " : " parts: ") + ChangeText(changes);
 }
+
+}  // namespace
 
 void WriteTableHead(std::ostream& out, const Workspace& workspace, const std::string& count) {
   out << workspace.MachineName << "   tyre " << ShortestText(workspace.TyreLength) << " m   shift "
@@ -51,6 +54,12 @@ void WriteTablePlan(std::ostream& out, const std::string& title, const FoundPlan
       << "  gear  " << Behind("pair", pairWidth) << Before("request", 10) << Before("speed", 8)
       << Before("off", 8) << Before("step", 8) << Before("ne after", 10) << '\n';
   for (std::size_t k = 0; k < plan.gears.size(); ++k) WriteGear(out, k, plan.gears[k], pairWidth);
+  if (plan.measures) {
+    out << "  misses " << FormatNumber(MissOf(*plan.measures), "0.0") << " km/h at most, "
+        << FormatNumber(SumOf(*plan.measures), "0.0") << " in all; steps "
+        << FormatNumber(StepsOf(*plan.measures), "0") << '\n';
+  }
+  if (plan.changes) out << "  changes " << ChangeLine(*plan.changes) << '\n';
 }
 
 void WriteTable(std::ostream& out, const Workspace& workspace, const std::vector<FoundPlan>& plans) {

@@ -9,9 +9,6 @@
 
 namespace veldrin {
 
-/// "1ST" to "6TH".
-std::string GearName(int gear);
-
 /// Columns of the widest pair, at least those of the heading.
 int WidthOfPairs(const std::vector<FoundPlan>& plans);
 

@@ -3,6 +3,7 @@
 #include "plan/columns.h"
 #include "plan/json_text.h"
 #include "plan/plan_table.h"
+#include "plan/sheet/gear_names.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"
 

@@ -174,7 +174,7 @@ TEST(Arguments, MistakesAreTold) {
       {{"--tyre", "0.99"}, "--tyre: 0.99 is out of range, 1 to 3"},
       {{"--tyre", "3.01"}, "--tyre: 3.01 is out of range, 1 to 3"},
       {{"--tyre", "1,9"}, "--tyre: \"1,9\" is no number"},
-      {{"--format", "xml"}, "--format: \"xml\" is none of table, csv and json"},
+      {{"--format", "xml"}, "--format: \"xml\" is none of table, csv, json, svg and html"},
       {{"--encoding", "latin"}, "--encoding: \"latin\" is neither utf-8 nor cpN"},
       {{"--encoding", "cp"}, "--encoding: \"cp\" is neither utf-8 nor cpN"},
       {{"--encoding", "cp-932"}, "--encoding: \"cp-932\" is neither utf-8 nor cpN"},

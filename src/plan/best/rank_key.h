@@ -32,6 +32,17 @@ struct Measures {
   friend bool operator==(const Measures&, const Measures&) = default;
 };
 
+// The same in km/h and in (rev/min) squared.
+inline double MissOf(const Measures& measures) {
+  return static_cast<double>(measures.miss) / kMissUnits;
+}
+inline double SumOf(const Measures& measures) {
+  return static_cast<double>(measures.sum) / kMissUnits;
+}
+inline double StepsOf(const Measures& measures) {
+  return static_cast<double>(measures.steps) / (kDropUnits * kDropUnits);
+}
+
 /// The measures in the order in which `rank` compares them; the smaller the better.
 std::array<std::int64_t, 3> RankValues(Rank rank, const Measures& measures);
 

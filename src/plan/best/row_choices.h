@@ -1,7 +1,7 @@
 // The rows that come into question at one primary and final row, and bounds on what can be made of them.
 #pragma once
 
-#include "calc/gear_pairs.h"
+#include "calc/pairs_of_gear.h"
 #include "plan/best/best_plans.h"
 
 #include <array>

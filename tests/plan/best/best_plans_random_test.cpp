@@ -104,7 +104,7 @@ TEST_P(BestPlans, EqualThePlainEnumerationOnRandomMachines) {
   int cut = 0;
   int few = 0;
   int none = 0;
-  for (std::uint32_t seed = 1; seed <= 1500; ++seed) {
+  for (std::uint32_t seed = 1; seed <= 800; ++seed) {
     RandomMachine random(seed + 1000 * static_cast<std::uint32_t>(GetParam()));
     const Workspace workspace = random.MakeSmall();
     const BestQuery query = RandomQuery(random, GetParam());
@@ -123,7 +123,7 @@ TEST_P(BestPlans, EqualThePlainEnumerationOnRandomMachines) {
     few += !expected.empty() && allowed <= static_cast<std::size_t>(query.count);
     cut += allowed > static_cast<std::size_t>(query.count);
   }
-  EXPECT_GT(cut, 300);
+  EXPECT_GT(cut, 150);
   EXPECT_GT(few, 30);
   EXPECT_GT(none, 30);
 }

@@ -1,4 +1,4 @@
-#include "calc/gear_pairs.h"
+#include "calc/pairs_of_gear.h"
 
 #include <algorithm>
 

@@ -1,0 +1,87 @@
+#include "plan/page/chart_drawing.h"
+
+#include "calc/chart_geometry.h"
+#include "runtime/conversion.h"
+
+#include <algorithm>
+
+namespace veldrin {
+
+namespace {
+
+constexpr int kWhiteNumber = 15;
+constexpr int kGreyNumber = 7;
+constexpr int kFirstGearColour = 9;  // palette number of gear 1, where nobody has chosen others
+
+double SpeedOf(const PlanSheet& sheet, int gear) {
+  return sheet.gears[static_cast<std::size_t>(gear - 1)].speed;
+}
+
+template <class Speeds>
+void DrawRays(Surface& surface, double maxNe, double revolutions, const Speeds& speed) {
+  for (int gear = 1; gear <= kGears; ++gear) {
+    surface.Line(0, 0, maxNe, RayEnd(maxNe, speed(gear), revolutions),
+                 PaletteColour(kFirstGearColour + gear - 1));
+  }
+}
+
+void DrawMark(Surface& surface, double revolutions, double maxSpeed, int style, Colour colour) {
+  surface.drawStyle = style;
+  surface.Line(revolutions, 0, revolutions, maxSpeed, colour);
+}
+
+void DrawTooth(Surface& surface, const PlanSheet& sheet, double maxNe, Colour colour) {
+  const double shiftNe = sheet.shiftNe;
+  const auto speed = [&](int gear) { return SpeedOf(sheet, gear); };
+  const auto drop = [&](int gear) { return Divide(shiftNe * speed(gear - 1), speed(gear)); };
+  bool first = true;
+  WalkSawTooth({shiftNe, maxNe, speed, drop}, [&](double x, double y) {
+    if (first) surface.Line(0, 0, x, y, colour);
+    if (!first) surface.LineTo(x, y, colour);
+    first = false;
+  });
+}
+
+}  // namespace
+
+Scale ChartScaleOf(const std::vector<PlanSheet>& sheets) {
+  double maxNe = 0;
+  double maxSpeed = 0;
+  for (const PlanSheet& sheet : sheets) {
+    maxNe = std::max<double>(maxNe, sheet.maxNe);
+    maxSpeed = std::max<double>(maxSpeed, sheet.maxSpeed);
+  }
+  return {0, maxSpeed, maxNe, -maxSpeed};
+}
+
+Colour ToothColour(std::size_t place) {
+  constexpr int kColours[] = {kWhiteNumber, 14, 11, 13, 10, 12, 6, 3};
+  return PaletteColour(kColours[place % std::size(kColours)]);
+}
+
+void DrawPlans(Surface& surface, const std::vector<PlanSheet>& sheets) {
+  const Scale scale = ChartScaleOf(sheets);
+  surface.SetScale(scale);
+  surface.Clear();
+  const PlanSheet& first = sheets.front();
+  surface.drawStyle = kPenSolid;
+  DrawRays(surface, scale.width, first.shiftNe, [&](int gear) { return SpeedOf(first, gear); });
+  surface.drawStyle = kPenDotted;
+  if (sheets.size() == 1 && first.hasStored) {
+    DrawRays(surface, scale.width, first.referenceNe, [&](int gear) {
+      return static_cast<double>(first.gears[static_cast<std::size_t>(gear - 1)].stored);
+    });
+  }
+  for (std::size_t k = 1; k < sheets.size(); ++k) {
+    DrawRays(surface, scale.width, sheets[k].shiftNe, [&](int gear) { return SpeedOf(sheets[k], gear); });
+  }
+  for (std::size_t k = 0; k < sheets.size(); ++k) {
+    const bool isDrawn = k > 0 && sheets[k].shiftNe == first.shiftNe;
+    if (!isDrawn) DrawMark(surface, sheets[k].shiftNe, scale.top, kPenDashDot, ToothColour(k));
+  }
+  DrawMark(surface, first.checkNe, scale.top, kPenDashDotDot, PaletteColour(kGreyNumber));
+  surface.drawStyle = kPenSolid;
+  for (std::size_t k = 0; k < sheets.size(); ++k) DrawTooth(surface, sheets[k], scale.width, ToothColour(k));
+}
+
+}  // namespace veldrin
