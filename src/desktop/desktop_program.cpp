@@ -6,9 +6,13 @@
 #include "program/event_boundary.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
+#include "safety/fault_words.h"
+#include "workspace/language.h"
 #include "workspace/settings.h"
 
 #include <QApplication>
+#include <QProcess>
+#include <QProcessEnvironment>
 #include <QScreen>
 #include <QTimer>
 
@@ -22,6 +26,11 @@ constexpr char kZoomSetting[] = "Zoom";
 constexpr double kPercent = 100;
 constexpr int kPrepareAfter = 20;  // ms
 
+constexpr char kKeptVariable[] = "VELDRIN_KEPT";  // what a copy leaves for the one that it starts
+constexpr char kStartAgain[] = "Start again";
+constexpr char kStartAgainJapanese[] = "再起動";
+constexpr char kIsKept[] = "\n\nThe plan is kept.";
+constexpr char kIsKeptJapanese[] = "\n\nプランは保管されています。";
 constexpr char kNotPrinted[] = "The page could not be printed.";
 constexpr char kNotPrintedJapanese[] = "印刷できませんでした。";
 constexpr char kNoLists[] =
@@ -33,11 +42,29 @@ constexpr char kNoListsJapanese[] =
     "サンプルの機種ファイルは、プログラムに付属の share/veldrin/LIST フォルダにあります。"
     "下記のフォルダにコピーするか、この画面でお手持ちの機種ファイルを選択してください。\r\n\r\n";
 
+/// The kept plan that the copy before this one has left open. Programs that this one starts do not inherit
+/// it.
+std::string TakeWantedPlan() {
+  const std::string id = qEnvironmentVariable(kKeptVariable).toStdString();
+  qunsetenv(kKeptVariable);
+  return id;
+}
+
+void StartAnew(const std::string& keptId, const std::string& file) {
+  QProcess anew;
+  anew.setProgram(QCoreApplication::applicationFilePath());
+  if (keptId.empty() && !file.empty()) anew.setArguments({QString::fromStdString(file)});
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(kKeptVariable, QString::fromStdString(keptId));
+  anew.setProcessEnvironment(environment);
+  anew.startDetached();
+}
+
 }  // namespace
 
 void ProgramWindows::EventFired(Control& control, const Event& event) {
   DesktopWindows::EventFired(control, event);
-  if (eventComes) eventComes(event);
+  if (eventComes) eventComes(control, event);
 }
 
 DesktopProgram::DesktopProgram() {
@@ -53,12 +80,23 @@ DesktopProgram::DesktopProgram() {
     machine.boxes.Message(BoxIcon::Exclamation, "", japanese ? kNotPrintedJapanese : kNotPrinted,
                           BoxButtons::Ok);
   };
+  machine.boxes.tellFault = [this](int number) { return TellFault(number); };
+  machine.notices.told = [this](Notice notice) { stage.notices.Add(std::move(notice)); };
   program = AssembleProgram(machine.machine);
-  windows.eventComes = [this](const Event& event) { HearEvent(event); };
+  const auto runEvent = [this](const std::function<void()>& event) {
+    stage.input.Do([&] {
+      event();
+      return true;
+    });
+  };
+  kept_ = std::make_unique<KeptPlans>(*program, keepFolder_, runEvent, TakeWantedPlan());
+  windows.eventComes = [this](const Control& control, const Event& event) { HearEvent(control, event); };
   stage.input.afterEvent = [this, settle = std::exchange(stage.input.afterEvent, {})] {
     settle();
     LayOutForPlan();
+    kept_->EventEnded();
   };
+  startAgain = StartAnew;
   stage.input.Serve(program.get());
   stage.input.ended = [] { QCoreApplication::exit(); };
   stage.fileDropped = [this](const std::string& path) {
@@ -68,9 +106,11 @@ DesktopProgram::DesktopProgram() {
                    [this](QSessionManager& session) { CommitSession(session); });
 }
 
-void DesktopProgram::HearEvent(const Event& event) {
+void DesktopProgram::HearEvent(const Control& control, const Event& event) {
   const Workspace& workspace = program->workspace;
   const Form3& form3 = program->form3;
+  inBox_ = control.kind == ControlKind::TextBox;
+  if (&event == &program->form2.QueryUnload) kept_->Closing();
   if (&event == &program->form2.Resize) {
     layoutDue_ = workspace.ModeWord == mode::kBasing;
   } else if (&event == &program->form2.Unload) {
@@ -93,6 +133,24 @@ void DesktopProgram::LayOutForPlan() {
   });
 }
 
+/// What is kept is on the disk by the time that the box says so.
+FaultStory DesktopProgram::TellFault(int number) {
+  kept_->Secure();
+  keptAtFault_ = kept_->KeptId();
+  const bool japanese = SpeaksJapanese(program->workspace);
+  FaultStory story{FaultWords(*program, number, inBox_).In(japanese), {}};
+  if (!keptAtFault_.empty()) story.text += japanese ? kIsKeptJapanese : kIsKept;
+  story.choices.push_back({japanese ? kStartAgainJapanese : kStartAgain, [this] { wantsAnew_ = true; }});
+  return story;
+}
+
+/// Without changes the plan is that of its file.
+void DesktopProgram::GoOnAnew() {
+  if (!wantsAnew_ || !startAgain) return;
+  const Workspace& workspace = program->workspace;
+  startAgain(keptAtFault_, workspace.DataFile.empty() ? workspace.LoadedList : workspace.DataFile);
+}
+
 /// The chooser has come up with nothing to choose.
 void DesktopProgram::TellMissingLists() {
   const bool japanese = program->workspace.Language == kJapanese;
@@ -103,6 +161,7 @@ void DesktopProgram::TellMissingLists() {
 
 DesktopProgram::~DesktopProgram() {
   stage.input.Serve(nullptr);
+  kept_.reset();
   windows.Forget();
   windows.Settle();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -164,6 +223,7 @@ void DesktopProgram::LeaveTidy() {
   } catch (const EndOfProgram&) {
     // Nobody goes on with the event around this one.
   }
+  kept_->End();
 }
 
 void DesktopProgram::CloseUnasked() {
@@ -187,6 +247,8 @@ int DesktopProgram::Run(const std::string& commandLine) {
   });
   QApplication::exec();
   windows.Forget();
+  kept_->End();
+  GoOnAnew();
   return program->endFault == 0 ? 0 : 1;
 }
 

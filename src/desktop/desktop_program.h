@@ -1,6 +1,7 @@
 // The whole desktop program: the real machine, the windows on the screen and the program between them.
 #pragma once
 
+#include "desktop/kept_plans.h"
 #include "desktop/windows/desktop_windows.h"
 #include "desktop/windows/stage.h"
 #include "machine/painting/font_metrics.h"
@@ -24,7 +25,7 @@ class ProgramWindows : public DesktopWindows {
 
   void EventFired(Control& control, const Event& event) override;
 
-  std::function<void(const Event& event)> eventComes;
+  std::function<void(const Control& control, const Event& event)> eventComes;
 };
 
 /// Needs a QApplication. The zoom is the one that the user left, at first the one that fits the screen.
@@ -42,8 +43,8 @@ class DesktopProgram {
   /// Closes the main window at the session's end. It may refuse while there are unsaved changes, and asks;
   /// where nobody can be asked it ends as EndAtOnce does. Returns whether the session may end.
   bool EndSession(bool mayAsk);
-  /// Ends the program as the main window's end does, but without a question: unsaved changes are lost, the
-  /// history and the window's place are stored, the working file goes.
+  /// Ends the program as the main window's end does, but without a question: unsaved changes are kept
+  /// for the next start, the history and the window's place are stored, the working file goes.
   void EndAtOnce();
   /// The same for a process that is about to end by itself and whose windows are gone already.
   void LeaveTidy();
@@ -54,17 +55,28 @@ class DesktopProgram {
   RealMachine machine{windows, metrics};
   std::unique_ptr<Program> program;
 
+  /// Starts the program anew with the kept plan of this id, or where it is empty with a file, when this one
+  /// has ended by a fault and its user wants to go on.
+  std::function<void(const std::string& keptId, const std::string& file)> startAgain;
+
  private:
   void TakeStoredZoom();
   void TakeZoom();
   void ZoomChanged();
   void CommitSession(QSessionManager& session);
-  void HearEvent(const Event& event);
+  void HearEvent(const Control& control, const Event& event);
   void LayOutForPlan();
   void TellMissingLists();
+  FaultStory TellFault(int number);
+  void GoOnAnew();
   /// The last event of the program; ends it.
   void CloseUnasked();
 
+  RealKeepFolder keepFolder_;
+  std::unique_ptr<KeptPlans> kept_;
+  bool inBox_ = false;        // the event that came last is a text box's
+  bool wantsAnew_ = false;    // the user wants to go on after the fault
+  std::string keptAtFault_;   // id of the kept plan
   bool layoutDue_ = false;    // the main window has a size that it was not laid out for
   bool missingTold_ = false;  // the user knows that there are no machine lists
   QObject listener_;          // what would be told to the program is not told any more when it is gone

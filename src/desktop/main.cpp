@@ -49,7 +49,7 @@ void TellWithoutCore(QtMsgType type, const QMessageLogContext& /*context*/, cons
   }
   if (running != nullptr && veldrin::TellsLostDisplay(message)) {
     LeaveTidy();
-    std::fprintf(stderr, "veldrin: the display is gone; what was not saved is lost\n");
+    std::fprintf(stderr, "veldrin: the display is gone; what was not saved is kept for the next start\n");
     // Nobody would see a window of the program any more, should it live on.
     QCoreApplication::exit(EXIT_FAILURE);
     return;

@@ -7,20 +7,16 @@ namespace veldrin {
 
 namespace {
 
-bool IsBox(const Control* control) {
-  return control != nullptr && control->kind == ControlKind::TextBox;
-}
-
 bool HasTooManyPlans(const Program& program) {
   return program.workspace.PlanCount >= kPlanLimit;
 }
 
 }  // namespace
 
-BothLanguages FaultWords(const Program& program, int fault, const Control* control) {
+BothLanguages FaultWords(const Program& program, int fault, bool inBox) {
   switch (fault) {
     case kFaultTypeMismatch:
-      if (IsBox(control)) return {"A box held no number.", "数値ではない入力がありました。"};
+      if (inBox) return {"A box held no number.", "数値ではない入力がありました。"};
       return {"A number was asked for where none stood.", "数値であるべきところが数値ではありません。"};
     case kFaultOverflow:
       return {"A number was too large.", "数値が大きすぎます。"};

@@ -6,8 +6,8 @@
 
 namespace veldrin {
 
-/// Words for a fault that has ended the program, by its number and what the program was at. `control` is
-/// where the event came from that ran last, null for none.
-BothLanguages FaultWords(const Program& program, int fault, const Control* control);
+/// Words for a fault that has ended the program, by its number and what the program was at. `inBox` tells
+/// whether the event that ran last was a text box's.
+BothLanguages FaultWords(const Program& program, int fault, bool inBox);
 
 }  // namespace veldrin

@@ -1,7 +1,7 @@
 // Puts kept plans on the disk behind the program's back: waiting for a disk must not make a step slow.
 #pragma once
 
-#include "safety/keep_folder.h"
+#include "platform/keep_folder.h"
 #include "safety/kept_plan.h"
 
 #include <condition_variable>

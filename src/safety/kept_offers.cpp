@@ -3,6 +3,7 @@
 #include "platform/paths.h"
 #include "runtime/fault.h"
 #include "safety/reopen.h"
+#include "view/user_input.h"
 #include "workspace/failure_texts.h"
 
 #include <algorithm>
@@ -32,6 +33,15 @@ std::string FreePath(const Program& program, const KeptPlan& kept) {
     const std::string path =
         JoinPath(rules, folder, name + "-" + std::to_string(number) + "." + kept.plan.key);
     if (!files.FileExists(path) && !files.FolderExists(path)) return path;
+  }
+}
+
+void PutWindow(Window& window, const WindowPlace& place) {
+  if (place.state == static_cast<int>(WindowState::Normal)) {
+    user::Resize(window, place.width, place.height);
+    user::Move(window, place.left, place.top);
+  } else {
+    user::SetState(window, place.state);
   }
 }
 
@@ -67,6 +77,8 @@ void KeptOffers::Begin() {
 bool KeptOffers::OpenAtOnce(const std::string& id) {
   if (!Take(id, false)) return false;
   std::rotate(offers_.rbegin(), offers_.rbegin() + 1, offers_.rend());
+  const WindowPlace place = offers_.front().kept.place;
+  PutWindow(program_->form2, place);
   Open();
   return true;
 }

@@ -5,7 +5,7 @@
 // the next start, and so does what cannot be read or has lost its list; nothing is deleted unasked.
 #pragma once
 
-#include "safety/keep_folder.h"
+#include "platform/keep_folder.h"
 #include "safety/kept_plan.h"
 #include "safety/safety_net.h"
 #include "workspace/program.h"

@@ -14,7 +14,7 @@
 //   the program ends in any other way              stays
 #pragma once
 
-#include "safety/keep_folder.h"
+#include "platform/keep_folder.h"
 #include "safety/keep_writer.h"
 #include "safety/plan_state.h"
 #include "workspace/program.h"

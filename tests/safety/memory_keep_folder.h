@@ -1,8 +1,8 @@
 // The folder of kept plans in memory, shared by several copies of the program as the real one is.
 #pragma once
 
+#include "platform/keep_folder.h"
 #include "runtime/fault.h"
-#include "safety/keep_folder.h"
 
 #include <algorithm>
 #include <map>

@@ -203,8 +203,37 @@ Control* ReachedIn(const QWidget& inside) {
   return view == nullptr ? nullptr : view->Shows();
 }
 
+namespace {
+
+/// A key for the button of the message strip that is reached. Any but those that press it let go.
+bool ServeStrip(MessageStrip& strip, const QKeyEvent& event) {
+  const bool presses =
+      event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (presses && IsUnmodified(event)) {
+    if (!event.isAutoRepeat()) strip.PressReached();
+    return true;
+  }
+  strip.LetGo();
+  return event.key() == Qt::Key_Escape;
+}
+
+MessageStrip* ReachedStripIn(const QWidget& inside) {
+  FormWidget* const form = FormAround(inside);
+  MessageStrip* const strip = form == nullptr ? nullptr : form->Strip();
+  return strip == nullptr || strip->Reached() == nullptr ? nullptr : strip;
+}
+
+/// F6 past the ends of the controls. False where the strip has nothing to reach.
+bool ReachStrip(FormWidget& form, bool forward) {
+  MessageStrip* const strip = form.Strip();
+  return strip != nullptr && (forward ? strip->ReachFirst() : strip->ReachLast());
+}
+
+}  // namespace
+
 bool ServeReached(Stage& stage, const Window& window, const QWidget& inside, const QKeyEvent& event) {
   if (IsListOpen(window) || IsOfOthers(event)) return false;
+  if (MessageStrip* strip = ReachedStripIn(inside)) return ServeStrip(*strip, event);
   Control* const control = ReachedIn(inside);
   if (control == nullptr) return false;
   FormWidget& form = *FormAround(inside);
@@ -227,10 +256,21 @@ bool ServeReach(const Window& window, const QWidget& inside, const QKeyEvent& ev
   const bool forward = event.modifiers() == Qt::NoModifier;
   const QWidget* now = ring.Around();
   const Reachables all(window, *form);
-  QWidget* const next = now == nullptr ? all.Start(forward) : all.Neighbour(*now, forward);
+  QWidget* next = nullptr;
+  if (MessageStrip* strip = ReachedStripIn(inside)) {
+    // Behind the last control stands the strip; behind the strip nothing.
+    if (strip->ReachNeighbour(forward) || forward) return true;
+    next = all.Start(false);
+    if (next == nullptr) return true;
+  } else {
+    const bool entersStrip = now == nullptr && !forward && ReachStrip(*form, false);
+    if (entersStrip) return true;
+    next = now == nullptr ? all.Start(forward) : all.Neighbour(*now, forward);
+  }
   if (next == nullptr) {
     if (now != nullptr) ring.LetGo();
-    return now != nullptr;
+    const bool leavesControls = forward && ReachStrip(*form, true);
+    return now != nullptr || leavesControls;
   }
   ring.Surround(*next);
   form->Reveal(next);

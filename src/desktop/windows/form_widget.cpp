@@ -55,6 +55,7 @@ FormWidget::FormWidget(Window& window, Stage& stage, FormFinder formOf)
     menuBar_ = new QMenuBar(this);
     menuBar_->setNativeMenuBar(false);
     setAcceptDrops(true);
+    strip_ = new MessageStrip(stage, this, [this] { MakeRoomForStrip(); });
   }
   MakeMissingViews();
   Stack(window);
@@ -202,6 +203,7 @@ void FormWidget::Settle() {
   if (raised_ != nullptr && raised_->isVisible()) Reveal(raised_);
   raised_.clear();
   ring_->StayInFront();
+  if (strip_ != nullptr) strip_->Follow();
   TakeFocus();
   DeleteUnusedViews();
   if (frameUntold_ && user::Reachable(*window_)) TellFrameSoon();

@@ -19,6 +19,7 @@
 #include "desktop/input/reach_ring.h"
 #include "desktop/windows/client_area.h"
 #include "desktop/windows/frame_rules.h"
+#include "desktop/windows/message_strip.h"
 
 #include <QMenuBar>
 #include <QPixmap>
@@ -77,6 +78,8 @@ class FormWidget : public QWidget {
   ClientArea& Client() { return *client_; }
   /// The ring around what F6 has reached of them.
   ReachRing& Ring() { return *ring_; }
+  /// The line below the area, in the window with the menu; null in the others.
+  MessageStrip* Strip() { return strip_; }
   /// The way of the user's doings with what is inside.
   ProgramInput& Input() { return stage_->input; }
 
@@ -130,6 +133,10 @@ class FormWidget : public QWidget {
   void TellPlace();
   bool TakesFiles() const;
   int MenuHeight() const;
+  int StripHeight() const { return strip_ == nullptr ? 0 : strip_->Room(); }
+  /// What lies above and below the area inside.
+  int AroundHeight() const { return MenuHeight() + StripHeight(); }
+  void MakeRoomForStrip();
   int Rounding() const;
   QPoint Corner() const;
   /// Whether the program lays its window out for any size.
@@ -154,11 +161,13 @@ class FormWidget : public QWidget {
   QScrollArea* scroll_;
   ClientArea* client_;
   ReachRing* ring_;
+  MessageStrip* strip_ = nullptr;
   QRect ellipse_;             // in pixels of the program; null for none
   QPointer<QWidget> raised_;  // a panel that came to the front in this event
 
   const TwipExtent asDescribed_;  // outer size; nothing is laid out for less
   FrameMemory memory_;
+  bool wasActive_ = false;
   bool tellingFrame_ = false;  // the program hears of a place or size that the frame has already
   bool frameUntold_ = false;   // it could not be told: something modal stands in front
 };

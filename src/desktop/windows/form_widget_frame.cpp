@@ -16,6 +16,7 @@ namespace {
 
 constexpr float kMenuFontSize = 9;
 constexpr int kTitleHeight = 32;
+constexpr int kFramingTime = 200;    // ms from a window's first activity until its frame rests
 constexpr int kRestoringTime = 300;  // ms until a desktop has given a window its normal size back
 
 /// The program counts places from where the primary screen begins, which is the only one that it knows.
@@ -134,6 +135,10 @@ void FormWidget::changeEvent(QEvent* event) {
   if (isState) {
     const Qt::WindowStates old = static_cast<QWindowStateChangeEvent*>(event)->oldState();
     FrameStateChanged({old.testFlag(Qt::WindowMinimized), old.testFlag(Qt::WindowMaximized)});
+  }
+  if (event->type() == QEvent::ActivationChange && isActiveWindow() && !std::exchange(wasActive_, true)) {
+    // A frame that a window manager is still putting around a new window would lose its place if it grew.
+    if (strip_ != nullptr) QTimer::singleShot(kFramingTime, strip_, [this] { strip_->Allow(); });
   }
   if (stage_->applying > 0) return;
   Window& window = *window_;

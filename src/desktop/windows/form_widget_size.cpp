@@ -29,7 +29,7 @@ QSize SizeOf(const Extent& extent) {
 
 bool FormWidget::Scrolls() const {
   const QSize lost(Rounding(), Rounding());
-  return KeepsSize() || IsLarger(client_->size() - lost, size() - QSize(0, MenuHeight()));
+  return KeepsSize() || IsLarger(client_->size() - lost, size() - QSize(0, AroundHeight()));
 }
 
 /// What the user drew too small for its content is shown as he drew it.
@@ -82,20 +82,20 @@ QSize FormWidget::ContentFor(const QSize& inside) const {
 
 QSize FormWidget::FrameFor(const QSize& inside) const {
   const Extent bars = BarsAround(ExtentOf(inside), ExtentOf(ContentFor(inside)), Bars());
-  return inside + SizeOf(bars) + QSize(0, MenuHeight());
+  return inside + SizeOf(bars) + QSize(0, AroundHeight());
 }
 
 /// The smallest frame that the user can draw: the whole menu, and half of the content in either direction.
 Extent FormWidget::LeastFrame() const {
   const QSize half = ContentFor({0, 0}) / 2;
   const int menu = menuBar_ == nullptr ? 0 : menuBar_->sizeHint().width();
-  return {std::max(half.width(), menu), half.height() + MenuHeight()};
+  return {std::max(half.width(), menu), half.height() + AroundHeight()};
 }
 
 /// The area inside that the frame asks for as it is. What has no room on the screen keeps at least its normal
 /// size.
 QSize FormWidget::InsideOfFrame() const {
-  const Extent room{width(), height() - MenuHeight()};
+  const Extent room{width(), height() - AroundHeight()};
   if (!KeepsSize()) {
     const Extent content = ExtentOf(ContentFor({0, 0})) - Extent{Rounding(), Rounding()};
     return SizeOf(room - BarsFor(content, room, Bars()));
@@ -148,12 +148,28 @@ void FormWidget::ShowBars() {
   scroll_->setVerticalScrollBarPolicy(bars);
 }
 
-/// Menu on top, the area inside below it.
+/// The strip comes or goes: the frame grows or shrinks by it, and where it is maximised the area gives way.
+void FormWidget::MakeRoomForStrip() {
+  if (window_ == nullptr || !ellipse_.isNull()) return;
+  if (!State().IsNormal()) {
+    PlaceInside();
+    ShowBars();
+    TellFrameSoon();
+    return;
+  }
+  const Applying applying(*stage_);
+  FitFrame();
+}
+
+/// Menu on top, the area inside below it, and the strip at the bottom.
 void FormWidget::PlaceInside() {
   if (!ellipse_.isNull()) return;
   const int menu = MenuHeight();
   if (menuBar_ != nullptr) menuBar_->setGeometry(0, 0, width(), menu);
-  scroll_->setGeometry(0, menu, width(), std::max(0, height() - menu));
+  const int strip = StripHeight();
+  const int inside = std::max(0, height() - menu - strip);
+  scroll_->setGeometry(0, menu, width(), inside);
+  if (strip_ != nullptr) strip_->setGeometry(0, menu + inside, width(), strip);
 }
 
 void FormWidget::TellSize() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/input/program_input.h"
+#include "desktop/windows/notice_queue.h"
 #include "desktop/windows/zoom.h"
 
 #include <functional>
@@ -12,6 +13,8 @@ namespace veldrin {
 struct Stage {
   ProgramInput input;
   Zoom zoom;
+  /// What the program tells beside its windows.
+  NoticeQueue notices;
   /// How many writers are carrying slots to widgets now; what widgets signal then is not the user's doing.
   int applying = 0;
   /// Whether keys fire their event and do nothing else, as scripts ask of them.

@@ -3,6 +3,7 @@
 #include "machine/output/fault_text.h"
 #include "machine/painting/fonts.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
 #include <QEvent>
@@ -10,6 +11,7 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QPushButton>
 
 #include <utility>
 
@@ -154,9 +156,22 @@ BoxAnswer RealBoxes::Message(BoxIcon icon, const std::string& title, const std::
 
 void RealBoxes::Fault(int number) {
   // The program is at its end: nothing is thrown from here.
-  Ask(QMessageBox::Critical, kProgramTitle,
-      QString("Run-time error '%1':\n\n%2").arg(number).arg(QString::fromStdString(FaultText(number))),
-      QMessageBox::Ok);
+  const FaultStory story = tellFault ? tellFault(number) : FaultStory();
+  const QString text =
+      QString("Run-time error '%1':\n\n%2").arg(number).arg(QString::fromStdString(FaultText(number)));
+  const QString more = story.text.empty() ? QString() : "\n\n" + BoxText(story.text);
+  QMessageBox box(QMessageBox::Critical, kProgramTitle, text + more, QMessageBox::Ok, Owner());
+  box.setTextFormat(Qt::PlainText);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  std::vector<QPushButton*> buttons;
+  for (const FaultStory::Choice& choice : story.choices) {
+    buttons.push_back(box.addButton(QString::fromStdString(choice.caption), QMessageBox::ActionRole));
+  }
+  box.setEscapeButton(QMessageBox::Ok);
+  box.exec();
+  for (std::size_t place = 0; place < buttons.size(); ++place) {
+    if (box.clickedButton() == buttons[place]) story.choices[place].act();
+  }
 }
 
 Colour RealBoxes::ChooseColour(Colour start) {

@@ -10,8 +10,19 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace veldrin {
+
+/// What the box of a fault says below the run-time's words, and what it offers beside OK.
+struct FaultStory {
+  struct Choice {
+    std::string caption;
+    std::function<void()> act;
+  };
+  std::string text;
+  std::vector<Choice> choices;
+};
 
 class RealBoxes : public Boxes {
  public:
@@ -28,6 +39,10 @@ class RealBoxes : public Boxes {
   /// Called when a box has closed, before its answer goes back. Events go on while a box is open; what one of
   /// them left to be thrown is thrown here.
   std::function<void()> closed;
+
+  /// Asked when the box of a fault is about to be shown; where nobody answers, the run-time's words stand
+  /// alone.
+  std::function<FaultStory(int number)> tellFault;
 
   BoxAnswer Message(BoxIcon icon, const std::string& title, const std::string& text,
                     BoxButtons buttons) override;

@@ -1,5 +1,5 @@
-// The folder in which unsaved plans are kept, as the net asks for it. The plans of all running copies of the
-// program stand in one folder of the user, each under an id of its own:
+// The folder in which unsaved plans are kept, as the net beneath the program asks for it. The plans of all
+// running copies of the program stand in one folder of the user, each under an id of its own:
 //
 //   ID.kept      the kept plan
 //   ID-N.KEY     the plan file that it names, N counting the times it was kept
