@@ -16,6 +16,7 @@ class Surroundings : public ::testing::Environment {
   void SetUp() override {
     session_ = std::make_unique<QTemporaryDir>();
     qputenv("XDG_RUNTIME_DIR", session_->path().toUtf8());
+    qputenv("XDG_STATE_HOME", (session_->path() + "/state").toUtf8());
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QApplication>(count_, arguments_);
   }

@@ -9,6 +9,7 @@
 #include "runtime/fault.h"
 #include "runtime/text.h"
 #include "view/user_input.h"
+#include "workspace/caller.h"
 #include "workspace/captions.h"
 #include "workspace/control_states.h"
 #include "workspace/decision_panel/decision_panel.h"
@@ -65,10 +66,10 @@ FoundRows FindRows(const Workspace& workspace, const PlanState& kept) {
 }
 
 void Read(Program& program, const std::string& path) {
-  program.workspace.CallerWord = caller::kForm1;
-  OpenAnyFile(program, path);
-  SettleMachine(program);
-  program.workspace.CallerWord = caller::kUser;
+  Under(program, caller::kForm1, [&] {
+    OpenAnyFile(program, path);
+    SettleMachine(program);
+  });
 }
 
 /// Whether the machine's own list is in force, from the very file where that can be had.
@@ -120,11 +121,9 @@ void LayConditions(Workspace& workspace, const PlanState& kept) {
   for (int gear = 1; gear <= kGears; ++gear) workspace.SpeedBaseline[gear] = kept.baseline[Place(gear)];
 }
 
-/// The handlers of what is written stay silent: one refresh at the end shows it all.
-void Show(Program& program, const PlanState& kept) {
-  Workspace& workspace = program.workspace;
+void ShowTexts(Program& program, const PlanState& kept) {
+  const Workspace& workspace = program.workspace;
   Form2& form2 = program.form2;
-  workspace.CallerWord = caller::kModule1;
   form2.Text6.Text = kept.remark;
   form2.Text2.Text = SingleText(workspace, workspace.CheckNe);
   form2.Text3.Text = SingleText(workspace, workspace.TyreLength);
@@ -135,14 +134,20 @@ void Show(Program& program, const PlanState& kept) {
     Guarded([&] { ShowBaseline(program, gear); });
     form2.Label12[gear].Caption = kept.pairs[Place(gear)].text;
   }
+}
+
+void ShowBars(Program& program, const PlanState& kept) {
+  program.form2.HScroll1.Value = kept.shiftNe;
+  program.form2.HScroll2.Value = static_cast<int>(kept.checkNe);
+}
+
+/// The handlers of what is written stay silent: one refresh at the end shows it all, under a word that leaves
+/// the dirty flag alone.
+void Show(Program& program, const PlanState& kept) {
+  Under(program, caller::kModule1, [&] { ShowTexts(program, kept); });
   ChartScale(program);
-  workspace.CallerWord = caller::kInit;
-  form2.HScroll1.Value = kept.shiftNe;
-  form2.HScroll2.Value = static_cast<int>(kept.checkNe);
-  // Dirty is what is said below, not what this refresh would find.
-  workspace.CallerWord = caller::kScroll;
-  RefreshPlan(program);
-  workspace.CallerWord = caller::kUser;
+  Under(program, caller::kInit, [&] { ShowBars(program, kept); });
+  Under(program, caller::kScroll, [&] { RefreshPlan(program); });
   TestForbiddenPair(program, kThirdGear);
 }
 

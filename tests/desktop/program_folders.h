@@ -18,6 +18,8 @@ class ProgramFolders : public ScratchFolder {
     Put("program/LIST/nx4.rat", kSampleList);
     Put("program/DAT/Dry.nx4", kSamplePlan);
     qputenv("XDG_CONFIG_HOME", In("config").toUtf8());
+    stateBefore_ = qgetenv("XDG_STATE_HOME");
+    qputenv("XDG_STATE_HOME", In("state").toUtf8());
     qputenv("TEMP", In("temp").toUtf8());
     QDir::setCurrent(In("program"));
   }
@@ -26,6 +28,7 @@ class ProgramFolders : public ScratchFolder {
   ~ProgramFolders() {
     QDir::setCurrent(before_);
     for (const char* name : {"XDG_CONFIG_HOME", "TEMP"}) qunsetenv(name);
+    qputenv("XDG_STATE_HOME", stateBefore_);
   }
 
   QStringList TempFiles() const { return QDir(In("temp")).entryList(QDir::Files); }
@@ -33,6 +36,7 @@ class ProgramFolders : public ScratchFolder {
 
  private:
   QString before_;
+  QByteArray stateBefore_;
 };
 
 }  // namespace veldrin

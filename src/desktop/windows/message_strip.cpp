@@ -54,6 +54,7 @@ MessageStrip::MessageStrip(Stage& stage, QWidget* parent, std::function<void()> 
   setObjectName("strip");
   setStyleSheet(kLook);
   setFocusPolicy(Qt::NoFocus);
+  text_->setObjectName("text");
   text_->setTextFormat(Qt::PlainText);
   text_->setFocusPolicy(Qt::NoFocus);
   passing_.setSingleShot(true);
