@@ -470,6 +470,13 @@ class DropTest : public MainWindowTest {
     stage.fileDropped = [this](const std::string& path) { opened.push_back(path); };
   }
 
+  /// A drag that was not dropped leaves: Qt keeps the widget below it until then, and would hand it the next
+  /// drop.
+  ~DropTest() override {
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(&Widget(), &leave);
+  }
+
   QWidget& Remark() { return *dynamic_cast<QAbstractScrollArea&>(WidgetOf(program->form2.Text6)).viewport(); }
 
   static QMimeData* Files(const QList<QUrl>& urls) {
