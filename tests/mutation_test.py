@@ -83,6 +83,7 @@ class Mutants(unittest.TestCase):
     def test_neighbouring_writes_change_places(self):
         source = body("a = G();\nb.Clear();\nif (c) H();\nI();")
         self.assertEqual(changes(source, "swap"), ["b.Clear(); / a = G();"])
+        self.assertEqual(changes(body("On(a, F);\nOnEach(b, G);\nc = H();"), "swap"), [])
 
     def test_tables_of_headers_stay_unless_asked_for(self):
         source = "// clang-format off\nint x = 1;\n// clang-format on\nint y = 1;\n"

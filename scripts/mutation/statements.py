@@ -142,5 +142,6 @@ def is_drop(tokens, statement):
 
 
 def is_write(tokens, statement):
+    """Whether the statement may matter to its neighbour. Binding an event to its handler does not."""
     first = tokens[statement.first].text
-    return is_drop(tokens, statement) and first not in {"return", "break", "continue", "throw"}
+    return is_drop(tokens, statement) and first not in {"return", "break", "continue", "throw", "On", "OnEach"}

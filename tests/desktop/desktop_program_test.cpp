@@ -147,6 +147,7 @@ TEST_F(DesktopProgramTest, WhatWasIgnoredStaysIgnored) {
          });
   });
   EXPECT_TRUE(wentOn);
+  TearDown();  // which puts back what it found
   signal(SIGHUP, SIG_DFL);
 }
 

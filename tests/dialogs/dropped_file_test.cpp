@@ -4,6 +4,7 @@
 #include "program/event_boundary.h"
 #include "simulated/simulated_machine.h"
 #include "tests/desktop/sample_files.h"
+#include "tests/dialogs/dialog_fixture.h"
 
 #include <gtest/gtest.h>
 
@@ -32,7 +33,9 @@ class DroppedFileTest : public ::testing::Test {
   }
 
   SimulatedMachine simulated;
-  std::unique_ptr<Program> program = AssembleProgram(simulated.machine);
+  WatchedBoxes boxes{simulated.log};
+  Machine machine = MachineWith(simulated, boxes);
+  std::unique_ptr<Program> program = AssembleProgram(machine);
 };
 
 TEST_F(DroppedFileTest, PlanOfTheMachineIsRead) {
@@ -57,12 +60,12 @@ TEST_F(DroppedFileTest, ListChangesTheMachine) {
 TEST_F(DroppedFileTest, UnsavedChangesAreAskedAbout) {
   Drop("C:\\VELDRIN\\DAT\\A.nx4");
   program->workspace.DataChanged = dirty::kYes;
-  simulated.boxes.boxAnswers.push_back(BoxAnswer::Cancel);
+  boxes.boxAnswers.push_back(BoxAnswer::Cancel);
   Drop("C:\\VELDRIN\\LIST\\VT2.RAT");
   EXPECT_EQ(program->workspace.MachineKey, "nx4");
   EXPECT_EQ(program->workspace.DataChanged, dirty::kYes);
-  ASSERT_EQ(simulated.boxes.shown.size(), 1U);
-  EXPECT_EQ(simulated.boxes.shown[0].text, "Processing file's data is changed !\r\n\r\nNot save. Load ?");
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown[0].text, "Processing file's data is changed !\r\n\r\nNot save. Load ?");
   Drop("C:\\VELDRIN\\LIST\\VT2.RAT");
   EXPECT_EQ(program->workspace.MachineKey, "vt2");
 }
@@ -85,8 +88,8 @@ TEST_F(DroppedFileTest, PlanWhoseListCannotBeHadLeavesEverythingAsItWas) {
   simulated.files.AddFile("C:\\VELDRIN\\DAT\\C.zzz", plan);
   Drop("C:\\VELDRIN\\DAT\\C.zzz");
   EXPECT_EQ(StateOf(*program), before);
-  ASSERT_EQ(simulated.boxes.shown.size(), 1U);
-  EXPECT_EQ(simulated.boxes.shown[0].text, "C:\\VELDRIN\\LIST\\ZZZ.RAT\r\n\r\nSelected File is not exist !!");
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown[0].text, "C:\\VELDRIN\\LIST\\ZZZ.RAT\r\n\r\nSelected File is not exist !!");
 
   // One that breaks off, and one of another machine.
   std::string half = kSampleList;
@@ -94,13 +97,22 @@ TEST_F(DroppedFileTest, PlanWhoseListCannotBeHadLeavesEverythingAsItWas) {
   half.resize(half.find("M34-ARRAY"));
   for (const std::string& list : {half, std::string(kSampleList), std::string("no list"), std::string()}) {
     simulated.files.AddFile("C:\\VELDRIN\\LIST\\ZZZ.RAT", list);
-    simulated.boxes.shown.clear();
+    boxes.shown.clear();
     Drop("C:\\VELDRIN\\DAT\\C.zzz");
     EXPECT_EQ(StateOf(*program), before);
-    ASSERT_EQ(simulated.boxes.shown.size(), 1U);
-    EXPECT_EQ(simulated.boxes.shown[0].text,
-              "C:\\VELDRIN\\LIST\\ZZZ.RAT\r\n\r\nYou selected unknown file type.");
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].text, "C:\\VELDRIN\\LIST\\ZZZ.RAT\r\n\r\nYou selected unknown file type.");
   }
+}
+
+TEST_F(DroppedFileTest, ListThatVanishesBehindTheQuestionLeavesTheMachine) {
+  Drop("C:\\VELDRIN\\DAT\\A.nx4");
+  program->workspace.DataChanged = dirty::kYes;
+  boxes.onMessage = [this] { simulated.files.Remove("C:\\VELDRIN\\LIST\\VT2.RAT"); };
+  Drop("C:\\VELDRIN\\DAT\\B.vt2");
+  EXPECT_EQ(program->workspace.MachineName, "NX4");
+  EXPECT_EQ(program->workspace.MachineKey, "nx4");
+  EXPECT_EQ(program->workspace.DataChanged, dirty::kYes);
 }
 
 TEST_F(DroppedFileTest, ListThatBreaksOffLeavesEverythingAsItWas) {
@@ -112,16 +124,16 @@ TEST_F(DroppedFileTest, ListThatBreaksOffLeavesEverythingAsItWas) {
   simulated.files.AddFile("C:\\VELDRIN\\LIST\\ZZZ.RAT", half);
   Drop("C:\\VELDRIN\\LIST\\ZZZ.RAT");
   EXPECT_EQ(StateOf(*program), before);
-  ASSERT_EQ(simulated.boxes.shown.size(), 1U);
-  EXPECT_EQ(simulated.boxes.shown[0].text, "You selected unknown file type.");
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown[0].text, "You selected unknown file type.");
 }
 
 TEST_F(DroppedFileTest, FileThatIsNotThereIsTold) {
   const std::string before = StateOf(*program);
   Drop("C:\\VELDRIN\\DAT\\gone.nx4");
   EXPECT_EQ(StateOf(*program), before);
-  ASSERT_EQ(simulated.boxes.shown.size(), 1U);
-  EXPECT_EQ(simulated.boxes.shown[0].text, "Selected File is not exist !!");
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown[0].text, "Selected File is not exist !!");
 }
 
 TEST_F(DroppedFileTest, NothingIsTakenWhileTheProgramAsksOrTheMenuOfFilesIsOff) {
@@ -136,15 +148,15 @@ TEST_F(DroppedFileTest, NothingIsTakenWhileTheProgramAsksOrTheMenuOfFilesIsOff) 
   EXPECT_FALSE(TakesDroppedFiles(*program));
   Drop("C:\\VELDRIN\\LIST\\VT2.RAT");
   EXPECT_EQ(StateOf(*program), before);
-  EXPECT_TRUE(simulated.boxes.shown.empty());
+  EXPECT_TRUE(boxes.shown.empty());
   program->form2.menu_file.Enabled = true;
   EXPECT_TRUE(TakesDroppedFiles(*program));
 }
 
 TEST_F(DroppedFileTest, FileOfNoKnownKindIsTold) {
   Drop("C:\\VELDRIN\\DAT\\note.txt");
-  ASSERT_EQ(simulated.boxes.shown.size(), 1U);
-  EXPECT_EQ(simulated.boxes.shown[0].text, "You selected unknown file type.");
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown[0].text, "You selected unknown file type.");
   EXPECT_EQ(program->workspace.MachineKey, "nx4");
 }
 

@@ -33,6 +33,22 @@ TEST(Columns, AreTwoForEastAsianCharacters) {
   for (const Case& c : cases) EXPECT_EQ(Columns(c.text), c.columns) << c.text;
 }
 
+// The first and the last of each run of wide characters, and what lies right beside the runs.
+TEST(Columns, RunsOfWideCharactersHaveTheirEnds) {
+  for (const char* wide :
+       {"\u1100", "\u115F", "\u2E80",     "\u303E",     "\u3041",     "\u4DBF",    "\u4E00", "\uA4CF",
+        "\uAC00", "\uD7A3", "\uF900",     "\uFAFF",     "\uFE30",     "\uFE6F",    "\uFF01", "\uFF60",
+        "\uFFE0", "\uFFE6", "\U0001F300", "\U0001FAFF", "\U00020000", "\U0003FFFD"}) {
+    EXPECT_EQ(Columns(wide), 2) << wide;
+  }
+  for (const char* narrow :
+       {"\u10FF", "\u1160", "\u2E7F",     "\u303F",     "\u3040",     "\u4DC0",    "\u4DFF", "\uA4D0",
+        "\uABFF", "\uD7A4", "\uF8FF",     "\uFB00",     "\uFE2F",     "\uFE70",    "\uFF00", "\uFF61",
+        "\uFFDF", "\uFFE7", "\U0001F2FF", "\U0001FB00", "\U0001FFFF", "\U0003FFFE"}) {
+    EXPECT_EQ(Columns(narrow), 1) << narrow;
+  }
+}
+
 TEST(Columns, AreFilledWithBlanks) {
   EXPECT_EQ(Behind("é", 3), "é  ");
   EXPECT_EQ(Before("é", 3), "  é");

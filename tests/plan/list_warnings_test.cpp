@@ -162,6 +162,9 @@ TEST(CheckList, PairsOutOfTheOrderOfTheirRatios) {
   EXPECT_EQ(Remarks(list.Text()), Lines{}) << "falling is an order as well";
   list[14] = "1C,16,29,2C,18,27,3C,40,50,4C,25,26,5C,21,20,6C,25,22";
   EXPECT_EQ(Remarks(list.Text()), Lines{}) << "and equal ones are in order";
+  list[12] = "1A,14,29,2A,17,26,3A,40,50,4A,22,24,5A,26,25,6A,23,21";
+  list[14] = "1C,16,29,2C,18,27,3C,20,24,4C,25,26,5C,21,20,6C,25,22";
+  EXPECT_EQ(Remarks(list.Text()), Lines{}) << "the first ones as well";
 }
 
 TEST(CheckList, AMatrixThatForbidsTooMuch) {
