@@ -2,6 +2,7 @@
 
 #include "dialogs/dropped_file.h"
 #include "machine/files/real_leftovers.h"
+#include "machine/output/real_guide.h"
 #include "program/assemble.h"
 #include "program/event_boundary.h"
 #include "runtime/conversion.h"
@@ -33,6 +34,11 @@ constexpr char kIsKept[] = "\n\nThe plan is kept.";
 constexpr char kIsKeptJapanese[] = "\n\nプランは保管されています。";
 constexpr char kNotPrinted[] = "The page could not be printed.";
 constexpr char kNotPrintedJapanese[] = "印刷できませんでした。";
+constexpr char kNoGuide[] =
+    "The user's guide could not be opened. It comes with the program, in its folder share/doc/veldrin/guide.";
+constexpr char kNoGuideJapanese[] =
+    "ユーザーガイドを開けませんでした。ガイドはプログラムに付属の share/doc/veldrin/guide "
+    "フォルダにあります。";
 constexpr char kNoLists[] =
     "No machine list (*.RAT) was found.\r\n\r\n"
     "Sample machines come with the program, in its folder share/veldrin/LIST. Copy them to the folder below, "
@@ -102,6 +108,7 @@ DesktopProgram::DesktopProgram() {
   stage.fileDropped = [this](const std::string& path) {
     stage.input.Do([&] { return OpenDroppedFile(*program, path); });
   };
+  stage.helpAsked = [this](std::string_view section) { ShowGuide(section); };
   QObject::connect(qApp, &QGuiApplication::commitDataRequest, &listener_,
                    [this](QSessionManager& session) { CommitSession(session); });
 }
@@ -157,6 +164,12 @@ void DesktopProgram::TellMissingLists() {
   machine.boxes.Message(BoxIcon::Information, "",
                         (japanese ? kNoListsJapanese : kNoLists) + program->workspace.ListPath,
                         BoxButtons::Ok);
+}
+
+void DesktopProgram::ShowGuide(std::string_view section) {
+  const bool japanese = program->workspace.Language == kJapanese;
+  if (OpenGuide(GuideFolder(QCoreApplication::applicationDirPath()), japanese, section)) return;
+  machine.boxes.Message(BoxIcon::Information, "", japanese ? kNoGuideJapanese : kNoGuide, BoxButtons::Ok);
 }
 
 DesktopProgram::~DesktopProgram() {

@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace veldrin {
 
@@ -69,6 +70,7 @@ class DesktopProgram {
   void TellMissingLists();
   FaultStory TellFault(int number);
   void GoOnAnew();
+  void ShowGuide(std::string_view section);
   /// The last event of the program; ends it.
   void CloseUnasked();
 

@@ -1,6 +1,7 @@
 #include "desktop/controls/control_view.h"
 
 #include "desktop/accessible/accessible_name.h"
+#include "desktop/input/help_key.h"
 #include "desktop/input/keyboard.h"
 #include "desktop/input/keys.h"
 #include "desktop/input/pointer_gestures.h"
@@ -194,7 +195,7 @@ bool PlacedView::KeyPressed(QKeyEvent& event) {
   }
   if (stage_->keysAlone) return true;
   return OwnKey(event) || ServeEscape(*stage_, control.window, event) ||
-         ServeReach(control.window, *Widget(), event);
+         ServeReach(control.window, *Widget(), event) || ServeHelp(*stage_, control.window, *Widget(), event);
 }
 
 bool PlacedView::HandOnWheel(QEvent& event) {

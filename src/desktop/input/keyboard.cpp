@@ -1,6 +1,7 @@
 #include "desktop/input/keyboard.h"
 
 #include "desktop/controls/shown_control.h"
+#include "desktop/input/help_key.h"
 #include "desktop/input/reach.h"
 #include "runtime/text.h"
 #include "view/user_input.h"
@@ -85,7 +86,8 @@ bool ServeEscape(Stage& stage, Window& window, const QKeyEvent& event) {
 
 bool ServeWindowKey(Stage& stage, Window& window, const QWidget& widget, const QKeyEvent& event) {
   return ServeReached(stage, window, widget, event) || ServeTab(stage, window, event) ||
-         ServeEscape(stage, window, event) || ServeReach(window, widget, event);
+         ServeEscape(stage, window, event) || ServeReach(window, widget, event) ||
+         ServeHelp(stage, window, widget, event);
 }
 
 }  // namespace veldrin

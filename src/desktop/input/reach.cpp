@@ -112,6 +112,7 @@ bool IsWorking(const QKeyEvent& event) {
 bool IsOfOthers(const QKeyEvent& event) {
   if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) return true;
   switch (event.key()) {
+    case Qt::Key_F1:
     case Qt::Key_F6:
     case Qt::Key_Shift:
     case Qt::Key_Control:

@@ -8,9 +8,10 @@
 //   Menu, Shift+F10    click it with the right button
 //   Escape             lets go
 //
-// Those keys belong to what is reached and are not heard by the control with the focus. Any other key lets go
-// as well, and does what it always does; so does the mouse. F6 itself fires the KeyDown of the control with
-// the focus, as every key does. While a list that popped up has the focus, all keys are the list's.
+// Those keys belong to what is reached and are not heard by the control with the focus. F1 tells of what is
+// reached. Any other key lets go as well, and does what it always does; so does the mouse. F6 itself fires
+// the KeyDown of the control with the focus, as every key does. While a list that popped up has the focus,
+// all keys are the list's.
 #pragma once
 
 #include "desktop/windows/stage.h"

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace veldrin {
 
@@ -25,6 +26,8 @@ struct Stage {
   bool buildsAtOnce = false;
   /// Takes the path of a file that was dropped on the window with the menu.
   std::function<void(const std::string& path)> fileDropped;
+  /// Shows a section of the user's guide.
+  std::function<void(std::string_view section)> helpAsked;
 };
 
 /// While one lives, slots are being carried to widgets.

@@ -1,6 +1,7 @@
 #include "machine/files/real_program_folder.h"
 
 #include "machine/files/real_path.h"
+#include "machine/files/share_folders.h"
 #include "runtime/fault.h"
 
 #include <QCoreApplication>
@@ -84,16 +85,7 @@ bool HoldsLists(const QString& folder) {
 
 QString InstalledFolder(const QString& program) {
   QStringList candidates = {program};
-  // PREFIX/bin, a program that was copied with its share folder, and any build folder of the repository.
-  QDir around(program);
-  do {
-    candidates += around.filePath("share/veldrin");
-  } while (around.cdUp());
-  for (const QString& folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
-    if (folder == QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) continue;
-    candidates += folder + "/veldrin";
-  }
-  candidates += {"/usr/local/share/veldrin", "/usr/share/veldrin"};
+  for (const QString& share : ShareFolders(program)) candidates += share + "/veldrin";
   for (const QString& candidate : candidates) {
     if (HoldsLists(candidate)) return QDir::cleanPath(candidate);
   }

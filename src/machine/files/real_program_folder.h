@@ -20,9 +20,8 @@ namespace veldrin {
 /// user's own cannot be made it is the installed one, or the user's home.
 std::filesystem::path ProgramFolder();
 
-/// The folder with what was installed for the program in the folder `program`: beside it, in a folder
-/// share/veldrin there or in any folder around it, or in one of the system's data folders (XDG_DATA_DIRS).
-/// Empty when there is none.
+/// The folder with what was installed for the program in the folder `program`: that one itself, or veldrin in
+/// one of the folders for shared data. Empty when there is none.
 QString InstalledFolder(const QString& program);
 
 /// Makes `folder` and copies what it still lacks from `installed`. False when it cannot be made or denies

@@ -3,14 +3,13 @@
 #include "machine/files/real_files.h"
 #include "platform/system_code_pages.h"
 #include "runtime/fault.h"
+#include "tests/desktop/opened_links.h"
 #include "tests/desktop/scratch_folder.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTextBrowser>
 #include <QThread>
 #include <gtest/gtest.h>
 
@@ -23,27 +22,6 @@ QByteArray BytesOf(const QString& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
 }
-
-/// What the desktop opens links and folders with, as long as it lives: it keeps what it is asked to open.
-class Opener : public QTextBrowser {
- public:
-  Opener() {
-    for (const char* scheme : kSchemes) QDesktopServices::setUrlHandler(scheme, this, "setSource");
-  }
-  ~Opener() override {
-    for (const char* scheme : kSchemes) QDesktopServices::unsetUrlHandler(scheme);
-  }
-
-  QStringList opened;
-
- protected:
-  void doSetSource(const QUrl& url, QTextDocument::ResourceType /*type*/) override {
-    opened.append(url.toString());
-  }
-
- private:
-  static constexpr const char* kSchemes[] = {"https", "file"};
-};
 
 class RealShellTest : public ::testing::Test, protected ScratchFolder {
  protected:
@@ -89,19 +67,19 @@ TEST_F(RealShellTest, TellsAMissingProgramFromAMissingFolder) {
 }
 
 TEST_F(RealShellTest, LinksAndFoldersGoToTheDesktop) {
-  Opener opener;
+  const OpenedLinks desktop;
   QDir(folder.path()).mkdir("Some Plans");
   EXPECT_TRUE(shell.OpenWithDesktop("https://veldrin.example/"));
   EXPECT_TRUE(shell.OpenWithDesktop(folder.path().toStdString() + "/some plans"));
-  EXPECT_EQ(opener.opened,
+  EXPECT_EQ(desktop.opened,
             (QStringList{"https://veldrin.example/", "file://" + folder.path() + "/Some Plans"}));
 }
 
 TEST_F(RealShellTest, WhatIsNotThereIsNotOpened) {
-  Opener opener;
+  const OpenedLinks desktop;
   EXPECT_FALSE(shell.OpenWithDesktop(folder.path().toStdString() + "/none"));
   EXPECT_FALSE(shell.OpenWithDesktop(""));
-  EXPECT_EQ(opener.opened, QStringList{});
+  EXPECT_EQ(desktop.opened, QStringList{});
 }
 
 }  // namespace
