@@ -11,6 +11,7 @@
 
 namespace veldrin {
 
+struct SimulatedBitmap;
 struct SimulatedMachine;
 
 /// A widget that shows something else than the slot that it stands for.
@@ -58,6 +59,8 @@ class ScriptHand {
   virtual bool Screenshot(Program& /*program*/, Window& /*window*/, const std::string& /*file*/) {
     return false;
   }
+  /// The same of the bitmap on the clipboard.
+  virtual bool Screenshot(const SimulatedBitmap& /*bitmap*/, const std::string& /*file*/) { return false; }
   /// What a widget shows for a slot that a script asks for, to be held against the slot's text; nothing where
   /// there is nothing to compare.
   virtual std::optional<std::string> Shown(const Control& /*control*/, const std::string& /*slot*/) {

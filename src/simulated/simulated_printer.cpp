@@ -43,6 +43,14 @@ std::vector<Primitive> SimulatedPrinter::Drawing() const {
   return all;
 }
 
+namespace {
+
+SimulatedBitmap BitmapOf(const Surface& surface, int width, int height) {
+  return {width, height, surface.PhysicalWidth(), surface.PhysicalHeight(), surface.Drawing()};
+}
+
+}  // namespace
+
 std::vector<std::string> SimulatedBitmap::Lines() const {
   std::vector<std::string> lines{"bitmap " + std::to_string(width) + " " + std::to_string(height)};
   for (const Primitive& primitive : drawing) lines.push_back(Describe(primitive));
@@ -50,12 +58,12 @@ std::vector<std::string> SimulatedBitmap::Lines() const {
 }
 
 void SimulatedPictures::PutOnClipboard(const Surface& surface, int width, int height) {
-  clipboard = SimulatedBitmap{width, height, surface.Drawing()};
+  clipboard = BitmapOf(surface, width, height);
 }
 
 void SimulatedPictures::SaveBitmap(const std::string& path, const Surface& surface, int width, int height) {
   const auto writer = files_->OpenForWriting(path);
-  for (const std::string& line : SimulatedBitmap{width, height, surface.Drawing()}.Lines()) {
+  for (const std::string& line : BitmapOf(surface, width, height).Lines()) {
     writer->Write(line + std::string(kCrLf));
   }
   writer->Close();

@@ -53,10 +53,13 @@ class SimulatedPrinter : public Printer {
   Surface page_;
 };
 
-/// A picture that was handed over, in pixels. What lies beyond its size is still listed.
+/// A picture that was handed over, in pixels: the left top part of a surface. What lies beyond its size is
+/// still listed.
 struct SimulatedBitmap {
   int width = 0;
   int height = 0;
+  double surfaceWidth = 0;  // twips, as surfaceHeight
+  double surfaceHeight = 0;
   std::vector<Primitive> drawing;
 
   /// "bitmap W H", then each primitive.

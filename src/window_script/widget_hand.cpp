@@ -9,6 +9,7 @@
 #include "desktop/controls/text_box_widget.h"
 #include "desktop/input/keys.h"
 #include "dialogs/dropped_file.h"
+#include "machine/output/real_pictures.h"
 #include "machine/painting/text_ends.h"
 #include "runtime/text.h"
 #include "simulated/simulated_machine.h"
@@ -310,6 +311,12 @@ bool WidgetHand::Screenshot(Program& /*program*/, Window& window, const std::str
   QCoreApplication::processEvents();
   stage_.input.RethrowCaught();
   return form->Picture().save(QString::fromStdString(file), "PNG");
+}
+
+bool WidgetHand::Screenshot(const SimulatedBitmap& bitmap, const std::string& file) {
+  const QSizeF surface(bitmap.surfaceWidth, bitmap.surfaceHeight);
+  return PictureOf(bitmap.drawing, surface, bitmap.width, bitmap.height)
+      .save(QString::fromStdString(file), "PNG");
 }
 
 std::vector<Mismatch> WidgetHand::Mismatches() {

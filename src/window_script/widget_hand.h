@@ -48,6 +48,7 @@ class WidgetHand : public ScriptHand {
   bool Drop(Program& program, Window& window, const std::string& path) override;
 
   bool Screenshot(Program& program, Window& window, const std::string& file) override;
+  bool Screenshot(const SimulatedBitmap& bitmap, const std::string& file) override;
   std::vector<Mismatch> Mismatches() override;
 
  private:

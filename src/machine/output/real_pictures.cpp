@@ -19,15 +19,17 @@ constexpr double kPixelsPerTwip = 1.0 / kTwipsPerPixel;
 }  // namespace
 
 QImage PictureOf(const Surface& surface, int width, int height) {
+  return PictureOf(surface.Drawing(), {surface.PhysicalWidth(), surface.PhysicalHeight()}, width, height);
+}
+
+QImage PictureOf(const std::vector<Primitive>& drawing, const QSizeF& surface, int width, int height) {
   QImage image(std::max(width, 0), std::max(height, 0), QImage::Format_RGB32);
   if (image.isNull()) return image;
   image.setDotsPerMeterX(kDotsPerMetre);
   image.setDotsPerMeterY(kDotsPerMetre);
   image.fill(Qt::white);
   QPainter painter(&image);
-  const QRectF area(0, 0, surface.PhysicalWidth() * kPixelsPerTwip,
-                    surface.PhysicalHeight() * kPixelsPerTwip);
-  PaintDrawing(painter, surface.Drawing(), {area, kPixelsPerTwip, Qt::white});
+  PaintDrawing(painter, drawing, {{QPointF(), surface * kPixelsPerTwip}, kPixelsPerTwip, Qt::white});
   return image;
 }
 

@@ -6,11 +6,16 @@
 #include "platform/screen.h"
 
 #include <QImage>
+#include <QSizeF>
+
+#include <vector>
 
 namespace veldrin {
 
 /// The picture itself. A size of nothing gives a picture of nothing.
 QImage PictureOf(const Surface& surface, int width, int height);
+/// The same of what was drawn on a surface of this size in twips.
+QImage PictureOf(const std::vector<Primitive>& drawing, const QSizeF& surface, int width, int height);
 
 /// The bytes of a Windows bitmap file, 24 bits a pixel.
 QByteArray BitmapBytes(const QImage& image);

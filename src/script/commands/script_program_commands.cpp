@@ -117,13 +117,21 @@ void Trace(const CommandLine& line) {
   line.world.machine.windows.trace = on ? &line.world.out : nullptr;
 }
 
-void Screenshot(const CommandLine& line) {
+bool TakePicture(const CommandLine& line) {
+  ScriptHand& hand = line.world.hand;
+  if (line[1] == "Clipboard") {
+    const auto& bitmap = line.world.machine.pictures.clipboard;
+    return bitmap && hand.Screenshot(*bitmap, line[2]);
+  }
   Program& program = line.world.Running();
   const Found found = line.world.catalogue.FindWindow(program, line[1]);
-  const bool taken = found.control != nullptr &&
-                     line.world.hand.Screenshot(program, static_cast<Window&>(*found.control), line[2]);
-  if (!taken)
-    throw ScriptError{"there is no picture of " + line[1] + ": pictures need widgets and a window on show"};
+  return found.control != nullptr && hand.Screenshot(program, static_cast<Window&>(*found.control), line[2]);
+}
+
+void Screenshot(const CommandLine& line) {
+  if (TakePicture(line)) return;
+  throw ScriptError{"there is no picture of " + line[1] +
+                    ": pictures need widgets, and a window on show or a bitmap"};
 }
 
 }  // namespace
@@ -137,7 +145,7 @@ const std::vector<Command>& ProgramCommands() {
       {"call", 1, kAnyNumber, "NAME ARGUMENT...", Call},
       {"answer", 2, 3, "box|colour|print ANSWER", AnswerNext},
       {"trace", 1, 1, "on|off", Trace},
-      {"screenshot", 2, 2, "WINDOW FILE", Screenshot},
+      {"screenshot", 2, 2, "WINDOW|Clipboard FILE", Screenshot},
   };
   return kCommands;
 }
