@@ -1,8 +1,8 @@
 # What run and test share; sourced, from the repository's root.
 
-BUILD_PACKAGES=(g++ cmake ninja-build)
+BUILD_PACKAGES=(g++ cmake ninja-build python3)
 DESKTOP_PACKAGES=(qt6-base-dev qt6-translations-l10n fonts-liberation fonts-noto-cjk)
-TEST_PACKAGES=(libgtest-dev mold clang-format git python3 poppler-utils shared-mime-info xdg-utils desktop-file-utils)
+TEST_PACKAGES=(libgtest-dev mold clang-format git poppler-utils shared-mime-info xdg-utils desktop-file-utils)
 
 # quietly LOG COMMAND...: the output goes to LOG and is shown only when the command fails, without the lines
 # that merely count steps.

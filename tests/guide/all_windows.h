@@ -2,15 +2,15 @@
 #pragma once
 
 #include "tests/view/told_desk.h"
-#include "view/form1.h"
-#include "view/form10.h"
-#include "view/form2.h"
-#include "view/form3.h"
-#include "view/form4.h"
-#include "view/form5.h"
-#include "view/form6.h"
-#include "view/form7.h"
-#include "view/form9.h"
+#include "view/forms/form1.h"
+#include "view/forms/form10.h"
+#include "view/forms/form2.h"
+#include "view/forms/form3.h"
+#include "view/forms/form4.h"
+#include "view/forms/form5.h"
+#include "view/forms/form6.h"
+#include "view/forms/form7.h"
+#include "view/forms/form9.h"
 
 #include <vector>
 
