@@ -167,9 +167,9 @@ void DesktopProgram::TellMissingLists() {
 }
 
 void DesktopProgram::ShowGuide(std::string_view section) {
-  const bool japanese = program->workspace.Language == kJapanese;
-  if (OpenGuide(GuideFolder(QCoreApplication::applicationDirPath()), japanese, section)) return;
-  machine.boxes.Message(BoxIcon::Information, "", japanese ? kNoGuideJapanese : kNoGuide, BoxButtons::Ok);
+  const QString guide = GuideFolder(QCoreApplication::applicationDirPath());
+  if (OpenGuide(guide, SpeaksJapanese(program->workspace), section)) return;
+  machine.notices.Tell({Severity::Failure, {kNoGuide, kNoGuideJapanese}});
 }
 
 DesktopProgram::~DesktopProgram() {

@@ -17,7 +17,10 @@ struct GuideSection {
   std::string_view name;
 };
 
-/// All of them, the rest of a window behind its controls.
+/// That of the line below the main window in which the program tells what its windows have no place for.
+inline constexpr std::string_view kMessagesSection = "messages";
+
+/// All of the windows and their controls, the rest of a window behind its controls.
 const std::vector<GuideSection>& GuideSections();
 
 /// The section of a control: that of the innermost panel around it which has one, else that of its window. A

@@ -63,6 +63,16 @@ TEST_F(HelpKeyTest, AsksForWhatF6HasReachedAndLeavesItsRing) {
   EXPECT_EQ(ReachedIn(Widget()), &form2.HScroll1);
 }
 
+TEST_F(HelpKeyTest, AsksForTheLineOfMessagesWhereItsButtonsAreReached) {
+  Widget().Strip()->Allow();
+  stage.notices.Add({Severity::Information, {"Saved as A", "A に保存しました"}});
+  Key(program->form2, Qt::Key_F6, Qt::ShiftModifier);
+  ASSERT_TRUE(ReachesStrip(Widget()));
+  Key(program->form2, Qt::Key_F1);
+  EXPECT_EQ(asked, Sections{"messages"});
+  EXPECT_TRUE(ReachesStrip(Widget()));
+}
+
 TEST_F(HelpKeyTest, WindowsWithoutAFocusAreAskedForAsAWhole) {
   Click(program->form2.menu_about);
   ASSERT_TRUE(program->form10);

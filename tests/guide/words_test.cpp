@@ -83,6 +83,7 @@ TEST_P(WordsIn, EveryWindowAndPanelHasItsSection) {
   for (const GuideSection& section : GuideSections()) {
     EXPECT_EQ(sections.count(std::string(section.name)), 1U) << section.name << " has no heading";
   }
+  EXPECT_EQ(sections.count(std::string(kMessagesSection)), 1U);
 }
 
 TEST_P(WordsIn, EveryEntryOfTheMenusIsNamedAndEveryOneNamedIsThere) {

@@ -232,6 +232,10 @@ bool ReachStrip(FormWidget& form, bool forward) {
 
 }  // namespace
 
+bool ReachesStrip(const QWidget& inside) {
+  return ReachedStripIn(inside) != nullptr;
+}
+
 bool ServeReached(Stage& stage, const Window& window, const QWidget& inside, const QKeyEvent& event) {
   if (IsListOpen(window) || IsOfOthers(event)) return false;
   if (MessageStrip* strip = ReachedStripIn(inside)) return ServeStrip(*strip, event);

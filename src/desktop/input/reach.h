@@ -37,6 +37,9 @@ bool OnlyForTheMouse(const Control& control);
 /// The control that is reached in the window of a widget; null for none.
 Control* ReachedIn(const QWidget& inside);
 
+/// Whether a button of the message strip is reached in the window of a widget.
+bool ReachesStrip(const QWidget& inside);
+
 /// A key for what is reached; `inside` is any widget of the window. False where nothing is, and for other
 /// keys.
 bool ServeReached(Stage& stage, const Window& window, const QWidget& inside, const QKeyEvent& event);
