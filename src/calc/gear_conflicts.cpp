@@ -2,27 +2,30 @@
 
 #include "model/limits.h"
 
+#include <bit>
+
 namespace veldrin {
 
-bool GearConflicts::WasMet(int set) const {
-  for (int seen = 0; seen < kSets; ++seen) {
-    if (seen_[Index(seen)] && (seen & set) == set) return true;
-  }
-  return false;
-}
-
 std::vector<Conflict> GearConflicts::Smallest() const {
+  // A set that was met was met with all that it holds.
+  std::array<bool, kSets> met = seen_;
+  for (int bit = 1; bit < kSets; bit <<= 1) {
+    for (int set = 0; set < kSets; ++set) {
+      if ((set & bit) != 0 && met[Index(set)]) met[Index(set ^ bit)] = true;
+    }
+  }
   std::vector<Conflict> conflicts;
-  for (std::size_t size = 1; size <= kGears && conflicts.empty(); ++size) {
+  for (int size = 1; size <= kGears && conflicts.empty(); ++size) {
     for (int set = 1; set < kAllowed; ++set) {
-      Conflict conflict;
+      if (std::popcount(static_cast<unsigned>(set)) != size) continue;
+      constexpr int both = Bit(3) | Bit(4);
+      const bool forbiddenPairs = met[Index(set)] && (set & both) == both && !met[Index(set | kAllowed)];
+      if (met[Index(set)] && !forbiddenPairs) continue;
+      Conflict& conflict = conflicts.emplace_back();
+      conflict.forbiddenPairs = forbiddenPairs;
       for (int gear = 1; gear <= kGears; ++gear) {
         if ((set & Bit(gear)) != 0) conflict.gears.push_back(gear);
       }
-      if (conflict.gears.size() != size) continue;
-      constexpr int both = Bit(3) | Bit(4);
-      conflict.forbiddenPairs = WasMet(set) && (set & both) == both && !WasMet(set | kAllowed);
-      if (!WasMet(set) || conflict.forbiddenPairs) conflicts.push_back(conflict);
     }
   }
   return conflicts;

@@ -41,7 +41,6 @@ class GearConflicts {
   static constexpr int kSets = 1 << 7;
 
   static std::size_t Index(int set) { return static_cast<std::size_t>(set); }
-  bool WasMet(int set) const;
 
   std::array<bool, kSets> seen_{};
 };

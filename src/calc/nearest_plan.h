@@ -57,7 +57,7 @@ struct NearestPlans {
 };
 
 /// Looks at all combinations for the requests of `workspace`, with the bounds of the search that was made.
-/// Rows without driven teeth and speeds beyond 32 bits are passed over. Raises nothing.
+/// Rows without driven teeth, and those that miss by 1e30 km/h and more, are passed over. Raises nothing.
 NearestPlans FindNearestPlans(const Workspace& workspace, const SearchBounds& bounds);
 
 }  // namespace veldrin

@@ -1,10 +1,5 @@
 #include "calc/plan_search.h"
 
-#include "calc/search_bounds.h"
-
-#include <algorithm>
-#include <cmath>
-
 namespace veldrin {
 
 namespace {
@@ -40,50 +35,8 @@ void CompactPlans(Workspace& workspace) {
 
 }  // namespace
 
-bool SearchAuto(Workspace& workspace, int mainGear, const Blink& blink) {
-  workspace.PlanCount = 0;
-  Table<Reach, 1, kGears> reach;
-  for (int gear = 1; gear <= kGears; ++gear) reach[gear] = {kAutoPasses, kAutoPasses};
-  PlanWalk walk(workspace, reach, [mainGear](int gear, float error) {
-    const float distance = std::fabs(error);
-    if (distance <= 1) return 1;
-    if (gear == mainGear || !(distance <= kAutoPasses)) return kNoPass;
-    return static_cast<int>(std::ceil(distance));
-  });
-  for (int tolerance = 1; tolerance <= kAutoPasses; ++tolerance) {
-    walk.Pass(tolerance, workspace, blink);
-    if (EmptyDuplicates(workspace) > 0) CompactPlans(workspace);
-    if (workspace.PlanCount >= workspace.MinPlan) return true;
-  }
-  return false;
-}
-
-bool SearchMixed(Workspace& workspace, const Table<bool, 1, kGears>& manual, const Blink& blink) {
-  workspace.PlanCount = 0;
-  const Table<std::int16_t, 1, kGears> minus = workspace.ToleranceMinus;
-  const Table<std::int16_t, 1, kGears> plus = workspace.TolerancePlus;
-  Table<Reach, 1, kGears> reach;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    reach[gear] = {static_cast<double>(minus[gear]) + kMixedPasses, static_cast<double>(plus[gear]) + 1};
-  }
-  PlanWalk walk(workspace, reach, [&](int gear, float error) {
-    // Kept: the upper bound is always the user's plus one, so it grows once, in the second pass, while the
-    // lower bound sinks by one in every pass.
-    const double lower = -minus[gear];
-    const double upper = plus[gear];
-    if (error >= lower && error <= upper) return 1;
-    if (manual[gear] || !(error <= upper + 1)) return kNoPass;
-    const int raised = error > upper ? 2 : 1;
-    if (error >= lower) return raised;
-    const double sunk = 1 + std::ceil(lower - static_cast<double>(error));
-    return sunk <= kMixedPasses ? std::max(raised, static_cast<int>(sunk)) : kNoPass;
-  });
-  for (int pass = 1; pass <= kMixedPasses; ++pass) {
-    walk.Pass(pass, workspace, blink);
-    if (workspace.PlanCount != 0) return true;
-  }
-  workspace.ResultWord = result::kOver;
-  return false;
+void RemoveEqualPlans(Workspace& workspace) {
+  if (EmptyDuplicates(workspace) > 0) CompactPlans(workspace);
 }
 
 }  // namespace veldrin

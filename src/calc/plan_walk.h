@@ -3,33 +3,23 @@
 //
 // A pass asks of each gear of each combination, in order, whether some row's speed comes near enough to the
 // request; the first gear without such a row abandons the combination. Errors do not change from pass to
-// pass, so each is computed once, the first time that a pass comes to its gear, and turned into the number
-// of the first pass in which the row is near enough. A combination that needs a later pass is skipped
-// without a look at its rows. Which rows are looked at when, and so which fault comes first, is what a
-// plain loop over all passes would give.
+// pass, so a gear is looked at once, and what is kept is the first pass that admits one of its rows. A
+// combination that needs a later pass is skipped without a look at its rows. Where a row may raise a fault,
+// its gear is looked at when a plain loop over all passes would first come to it, so that the same fault
+// comes first.
 #pragma once
 
+#include "calc/pairs_of_gear.h"
+#include "calc/row_lanes.h"
+#include "calc/search_bounds.h"
+#include "model/list_tables.h"
 #include "model/workspace.h"
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <vector>
 
 namespace veldrin {
-
-/// The pass of a row that no pass admits.
-inline constexpr int kNoPass = 127;
-
-/// The first pass, from 1, in which a row is near enough to its gear's request, given its speed less the
-/// request in km/h; kNoPass when none is.
-using FirstPass = std::function<int(int gear, float error)>;
-
-/// How far, in km/h, a row may miss its gear's request and still pass in the widest pass.
-struct Reach {
-  double below;
-  double above;
-};
 
 /// Told of every combination of every pass, by its final row: the search's sign of life.
 using Blink = std::function<void(int finalRow)>;
@@ -37,44 +27,42 @@ using Blink = std::function<void(int finalRow)>;
 class PlanWalk {
  public:
   /// The walk looks at the workspace's tables, requests and running conditions as they stand.
-  /// A gear all of whose rows miss its request by more than its `reach` is not asked row by row.
-  PlanWalk(const Workspace& workspace, const Table<Reach, 1, kGears>& reach, FirstPass firstPass);
+  PlanWalk(const Workspace& workspace, const PassRules& rules);
 
   /// Makes one pass and appends its plans to `PlanList` of `found`. Raises fault 9 for a 31st plan and for
   /// `GearRows` beyond the tables, 11 or 6 for a gear pair without driven teeth that is looked at.
-  void Pass(int pass, Workspace& found, const Blink& blink);
+  template <class Told>
+  void Pass(int pass, Workspace& found, const Told& blink) {
+    const int finals = FinalRowCount(workspace_);
+    std::size_t at = 0;
+    for (int primary = 1; primary <= workspace_.PrimaryCount; ++primary) {
+      for (int final = 1; final <= finals; ++final, ++at) {
+        blink(final);
+        if (combinations_[at].needed <= pass) Visit(combinations_[at], primary, final, pass, found);
+      }
+    }
+  }
 
  private:
   struct Combination {
-    /// Speed less request of each row, in row order, of the gears known so far.
-    std::array<std::array<float, kGearRowLimit>, kGears> errors;
-    int gearsKnown = 0;
-  };
-  /// The rows of a gear that hold a pair.
-  struct GearPairs {
-    std::array<int, kGearRowLimit> row;
-    std::array<double, kGearRowLimit> drive;
-    std::array<double, kGearRowLimit> driven;
-    int count = 0;
-    bool lacksTeeth = false;
-    /// Lowest and highest drive over driven, where no row lacks teeth.
-    double lowestRatio = 0;
-    double highestRatio = 0;
+    /// The first pass in which the gears known so far all have a row.
+    std::int8_t needed = 1;
+    std::int8_t gearsKnown = 0;
   };
 
-  GearPairs PairsOf(int gear) const;
-  bool IsBeyondReach(double speedBeforeGear, int gear) const;
-  int LearnGear(Combination& combination, double speedBeforeGear);
-  int BestRow(const Combination& combination, int gear, int pass) const;
-  void AddPlan(const Combination& combination, int primary, int final, int pass, Workspace& found) const;
+  void Visit(Combination& combination, int primary, int final, int pass, Workspace& found);
+  int FirstPass(int gear, double speedBeforeGear) const;
+  int FirstPassByRows(int gear, double speedBeforeGear) const;
+  int BestRow(int gear, double speedBeforeGear, int pass) const;
+  void AddPlan(int primary, int final, int pass, Workspace& found) const;
 
   const Workspace& workspace_;
-  Table<Reach, 1, kGears> reach_;
-  FirstPass firstPass_;
-  std::array<GearPairs, kGears> pairs_;
+  PassRules rules_;
+  Table<GearPairs, 1, kGears> pairs_;
+  Table<RowLanes, 1, kGears> lanes_;
+  /// The largest part of a speed, shared by its rows, with which no gear can fault.
+  double faultless_ = 1e300;
   std::vector<Combination> combinations_;
-  /// The first pass in which the gears known so far all have a row.
-  std::vector<std::int8_t> needed_;
 };
 
 }  // namespace veldrin

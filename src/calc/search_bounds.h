@@ -1,12 +1,22 @@
-// How far the two searches let a gear miss its request, in the widest of their passes.
+// How near the two searches want a gear to its request: pass by pass, and in the widest of their passes.
 #pragma once
 
+#include "calc/pass_rule.h"
 #include "model/workspace.h"
 
 namespace veldrin {
 
 inline constexpr int kAutoPasses = 20;   // the tolerance of pass n is n km/h
 inline constexpr int kMixedPasses = 21;  // the 21st widening goes beyond 20 km/h
+
+/// The rules of the six gears.
+using PassRules = Table<PassRule, 1, kGears>;
+
+/// Those of SearchAuto with `mainGear` (1..6, 0 for none). Raises nothing.
+PassRules AutoRules(int mainGear);
+
+/// Those of SearchMixed with the tolerances of `workspace`. Raises nothing.
+PassRules MixedRules(const Workspace& workspace, const Table<bool, 1, kGears>& manual);
 
 /// Both in km/h and both allowed: the error, speed less request, lies in -below..above.
 struct GearBounds {
@@ -20,10 +30,8 @@ struct GearBounds {
 
 using SearchBounds = Table<GearBounds, 1, kGears>;
 
-/// Those of SearchAuto with `mainGear` (1..6, 0 for none). Raises nothing.
+/// The bounds of the widest pass of the two searches. Raise nothing.
 SearchBounds AutoBounds(int mainGear);
-
-/// Those of SearchMixed with the tolerances of `workspace`. Raises nothing.
 SearchBounds MixedBounds(const Workspace& workspace, const Table<bool, 1, kGears>& manual);
 
 }  // namespace veldrin
