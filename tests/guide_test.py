@@ -186,7 +186,7 @@ show Form3.Visible
     def test_the_documents_show_the_examples(self):
         texts = [
             (EXAMPLES / name).read_text(encoding="utf-8")
-            for name in ("TR1.RAT", "TR1.CMB", "SHORT.tr1", "SPEEDS.TXT", "YASASII.CAP")
+            for name in ("TR1.RAT", "TR1.CMB", "SHORT.tr1", "SPEEDS.TXT", "YASASII.CAP", "MINI.csv")
         ]
         for language in LANGUAGES:
             self.assertEqual(fenced(self.document(language))[1:], texts, language)

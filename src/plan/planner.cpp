@@ -1,9 +1,9 @@
 #include "plan/planner.h"
 
 #include "plan/arguments/option_table.h"
-#include "plan/bad_input.h"
 #include "plan/commands/commands.h"
-#include "plan/list_file.h"
+#include "plan/files/bad_input.h"
+#include "plan/files/list_file.h"
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include "plan/arguments.h"
+#include "plan/arguments/arguments.h"
 #include "plan/arguments/option_table.h"
 #include "plan/arguments/option_values.h"
 #include "plan/check/list_remarks.h"

@@ -79,7 +79,7 @@ constexpr Option kOptions[] = {
     {"--tyre-from", "V@NE:G", "Tyre", Bit(PlanAction::Show), true, ReadTyreFrom,
      "a measured point, V km/h at NE rev/min in gear G: prints the rolling length that follows with "
      "the plan of --show, of several points the best, its spread and the points that do not fit. "
-     "Or a CSV file of speed, revolutions, gear"},
+     "Or a CSV file of speed, revolutions, gear. With --format csv the points take the place of the plan"},
     {"--shift-ne", "N", "Running conditions", kPrinting, false,
      [](const std::string& text, PlanArguments& result) {
        result.shiftNe = static_cast<std::int16_t>(WholeNumber("--shift-ne", text, kRevolutionLimits));

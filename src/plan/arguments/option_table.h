@@ -1,7 +1,7 @@
 // The options of veldrin-plan: one table for the reader, the help, and the tests of manual and completion.
 #pragma once
 
-#include "plan/arguments.h"
+#include "plan/arguments/arguments.h"
 
 #include <span>
 #include <string>

@@ -1,7 +1,7 @@
 // Values of options, from their texts. What is none is refused with a sentence that says what can be typed.
 #pragma once
 
-#include "plan/arguments.h"
+#include "plan/arguments/arguments.h"
 
 #include <string>
 #include <vector>

@@ -8,7 +8,7 @@
 #include "plan/check/name_check.h"
 #include "plan/check/ratio_check.h"
 #include "plan/check/section_reader.h"
-#include "plan/machine.h"
+#include "plan/files/machine.h"
 
 #include <optional>
 

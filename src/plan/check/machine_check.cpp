@@ -1,7 +1,7 @@
 #include "plan/check/machine_check.h"
 
 #include "calc/gear_speed.h"
-#include "plan/machine.h"
+#include "plan/files/machine.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"
 

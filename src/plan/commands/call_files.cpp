@@ -1,9 +1,9 @@
 #include "plan/commands/call_files.h"
 
-#include "plan/bad_input.h"
 #include "plan/check/list_check.h"
-#include "plan/list_file.h"
-#include "plan/machine.h"
+#include "plan/files/bad_input.h"
+#include "plan/files/list_file.h"
+#include "plan/files/machine.h"
 #include "plan/present/list_finder.h"
 
 #include <filesystem>

@@ -1,7 +1,7 @@
 #include "model/list_tables.h"
 #include "plan/commands/call_files.h"
 #include "plan/commands/commands.h"
-#include "plan/machine.h"
+#include "plan/files/machine.h"
 
 namespace veldrin {
 

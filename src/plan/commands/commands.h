@@ -1,7 +1,7 @@
 // What veldrin-plan does, one function for each action. What is wrong with a file is thrown as BadInput.
 #pragma once
 
-#include "plan/arguments.h"
+#include "plan/arguments/arguments.h"
 #include "platform/text_encoding.h"
 
 #include <ostream>

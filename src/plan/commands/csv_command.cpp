@@ -1,11 +1,11 @@
 #include "model/list_tables.h"
-#include "plan/bad_input.h"
 #include "plan/check/list_check.h"
 #include "plan/commands/call_files.h"
 #include "plan/commands/commands.h"
 #include "plan/csv/list_writer.h"
 #include "plan/csv/parts_csv.h"
 #include "plan/csv/written_files.h"
+#include "plan/files/bad_input.h"
 
 #include <filesystem>
 

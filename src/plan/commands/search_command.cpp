@@ -1,9 +1,9 @@
-#include "plan/bad_input.h"
 #include "plan/best/best_plans.h"
 #include "plan/commands/call_files.h"
 #include "plan/commands/commands.h"
-#include "plan/plan_output.h"
-#include "plan/plan_run.h"
+#include "plan/commands/plan_run.h"
+#include "plan/files/bad_input.h"
+#include "plan/output/plan_output.h"
 #include "plan/present/part_changes.h"
 #include "runtime/fault.h"
 

@@ -1,6 +1,6 @@
-#include "plan/bad_input.h"
 #include "plan/commands/call_files.h"
 #include "plan/commands/commands.h"
+#include "plan/files/bad_input.h"
 #include "plan/page/page_output.h"
 #include "plan/present/list_finder.h"
 #include "plan/sheet/plan_sheet.h"

@@ -1,6 +1,6 @@
 #include "plan/csv/csv_reader.h"
 
-#include "plan/bad_input.h"
+#include "plan/files/bad_input.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 

@@ -2,7 +2,7 @@
 
 #include "model/list_tables.h"
 #include "plan/csv/parts_kinds.h"
-#include "plan/csv_field.h"
+#include "plan/output/csv_field.h"
 #include "runtime/conversion.h"
 #include "runtime/text_file.h"
 

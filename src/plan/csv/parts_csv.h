@@ -1,4 +1,4 @@
-// A machine as a table of parts, one a line, for spreadsheets. docs/parts-csv.md tells the columns.
+// A machine as a table of parts, one a line, for spreadsheets. docs/file-formats.md tells the columns.
 #pragma once
 
 #include "model/workspace.h"

@@ -1,6 +1,6 @@
 #include "plan/csv/written_files.h"
 
-#include "plan/bad_input.h"
+#include "plan/files/bad_input.h"
 
 #include <filesystem>
 #include <fstream>

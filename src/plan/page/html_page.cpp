@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 namespace veldrin {
 
@@ -45,7 +46,7 @@ class HtmlWriter {
     Notes(sheet);
     if (sheet.changes) Changes(*sheet.changes);
     out_ << "<h3>" << words_.parts << "</h3>\n";
-    Table(sheet, Parts(sheet));
+    Table(sheet, Parts(sheet), Ratios(sheet));
     if (!Trim(sheet.remark).empty()) out_ << "<pre>" << MarkupText(sheet.remark) << "</pre>\n";
     out_ << "</section>\n";
   }
@@ -106,8 +107,14 @@ class HtmlWriter {
     return columns;
   }
 
-  /// From 6th gear down, as the window and the report have it.
-  void Table(const PlanSheet& sheet, const std::vector<Column>& columns) {
+  /// What of the parts is no gear: name and text.
+  std::vector<std::pair<std::string, std::string>> Ratios(const PlanSheet& sheet) const {
+    return {{words_.final, sheet.final}, {words_.primary, sheet.primary}};
+  }
+
+  /// From 6th gear down, as the window and the report have it, and below that lines of two cells.
+  void Table(const PlanSheet& sheet, const std::vector<Column>& columns,
+             const std::vector<std::pair<std::string, std::string>>& below = {}) {
     out_ << "<table>\n<tr>";
     for (const Column& column : columns)
       out_ << (column.isText ? "<th class=\"text\">" : "<th>") << column.head << "</th>";
@@ -119,6 +126,10 @@ class HtmlWriter {
              << MarkupText(column.cell(sheet.gears[static_cast<std::size_t>(number - 1)], number)) << "</td>";
       }
       out_ << "</tr>\n";
+    }
+    for (const auto& [name, text] : below) {
+      out_ << "<tr><td class=\"text\">" << name << "</td><td class=\"text\">" << MarkupText(text)
+           << "</td></tr>\n";
     }
     out_ << "</table>\n";
   }

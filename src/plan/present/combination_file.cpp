@@ -1,9 +1,9 @@
 #include "plan/present/combination_file.h"
 
 #include "model/limits.h"
-#include "plan/bad_input.h"
 #include "plan/check/field_scanner.h"
 #include "plan/check/list_remarks.h"
+#include "plan/files/bad_input.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"

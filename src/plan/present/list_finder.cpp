@@ -1,6 +1,6 @@
 #include "plan/present/list_finder.h"
 
-#include "plan/bad_input.h"
+#include "plan/files/bad_input.h"
 #include "runtime/text.h"
 
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "plan/csv_field.h"
+#include "plan/output/csv_field.h"
 #include "plan/sheet/sheet_output.h"
 #include "runtime/conversion.h"
 

@@ -1,4 +1,4 @@
-#include "plan/json_text.h"
+#include "plan/output/json_text.h"
 #include "plan/sheet/sheet_output.h"
 #include "runtime/conversion.h"
 

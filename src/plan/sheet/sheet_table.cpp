@@ -1,4 +1,4 @@
-#include "plan/columns.h"
+#include "plan/output/columns.h"
 #include "plan/sheet/gear_names.h"
 #include "plan/sheet/sheet_output.h"
 #include "runtime/conversion.h"

@@ -1,7 +1,7 @@
 #include "plan/tyre/tyre_fit.h"
 
 #include "calc/gear_speed.h"
-#include "plan/bad_input.h"
+#include "plan/files/bad_input.h"
 
 #include <algorithm>
 #include <cmath>

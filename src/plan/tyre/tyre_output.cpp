@@ -1,6 +1,6 @@
 #include "plan/tyre/tyre_output.h"
 
-#include "plan/columns.h"
+#include "plan/output/columns.h"
 #include "plan/sheet/gear_names.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"

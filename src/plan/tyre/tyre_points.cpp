@@ -1,6 +1,6 @@
-#include "plan/bad_input.h"
 #include "plan/check/list_remarks.h"
 #include "plan/csv/csv_reader.h"
+#include "plan/files/bad_input.h"
 #include "plan/tyre/tyre_fit.h"
 #include "runtime/fault.h"
 

@@ -123,6 +123,18 @@ TEST_F(PlannerCsv, SampleListsComeBackThroughTheDisk) {
   }
 }
 
+TEST_F(PlannerCsv, TheDocumentsExampleIsAMachine) {
+  const std::string csv = (fs::path(VELDRIN_SHARE) / ".." / ".." / "docs" / "examples" / "MINI.csv").string();
+  const std::string list = (folder_ / "MINI.RAT").string();
+  EXPECT_EQ(Run({"--from-csv", csv, list}), 0) << errors;
+  EXPECT_EQ(errors, "");
+  EXPECT_EQ(Run({"--check", list}), 0) << errors;
+  EXPECT_EQ(out, list + ": fine: machine MINI, 1 primary, 4 final and 2 gear rows\n");
+  EXPECT_EQ(TextOf((folder_ / "MINI.CMB").string()),
+            "1,\"14.29\",\"M-14A\",\"C-29A\"\r\n1,\"15.29\",\"M-15A\",\"C-29A\"\r\n"
+            "3,\"20.25\",4,\"22.24\",\"M-20/22\",\"C-25C\",\"C-24D\"\r\n");
+}
+
 constexpr char kTable[] =
     "kind,gear,text,drive,driven,main,counter,fourth\n"
     "machine,,PLAIN\nfinal-drive,,,20\nfinal-driven,,,,40\nprimary,,,20,60\n"

@@ -1,6 +1,6 @@
 // --tyre-from: the rolling length from measured points. On kPlainList gear g runs (20 + 20 g) / 5000 km/h for
 // each rev/min and metre.
-#include "plan/bad_input.h"
+#include "plan/files/bad_input.h"
 #include "plan/tyre/tyre_fit.h"
 #include "tests/plan/planner_fixture.h"
 

@@ -1,5 +1,5 @@
 // Plans as text, where a field needs marks, an escape or a width of its own.
-#include "plan/plan_output.h"
+#include "plan/output/plan_output.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Columns of a console.
-#include "plan/columns.h"
+#include "plan/output/columns.h"
 
 #include <gtest/gtest.h>
 

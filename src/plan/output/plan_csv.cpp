@@ -1,5 +1,5 @@
-#include "plan/csv_field.h"
-#include "plan/plan_output.h"
+#include "plan/output/csv_field.h"
+#include "plan/output/plan_output.h"
 #include "runtime/conversion.h"
 
 namespace veldrin {

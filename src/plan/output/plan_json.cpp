@@ -1,6 +1,6 @@
-#include "plan/json_text.h"
-#include "plan/plan_output.h"
-#include "plan/why.h"
+#include "plan/output/json_text.h"
+#include "plan/output/plan_output.h"
+#include "plan/output/why.h"
 #include "runtime/conversion.h"
 
 namespace veldrin {

@@ -1,4 +1,4 @@
-#include "plan/plan_output.h"
+#include "plan/output/plan_output.h"
 
 #include "plan/page/page_output.h"
 

@@ -1,4 +1,4 @@
-#include "plan/machine.h"
+#include "plan/files/machine.h"
 
 #include "model/list_tables.h"
 #include "runtime/text_file.h"

@@ -1,7 +1,7 @@
 // Texts and plans as values of JSON.
 #pragma once
 
-#include "plan/found_plans.h"
+#include "plan/output/found_plans.h"
 
 #include <ostream>
 #include <string>

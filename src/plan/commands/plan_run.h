@@ -3,7 +3,7 @@
 
 #include "calc/nearest_plan.h"
 #include "model/workspace.h"
-#include "plan/arguments.h"
+#include "plan/arguments/arguments.h"
 #include "plan/best/best_plans.h"
 
 #include <string>

@@ -1,5 +1,5 @@
 // The command line of the planner, one line a case.
-#include "plan/arguments.h"
+#include "plan/arguments/arguments.h"
 
 #include <gtest/gtest.h>
 

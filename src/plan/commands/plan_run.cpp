@@ -1,4 +1,4 @@
-#include "plan/plan_run.h"
+#include "plan/commands/plan_run.h"
 
 #include "calc/plan_search.h"
 #include "runtime/fault.h"

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "calc/nearest_plan.h"
-#include "plan/arguments.h"
-#include "plan/found_plans.h"
-#include "plan/why.h"
+#include "plan/arguments/arguments.h"
+#include "plan/output/found_plans.h"
+#include "plan/output/why.h"
 
 #include <ostream>
 #include <vector>

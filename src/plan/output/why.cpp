@@ -1,8 +1,8 @@
-#include "plan/why.h"
+#include "plan/output/why.h"
 
-#include "plan/columns.h"
-#include "plan/json_text.h"
-#include "plan/plan_table.h"
+#include "plan/output/columns.h"
+#include "plan/output/json_text.h"
+#include "plan/output/plan_table.h"
 #include "plan/sheet/gear_names.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"

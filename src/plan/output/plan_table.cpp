@@ -1,7 +1,7 @@
-#include "plan/plan_table.h"
+#include "plan/output/plan_table.h"
 
-#include "plan/columns.h"
-#include "plan/plan_output.h"
+#include "plan/output/columns.h"
+#include "plan/output/plan_output.h"
 #include "plan/sheet/gear_names.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"

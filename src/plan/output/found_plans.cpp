@@ -1,4 +1,4 @@
-#include "plan/found_plans.h"
+#include "plan/output/found_plans.h"
 
 #include "calc/gear_speed.h"
 #include "runtime/conversion.h"

@@ -1,4 +1,4 @@
-#include "plan/list_file.h"
+#include "plan/files/list_file.h"
 
 #include <array>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "plan/columns.h"
+#include "plan/output/columns.h"
 
 #include "runtime/text.h"
 

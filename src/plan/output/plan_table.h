@@ -1,7 +1,7 @@
 // What tables of plans consist of, for those that print plans among other things.
 #pragma once
 
-#include "plan/found_plans.h"
+#include "plan/output/found_plans.h"
 
 #include <ostream>
 #include <string>
