@@ -68,7 +68,10 @@ class DesktopProgram {
   void HearEvent(const Control& control, const Event& event);
   void LayOutForPlan();
   void TellMissingLists();
+  bool BoxIsJapanese() const;
   FaultStory TellFault(int number);
+  void TellBadSetting(FaultStory& story);
+  void StartWithDefault(const std::string& value);
   void GoOnAnew();
   void ShowGuide(std::string_view section);
   /// The last event of the program; ends it.
@@ -76,12 +79,13 @@ class DesktopProgram {
 
   RealKeepFolder keepFolder_;
   std::unique_ptr<KeptPlans> kept_;
-  bool inBox_ = false;        // the event that came last is a text box's
-  bool wantsAnew_ = false;    // the user wants to go on after the fault
-  std::string keptAtFault_;   // id of the kept plan
-  bool layoutDue_ = false;    // the main window has a size that it was not laid out for
-  bool missingTold_ = false;  // the user knows that there are no machine lists
-  QObject listener_;          // what would be told to the program is not told any more when it is gone
+  SettingsTrouble settingsTrouble_;  // the last one
+  bool inBox_ = false;               // the event that came last is a text box's
+  bool wantsAnew_ = false;           // the user wants to go on after the fault
+  std::string keptAtFault_;          // id of the kept plan
+  bool layoutDue_ = false;           // the main window has a size that it was not laid out for
+  bool missingTold_ = false;         // the user knows that there are no machine lists
+  QObject listener_;                 // what would be told to the program is not told any more when it is gone
   EndSignals signals_{[this] { EndAtOnce(); }};
 };
 

@@ -5,6 +5,7 @@
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
+#include "workspace/stored_values.h"
 
 #include <algorithm>
 #include <charconv>
@@ -24,33 +25,6 @@ std::string CutBytes(std::string text, std::size_t limit) {
   while (limit > 0 && (static_cast<unsigned char>(text[limit]) & 0xC0) == 0x80) --limit;
   text.resize(limit);
   return text;
-}
-
-std::string StoredText(const Program& program, const std::string& value, const std::string& whenEmpty) {
-  const std::string text = Stored(program, value);
-  return text.empty() ? whenEmpty : text;
-}
-
-std::int16_t StoredInt16(const Program& program, const std::string& value, std::int16_t whenZero) {
-  const std::string text = Stored(program, value);
-  if (text.empty()) return whenZero;
-  const std::int16_t number = SystemInt16(program.workspace, text);
-  return number == 0 ? whenZero : number;
-}
-
-float StoredSingle(const Program& program, const std::string& value, float whenZero) {
-  const std::string text = Stored(program, value);
-  if (text.empty()) return whenZero;
-  const float number = RepairedSingle(program.workspace, text);
-  return number == 0 ? whenZero : number;
-}
-
-/// Kept: black is stored as 0 and so cannot be a gear's colour.
-Colour StoredColour(const Program& program, const std::string& value, Colour whenZero) {
-  const std::string text = Stored(program, value);
-  if (text.empty()) return whenZero;
-  const std::int32_t number = ParseInt32(text, DecimalSeparator(program.workspace));
-  return number == 0 ? whenZero : Colour{static_cast<std::uint32_t>(number)};
 }
 
 /// One character of the profile.

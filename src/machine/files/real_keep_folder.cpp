@@ -1,5 +1,6 @@
 #include "machine/files/real_keep_folder.h"
 
+#include "machine/files/real_made_folder.h"
 #include "machine/files/real_path.h"
 #include "machine/files/real_replacing_file.h"
 #include "runtime/fault.h"
@@ -62,7 +63,7 @@ std::string RealKeepFolder::Now() const {
 }
 
 std::unique_ptr<KeepClaim> RealKeepFolder::Claim(const std::string& id) {
-  if (!IsPlain(id) || !QDir().mkpath(folder_)) return nullptr;
+  if (!IsPlain(id) || Guarded([&] { MakeFolder(NativePath(folder_.toStdString())); }) != 0) return nullptr;
   auto claim = std::make_unique<LockClaim>(folder_ + "/" + QString::fromStdString(id) + ".lock");
   if (!claim->lock.tryLock(0)) return nullptr;
   return claim;
@@ -78,7 +79,7 @@ std::optional<std::string> RealKeepFolder::Read(const std::string& name) const {
 
 void RealKeepFolder::Replace(const std::string& name, const std::string& bytes) {
   if (!IsPlain(name)) Raise(kFaultBadFileName);
-  QDir().mkpath(folder_);
+  MakeFolder(NativePath(folder_.toStdString()));
   ReplacingFile file(NativePath(PathOf(name)));
   file.Append(bytes);
   file.Commit();

@@ -1,6 +1,7 @@
 #include "machine/files/real_replacing_file.h"
 
 #include "machine/files/real_fault.h"
+#include "machine/files/real_made_folder.h"
 #include "machine/files/real_path.h"
 #include "runtime/fault.h"
 
@@ -164,15 +165,6 @@ int CloseFile(int& file) {
   return closed == 0 || errno == EINTR ? 0 : LastFault();
 }
 
-/// Lets the new name outlast a crash. Without it the old file would be back, as whole as the new one:
-/// failures are none of the file's, and a folder that cannot be read is passed over.
-void KeepName(const fs::path& folder) {
-  const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (opened < 0) return;
-  fsync(opened);
-  close(opened);
-}
-
 }  // namespace
 
 ReplacingFile::ReplacingFile(const fs::path& path) : target_(BehindLinks(path)) {
@@ -204,7 +196,8 @@ void ReplacingFile::Commit() {
   if (fault_ == 0 && rename(neighbour_.c_str(), target_.c_str()) != 0) Keep(LastFault());
   if (fault_ != 0) Raise(fault_);
   neighbour_.clear();
-  KeepName(target_.parent_path());
+  // Without it the old file would be back after a crash, as whole as the new one: no reason to fail.
+  KeepNames(target_.parent_path());
 }
 
 void ReplacingFile::Keep(int fault) {

@@ -1,5 +1,6 @@
 #include "machine/registry/real_settings_registry.h"
 
+#include "machine/files/real_made_folder.h"
 #include "machine/files/real_path.h"
 #include "machine/files/real_replacing_file.h"
 #include "machine/real_lock.h"
@@ -7,11 +8,13 @@
 #include "runtime/fault.h"
 #include "runtime/text.h"
 
-#include <QDir>
+#include <QDate>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QStandardPaths>
+
+#include <utility>
 
 namespace veldrin {
 
@@ -37,6 +40,36 @@ std::optional<std::string> ProcessorValue(const std::string& key, const std::str
   if (asks("hardware\\DESCRIPTION\\System\\CentralProcessor\\0", "VendorIdentifier")) text = kNames.vendor;
   if (asks("Enum\\Root\\*PNP0C01\\0000", "CPU")) text = kNames.model;
   return text.empty() ? std::nullopt : std::optional(text);
+}
+
+int LockFault(const QLockFile& lock) {
+  switch (lock.error()) {
+    case QLockFile::PermissionError:
+      return kFaultPermissionDenied;
+    case QLockFile::LockFailedError:
+      return kFaultFileAlreadyOpen;
+    default:
+      return kFaultDiskFull;  // no room for the lock's own bytes
+  }
+}
+
+void ReplaceFile(const QString& path, const std::string& bytes) {
+  ReplacingFile file(NativePath(path.toStdString()));
+  file.Append(bytes);
+  file.Commit();
+}
+
+/// A file's bytes; nothing where none is there. Raises fault 70 where reading is denied and 75 where it
+/// fails.
+std::optional<std::string> BytesOf(const QString& path) {
+  QFile file(path);
+  if (!file.exists()) return std::nullopt;
+  if (!file.open(QIODevice::ReadOnly)) {
+    Raise(QFileInfo(path).isReadable() ? kFaultPathAccess : kFaultPermissionDenied);
+  }
+  const QByteArray bytes = file.readAll();
+  if (file.error() != QFileDevice::NoError) Raise(kFaultPathAccess);
+  return bytes.toStdString();
 }
 
 }  // namespace
@@ -65,20 +98,26 @@ bool SettingsRegistry::DeleteKey(RegistryRoot root, const std::string& key) {
   return Store({whole, std::nullopt, {}});
 }
 
-std::optional<SettingsTree> SettingsRegistry::Load() const {
-  QFile file(file_);
-  if (!file.open(QIODevice::ReadOnly)) {
-    return file.exists() ? std::nullopt : std::optional<SettingsTree>(SettingsTree());
-  }
-  const QByteArray bytes = file.readAll();
-  if (file.error() != QFileDevice::NoError) return std::nullopt;
-  return SettingsTree(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())));
+SettingsTree SettingsRegistry::Load() const {
+  SettingsTree tree;
+  Guarded([&] {
+    if (const auto bytes = BytesOf(file_)) tree = SettingsTree(*bytes);
+  });
+  return tree;
 }
 
 SettingsTree SettingsRegistry::Current() const {
-  SettingsTree tree = Load().value_or(SettingsTree());
+  SettingsTree tree = Load();
   for (const Change& change : waiting_) Apply(tree, change);
   return tree;
+}
+
+std::string SettingsRegistry::PlaceOf(const std::string& /*key*/) const {
+  return file_.toStdString();
+}
+
+void SettingsRegistry::Check() {
+  PutOnDisk();
 }
 
 bool SettingsRegistry::Store(const Change& change) {
@@ -88,20 +127,47 @@ bool SettingsRegistry::Store(const Change& change) {
   if (waiting_.empty() && stands) return true;
   if (!Apply(now, change)) return false;
   if (!stands) waiting_.push_back(change);
+  return PutOnDisk();
+}
 
-  QDir().mkpath(QFileInfo(file_).path());
-  QLockFile lock(file_ + ".lock");
-  if (!TakeLock(lock, kLockPatience)) return false;
-  std::optional<SettingsTree> tree = Load();
-  if (!tree) return false;
-  for (const Change& waiting : waiting_) Apply(*tree, waiting);
-  const int fault = Guarded([&] {
-    ReplacingFile file(NativePath(file_.toStdString()));
-    file.Append(tree->Text());
-    file.Commit();
-  });
-  if (fault == 0) waiting_.clear();
+bool SettingsRegistry::PutOnDisk() {
+  std::string copy;
+  const int fault = Guarded([&] { Replace(copy); });
+  if (fault == 0) {
+    waiting_.clear();
+    if (!copy.empty() && troubled) troubled({file_.toStdString(), 0, copy});
+  } else if (troubled && !std::exchange(failureTold_, true)) {
+    troubled({file_.toStdString(), fault, {}});
+  }
   return fault == 0;
+}
+
+/// `copy` tells where a damaged file was put.
+void SettingsRegistry::Replace(std::string& copy) const {
+  MakeFolder(NativePath(QFileInfo(file_).path().toStdString()));
+  QLockFile lock(file_ + ".lock");
+  if (!TakeLock(lock, kLockPatience)) Raise(LockFault(lock));
+  const std::optional<std::string> bytes = BytesOf(file_);
+  SettingsTree tree = bytes ? SettingsTree(*bytes) : SettingsTree();
+  // A file that could not be replaced is told before somebody relies on it.
+  ReplacingFile file(NativePath(file_.toStdString()));
+  if (waiting_.empty() && !tree.WasDamaged()) return;
+  if (tree.WasDamaged()) copy = SetAside(*bytes);
+  for (const Change& waiting : waiting_) Apply(tree, waiting);
+  file.Append(tree.Text());
+  file.Commit();
+}
+
+/// Keeps a damaged file's bytes beside it, once for the day, and tells where.
+std::string SettingsRegistry::SetAside(const std::string& bytes) const {
+  const QString day = file_ + ".damaged-" + QDate::currentDate().toString(Qt::ISODate);
+  QString path = day;
+  for (int another = 2; QFileInfo::exists(path); ++another) {
+    if (BytesOf(path) == bytes) return path.toStdString();
+    path = day + "-" + QString::number(another);
+  }
+  ReplaceFile(path, bytes);
+  return path.toStdString();
 }
 
 bool SettingsRegistry::Apply(SettingsTree& tree, const Change& change) {

@@ -1,35 +1,64 @@
 #include "machine/registry/real_settings_tree.h"
 
 #include "runtime/text.h"
+#include "runtime/utf8.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
 
 namespace veldrin {
 
 namespace {
 
+constexpr std::string_view kByteMark = "\xEF\xBB\xBF";  // that editors put before a text
+constexpr int kHex = 16;
+constexpr std::size_t kHexDigits = 2;  // of a byte
 constexpr std::string_view kHeading =
     "# Settings of Veldrin, in place of a registry. All running copies of the program share this file.\n";
 
 /// Whether a key's line can hold it.
 bool IsTellable(std::string_view key) {
-  return std::none_of(key.begin(), key.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; });
+  const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20; };
+  return std::none_of(key.begin(), key.end(), isControl) && IsValidUtf8(key);
+}
+
+std::string EscapedByte(char byte) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  const auto value = static_cast<unsigned char>(byte);
+  return {'\\', 'x', kDigits[value / kHex], kDigits[value % kHex]};
 }
 
 std::string Quoted(std::string_view text) {
   std::string quoted = "\"";
-  for (const char c : text) {
-    if (c == '\r') {
+  for (std::size_t at = 0; at < text.size();) {
+    const CodePoint next = CodePointAt(text, at);
+    if (!next.valid) {
+      quoted += EscapedByte(text[at]);
+    } else if (next.code == '\r') {
       quoted += "\\r";
-    } else if (c == '\n') {
+    } else if (next.code == '\n') {
       quoted += "\\n";
     } else {
-      if (c == '"' || c == '\\') quoted += '\\';
-      quoted += c;
+      if (next.code == '"' || next.code == '\\') quoted += '\\';
+      quoted += text.substr(at, next.bytes);
     }
+    at += next.bytes;
   }
   return quoted + "\"";
+}
+
+/// What stands behind a backslash, `at` being the place of its first character and of its last one then.
+char Unescaped(std::string_view line, std::size_t& at) {
+  const char c = line[at];
+  if (c == 'r') return '\r';
+  if (c == 'n') return '\n';
+  if (c != 'x' || line.size() - at <= kHexDigits) return c;
+  unsigned value = 0;
+  const char* const digits = line.data() + at + 1;
+  if (std::from_chars(digits, digits + kHexDigits, value, kHex).ptr != digits + kHexDigits) return c;
+  at += kHexDigits;
+  return static_cast<char>(value);
 }
 
 /// Takes a quoted text from the front of `line`; nothing when there is none, or its end is missing.
@@ -42,8 +71,7 @@ std::optional<std::string> TakeQuoted(std::string_view& line) {
       return text;
     }
     if (line[at] == '\\' && at + 1 < line.size()) {
-      const char c = line[++at];
-      text += c == 'r' ? '\r' : c == 'n' ? '\n' : c;
+      text += Unescaped(line, ++at);
     } else {
       text += line[at];
     }
@@ -72,20 +100,26 @@ std::string_view WithoutReturn(std::string_view line) {
 
 }  // namespace
 
-SettingsTree::SettingsTree(std::string_view text) {
+SettingsTree::SettingsTree(std::string_view text) : damaged_(text.empty() || !IsValidUtf8(text)) {
+  if (text.starts_with(kByteMark)) text.remove_prefix(kByteMark.size());
   std::string key;
   while (!text.empty()) {
     const std::size_t end = std::min(text.find('\n'), text.size());
-    std::string_view line = WithoutReturn(text.substr(0, end));
+    if (!TakeLine(WithoutReturn(text.substr(0, end)), key)) damaged_ = true;
     text.remove_prefix(std::min(end + 1, text.size()));
-    if (line.starts_with('[') && line.ends_with(']')) {
-      key = line.substr(1, line.size() - 2);
-      continue;
-    }
-    const std::optional<std::string> name = TakeName(line);
-    const std::optional<std::string> value = name ? TakeQuoted(line) : std::nullopt;
-    if (value && !key.empty()) Write(key, *name, *value);
   }
+}
+
+/// Takes a line in; `key` is the one that it stands under. False for a line of no known form.
+bool SettingsTree::TakeLine(std::string_view line, std::string& key) {
+  if (line.empty() || line.starts_with('#')) return true;
+  if (line.starts_with('[') && line.ends_with(']')) {
+    key = line.substr(1, line.size() - 2);
+    return true;
+  }
+  const std::optional<std::string> name = TakeName(line);
+  const std::optional<std::string> value = name ? TakeQuoted(line) : std::nullopt;
+  return value && !key.empty() && Write(key, *name, *value) && line.empty();
 }
 
 std::string SettingsTree::Text() const {

@@ -2,10 +2,13 @@
 
 #ifdef _WIN32
 
+#include "machine/files/real_fault.h"
 #include "runtime/text.h"
 
 #include <QString>
 
+#include <system_error>
+#include <utility>
 #include <vector>
 #include <windows.h>
 
@@ -58,6 +61,19 @@ std::optional<std::string> ReadValue(const Place& place, const std::string& valu
   return QString::fromWCharArray(text.data()).toStdString();
 }
 
+LSTATUS WriteValue(const Place& place, const std::string& value, const std::string& text) {
+  HKEY opened = nullptr;
+  const LSTATUS status =
+      RegCreateKeyExW(place.root, place.key.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &opened, nullptr);
+  if (status != ERROR_SUCCESS) return status;
+  const std::wstring wide = Wide(text);
+  const auto size = static_cast<DWORD>((wide.size() + 1) * sizeof(wchar_t));
+  const LSTATUS written = RegSetValueExW(opened, Wide(value).c_str(), 0, REG_SZ,
+                                         reinterpret_cast<const BYTE*>(wide.c_str()), size);
+  RegCloseKey(opened);
+  return written;
+}
+
 }  // namespace
 
 std::optional<std::string> WindowsRegistry::Read(RegistryRoot root, const std::string& key,
@@ -73,16 +89,11 @@ bool WindowsRegistry::Write(RegistryRoot root, const std::string& key, const std
                             const std::string& text) {
   if (root == RegistryRoot::LocalMachine) return false;
   const Place place = WritePlace(root, key);
-  HKEY opened = nullptr;
-  if (RegCreateKeyExW(place.root, place.key.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &opened,
-                      nullptr) != ERROR_SUCCESS) {
-    return false;
+  const LSTATUS status = WriteValue(place, value, text);
+  if (status != ERROR_SUCCESS && troubled && !std::exchange(failureTold_, true)) {
+    troubled(
+        {PlaceOf(key), FaultFor({static_cast<int>(status), std::system_category()}, FileTask::Write), {}});
   }
-  const std::wstring wide = Wide(text);
-  const auto size = static_cast<DWORD>((wide.size() + 1) * sizeof(wchar_t));
-  const LSTATUS status = RegSetValueExW(opened, Wide(value).c_str(), 0, REG_SZ,
-                                        reinterpret_cast<const BYTE*>(wide.c_str()), size);
-  RegCloseKey(opened);
   return status == ERROR_SUCCESS;
 }
 

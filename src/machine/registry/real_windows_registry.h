@@ -4,12 +4,21 @@
 
 #ifdef _WIN32
 
+#include "machine/registry/settings_trouble.h"
 #include "platform/system.h"
 
 namespace veldrin {
 
 class WindowsRegistry : public Registry {
  public:
+  /// Hears once that a value could not be written.
+  TellSettingsTrouble troubled;
+
+  /// The system keeps its registry whole.
+  void Check() {}
+  /// Where a user's value stands, for people.
+  std::string PlaceOf(const std::string& key) const { return "HKEY_CURRENT_USER\\" + key; }
+
   /// The value "CPU", which newer systems no longer have where the program asks for it, is answered with the
   /// processor's name.
   std::optional<std::string> Read(RegistryRoot root, const std::string& key,
@@ -17,6 +26,9 @@ class WindowsRegistry : public Registry {
   bool Write(RegistryRoot root, const std::string& key, const std::string& value,
              const std::string& text) override;
   bool DeleteKey(RegistryRoot root, const std::string& key) override;
+
+ private:
+  bool failureTold_ = false;
 };
 
 }  // namespace veldrin

@@ -1,0 +1,43 @@
+#include "machine/files/real_made_folder.h"
+
+#include "machine/files/real_fault.h"
+#include "runtime/fault.h"
+
+#include <system_error>
+
+#ifndef _WIN32
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace veldrin {
+
+namespace fs = std::filesystem;
+
+void MakeFolder(const fs::path& folder) {
+  std::error_code failure;
+  if (folder.empty() || fs::is_directory(folder, failure)) return;
+  const fs::path above = folder.parent_path();
+  if (above != folder) MakeFolder(above);
+  fs::create_directory(folder, failure);
+  // Another copy of the program may have been faster.
+  if (failure && !fs::is_directory(folder)) Raise(FaultFor(failure, FileTask::Write));
+  KeepNames(above);
+}
+
+#ifdef _WIN32
+
+void KeepNames(const fs::path& /*folder*/) {}
+
+#else
+
+void KeepNames(const fs::path& folder) {
+  const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (opened < 0) return;
+  fsync(opened);
+  close(opened);
+}
+
+#endif
+
+}  // namespace veldrin
