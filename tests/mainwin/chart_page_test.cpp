@@ -89,6 +89,17 @@ TEST_F(ChartPage, StandsInTheSvgAtTheWindowsPlaces) {
   EXPECT_NE(out.str().find(">A&lt;B</text>"), std::string::npos);
 }
 
+TEST_F(ChartPage, NamesAsManyPlansAsThereAreColours) {
+  std::ostringstream out;
+  WriteSvg(out, EnglishWords(), std::vector<PlanSheet>(11, sheet), nullptr);
+  int named = 0;
+  for (std::size_t at = out.str().find(">A&lt;B</text>"); at != std::string::npos; ++named) {
+    at = out.str().find(">A&lt;B</text>", at + 1);
+  }
+  EXPECT_EQ(named, 8);
+  EXPECT_NE(out.str().find(">+ 3</text>"), std::string::npos);
+}
+
 TEST_F(ChartPage, LaysPlansOverEachOtherOnAScaleThatHoldsAll) {
   PlanSheet other = sheet;
   other.maxNe = 16000;

@@ -55,8 +55,8 @@ Scale ChartScaleOf(const std::vector<PlanSheet>& sheets) {
 }
 
 Colour ToothColour(std::size_t place) {
-  constexpr int kColours[] = {kWhiteNumber, 14, 11, 13, 10, 12, 6, 3};
-  return PaletteColour(kColours[place % std::size(kColours)]);
+  constexpr int kColours[kToothColours] = {kWhiteNumber, 14, 11, 13, 10, 12, 6, 3};
+  return PaletteColour(kColours[place % kToothColours]);
 }
 
 void DrawPlans(Surface& surface, const std::vector<PlanSheet>& sheets) {

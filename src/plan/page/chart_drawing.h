@@ -11,7 +11,8 @@ namespace veldrin {
 /// The chart's scale in rev/min and km/h, wide enough for all of the sheets. There is at least one.
 Scale ChartScaleOf(const std::vector<PlanSheet>& sheets);
 
-/// The colour of a plan's saw-tooth, by its place: white for the first.
+/// The colour of a plan's saw-tooth, by its place: white for the first. They begin again behind the last.
+inline constexpr std::size_t kToothColours = 8;
 Colour ToothColour(std::size_t place);
 
 /// Draws one plan as the window does, its stored speeds as dotted rays; several laid over each other, the

@@ -13,9 +13,9 @@ namespace {
 
 constexpr char kStyle[] = R"(@page { size: A4; margin: 14mm }
 body { font-family: "Noto Sans", "Noto Sans CJK JP", "Yu Gothic", sans-serif; font-size: 10pt; margin: 0 auto; max-width: 182mm }
-h1 { font-size: 16pt; margin: 0 0 2mm } h2 { font-size: 12pt; margin: 5mm 0 1mm } p { margin: 1mm 0 }
-svg { display: block; height: 120mm; width: auto; margin: 3mm 0; -webkit-print-color-adjust: exact; print-color-adjust: exact }
-section { break-inside: avoid }
+h1 { font-size: 16pt; margin: 0 0 2mm } h2 { font-size: 12pt; margin: 4mm 0 1mm } h3 { font-size: 10pt; margin: 2mm 0 1mm } p { margin: 1mm 0 }
+svg { display: block; height: 110mm; width: auto; margin: 3mm 0; -webkit-print-color-adjust: exact; print-color-adjust: exact }
+table { break-inside: avoid } h2, h3 { break-after: avoid }
 table { border-collapse: collapse; margin: 2mm 0 } th, td { border: 0.2mm solid #888; padding: 0.6mm 2mm; text-align: right }
 th { background: #eee; font-weight: normal } td.text, th.text { text-align: left }
 pre { font-family: inherit; white-space: pre-wrap; margin: 1mm 0 } .note { color: #c00 }

@@ -3,6 +3,7 @@
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <variant>
@@ -107,7 +108,12 @@ void WriteLegend(SvgWriter& svg, const PageWords& words, const std::vector<PlanS
     y += kLegendLine;
   };
   if (sheets.size() == 1 && sheets.front().hasStored) entry(kLightGrey, kPenDotted, words.original);
-  for (std::size_t k = 0; k < sheets.size(); ++k) entry(ToothColour(k), kPenSolid, sheets[k].title);
+  const std::size_t named = std::min(sheets.size(), kToothColours);
+  for (std::size_t k = 0; k < named; ++k) entry(ToothColour(k), kPenSolid, sheets[k].title);
+  if (named < sheets.size()) {
+    svg.Text(left + 525, y, "start", kLightGrey, "+ " + std::to_string(sheets.size() - named));
+    y += kLegendLine;
+  }
   if (!measured) return;
   svg.Dot(left + 232, y - kNumeralSize / 3, true);
   svg.Text(left + 525, y, "start", kYellow, words.measured);
