@@ -178,6 +178,7 @@ TEST(Arguments, MistakesAreTold) {
       {{"--encoding", "latin"}, "--encoding: \"latin\" is neither utf-8 nor cpN"},
       {{"--encoding", "cp"}, "--encoding: \"cp\" is neither utf-8 nor cpN"},
       {{"--encoding", "cp-932"}, "--encoding: \"cp-932\" is neither utf-8 nor cpN"},
+      {{"--encoding", "cp+932"}, "--encoding: \"cp+932\" is neither utf-8 nor cpN"},
       {{"--encoding", "cp0"}, "--encoding: \"cp0\" is neither utf-8 nor cpN"},
       {{"--encoding", "cp65536"}, "--encoding: \"cp65536\" is neither utf-8 nor cpN"},
       {{"--encoding=cp932", "--encoding=cp932"}, "--encoding is given twice"},

@@ -134,6 +134,8 @@ TEST(CheckList, GearRows) {
       {Put(13, "1B,15,28,99,0,0,3B,20,25,4B,25,27,5B,24,23,6B,27,24"), {}},
       {Put(13, "1B,15,28,99,,99,3B,20,25,4B,25,27,5B,24,23,6B,27,24"),
        {"w13: \"\" is no number, but is not used"}},
+      {Put(13, "1B,15,28,99,x,y,3B,20,25,4B,25,27,5B,24,23,6B,27,24"),
+       {"w13: \"x\" is no number, but is not used", "w13: \"y\" is no number, but is not used"}},
       {Put(13, "1B,15,28,,18,27,3B,20,25,4B,25,27,5B,24,23,6B,27,24"),
        {"w13: gear 2, row 2: the text is empty"}},
       {Put(13, "1B,15,2B,99,99,99,3B,20,25,4B,25,27,5B,24,23,6B,27,24"), {"13: \"2B\" is no number"}},
