@@ -11,6 +11,7 @@
 #include "workspace/files/working_files.h"
 #include "workspace/history_reopen.h"
 #include "workspace/language.h"
+#include "workspace/notice_words.h"
 #include "workspace/title.h"
 
 #include <string>
@@ -54,19 +55,6 @@ void CountAsUnsaved(Program& program) {
   MarkTitle(program);
 }
 
-void TellSaved(Program& program) {
-  const std::string path = TargetPath(program);
-  program.machine.notices.Tell({Severity::Information, {"Saved as " + path, path + " に保存しました"}});
-}
-
-void TellNotSaved(Program& program, int fault) {
-  const std::string path = TargetPath(program);
-  const BothLanguages cause = FailureCause(fault);
-  program.machine.notices.Tell(
-      {Severity::Failure,
-       {path + " was not saved: " + cause.english, path + " は保存されていません: " + cause.japanese}});
-}
-
 /// Writes the plan. False when that failed: the prompt line tells the cause, the file stays as it was, and
 /// the plan counts as unsaved.
 bool WritePlan(Program& program) {
@@ -80,13 +68,13 @@ bool WritePlan(Program& program) {
   if (fault == 0) {
     DropQuestion(program);  // the changes that it asked about are saved
     program.hooks.Saved();
-    TellSaved(program);
+    TellSaved(program, TargetPath(program));
     return true;
   }
   program.files.Abandon(Handle::Plan);
   CountAsUnsaved(program);
   ShowFailure(program, fault);
-  TellNotSaved(program, fault);
+  TellNotSaved(program, TargetPath(program), fault);
   return false;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
+#include "workspace/notice_words.h"
 
 #include <iterator>
 #include <string>
@@ -31,6 +32,10 @@ bool BoxIsInRange(const Program& program, int box) {
   return fault == 0 && condition.limits.Holds(number);
 }
 
+void TellRange(Program& program, int box) {
+  TellRefusedNumber(program, ConditionName(box), kConditions[box].limits, ConditionUnit(box));
+}
+
 /// Runs the checks; false at the first failure, whose box is emptied.
 bool PassesChecks(Program& program) {
   Form7& form7 = *program.form7;
@@ -42,11 +47,13 @@ bool PassesChecks(Program& program) {
     // Kept: what sorts before "9" passes, digits or not.
     if (!HasLetter(form7.Text1[box].Text.get())) continue;
     form7.Text1[box].Text = " ";
+    TellRange(program, box);
     return false;
   }
   for (int box = 0; box < kBoxes; ++box) {
     if (BoxIsInRange(program, box)) continue;
     form7.Text1[box].Text = "";
+    TellRange(program, box);
     return false;
   }
   return true;

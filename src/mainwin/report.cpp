@@ -4,6 +4,7 @@
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
+#include "workspace/notice_words.h"
 
 #include <array>
 #include <cstdint>
@@ -85,8 +86,11 @@ void HandOver(Program& program, const Picture& picture, PictureOutput output) {
   if (output == PictureOutput::Clipboard) {
     pictures.ClearClipboard();
     pictures.PutOnClipboard(picture.surface, width, height);
+    Inform(program, {"The picture is on the clipboard", "画像をクリップボードにコピーしました"});
   } else {
-    pictures.SaveBitmap(PicturePath(program), picture.surface, width, height);
+    const std::string path = PicturePath(program);
+    pictures.SaveBitmap(path, picture.surface, width, height);
+    TellSaved(program, path);
   }
 }
 
@@ -135,7 +139,8 @@ void PrintReport(Program& program) {
     page.font = {workspace.PrintFont, kPrinterRemarkSize, workspace.PrintFontBold, workspace.PrintFontItalic};
     DrawReport(program, page, kPrinterStyle);
   });
-  Guarded([&] { printer.EndDocument(); });
+  const int fault = Guarded([&] { printer.EndDocument(); });
+  if (fault == 0) Inform(program, {"The page has been sent to the printer", "プリンターへ送りました"});
 }
 
 void AttachReport(Program& program) {

@@ -1,6 +1,7 @@
 #include "mainwin/search.h"
 
 #include "calc/plan_search.h"
+#include "mainwin/search_notices.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"
 #include "workspace/decision_panel/decision_panel.h"
@@ -35,6 +36,7 @@ void ShowSuccess(Program& program) {
   form2.Label23.Caption = Message(program.workspace, kFoundMessage);
   EnableAll({&form2.menu_file, &form2.menu_f, &form2.menu_opt});
   program.machine.windows.Repaint(form2.Label23);
+  TellFound(program);
 }
 
 /// A quick-ratio or reference file asked for speeds that this machine cannot reach.
@@ -73,6 +75,7 @@ void PlanSearchAuto(Program& program) {
   program.form2.Command8.Enabled = false;
   program.form2.Label23.Visible = false;
   program.workspace.ResultWord = result::kNoPlan;
+  TellWhyNone(program, AutoBounds(MainGear(program)));
   if (program.workspace.ModeWord == mode::kReferenceInForce) EndOnImpossibleSpeeds(program);
 }
 
@@ -87,6 +90,7 @@ void PlanSearchMixed(Program& program) {
   AskQuestion(program, Question::NoPlanFound);
   program.form2.Label23.Visible = false;
   program.workspace.ResultWord = result::kNoPlan;
+  TellWhyNone(program, MixedBounds(program.workspace, manual));
 }
 
 void StartSearch(Program& program) {

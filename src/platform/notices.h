@@ -32,6 +32,9 @@ struct Notice {
   Severity severity = Severity::Information;
   BothLanguages text;
   std::vector<NoticeAction> actions = {};
+  /// What it is about; a newer notice about the same takes the place of an older one. Empty for nothing that
+  /// comes again.
+  std::string topic = {};
 };
 
 struct Notices {

@@ -19,6 +19,7 @@
 #include "mainwin/report.h"
 #include "mainwin/search.h"
 #include "program/event_boundary.h"
+#include "program/refusal_notices.h"
 
 namespace veldrin {
 
@@ -43,6 +44,7 @@ std::unique_ptr<Program> AssembleProgram(Machine& machine) {
   AttachColourDialog(*program);
   AttachExtensionRegistry(*program);
   AttachAboutWindow(*program);
+  AttachRefusalNotices(*program);
   return program;
 }
 

@@ -4,7 +4,7 @@
 #include "runtime/fault.h"
 #include "safety/reopen.h"
 #include "view/user_input.h"
-#include "workspace/failure_texts.h"
+#include "workspace/notice_words.h"
 
 #include <algorithm>
 #include <utility>
@@ -182,14 +182,11 @@ void KeptOffers::KeepAsFile() {
     });
   }
   if (fault != 0) {
-    const BothLanguages cause = FailureCause(fault);
-    program_->machine.notices.Tell(
-        {Severity::Failure,
-         {path + " was not saved: " + cause.english, path + " は保存されていません: " + cause.japanese}});
+    TellNotSaved(*program_, path, fault);
     Tell();
     return;
   }
-  program_->machine.notices.Tell({Severity::Information, {"Saved as " + path, path + " に保存しました"}});
+  TellSaved(*program_, path);
   Forget();
 }
 

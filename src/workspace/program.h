@@ -55,6 +55,8 @@ struct Hooks {
   /// The chooser in its saving and in its deleting role.
   Hook OpenSaveChooser;
   Hook OpenDeleteChooser;
+  /// A list or plan was refused, by a fault or by what it holds (0): whoever can says why.
+  std::function<void(const std::string& path, int fault)> FileRefused;
   // For who watches over the plan; nothing depends on these being filled.
   /// A plan or a list was read and stands in the place of what was there.
   Hook Loaded;

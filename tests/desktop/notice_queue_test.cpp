@@ -58,6 +58,21 @@ TEST(NoticeQueueTest, WhatStandsIsNotToldTwice) {
   EXPECT_EQ(queue.Standing(), 1U);
 }
 
+TEST(NoticeQueueTest, NewerOneAboutTheSameTakesThePlaceOfTheOlder) {
+  NoticeQueue queue;
+  Notice none = Told("none", Severity::Warning);
+  none.topic = "search";
+  queue.Add(none);
+  queue.Add(Told("other", Severity::Warning));
+  Notice found = Told("found");
+  found.topic = "search";
+  queue.Add(found);
+  EXPECT_EQ(Seen(queue), "found");
+  queue.Drop();
+  EXPECT_EQ(Seen(queue), "other");
+  EXPECT_EQ(queue.Standing(), 1U);
+}
+
 TEST(NoticeQueueTest, EveryChangeIsTold) {
   NoticeQueue queue;
   int changes = 0;

@@ -13,6 +13,8 @@ class ClientArea : public ControlWidget<QWidget> {
   void Take(std::string_view slot) override;
   void TakeAll() override;
 
+  /// An event has ended: the first steps may come or go.
+  void Follow();
   /// The place of a widget that lies in it.
   QRect PlaceOf(const QWidget& widget) const { return {widget.mapTo(this, QPoint()), widget.size()}; }
   /// Whether the pointer would meet such a widget, or what lies on it, in its middle.
@@ -22,8 +24,12 @@ class ClientArea : public ControlWidget<QWidget> {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  bool InJapanese() const;
+
   const std::string window_;
   const QSizeF fullSize_;  // twips
+  bool firstSteps_ = false;
+  bool japanese_ = false;
 };
 
 }  // namespace veldrin

@@ -204,6 +204,7 @@ void FormWidget::Settle() {
   raised_.clear();
   ring_->StayInFront();
   if (strip_ != nullptr) strip_->Follow();
+  client_->Follow();
   TakeFocus();
   DeleteUnusedViews();
   if (frameUntold_ && user::Reachable(*window_)) TellFrameSoon();

@@ -102,7 +102,7 @@ void MessageStrip::Show() {
     const bool isNew = words != whole_;
     whole_ = words;
     MakeButtons();
-    room_ = QFontMetrics(font).height() + qRound(pixel * 4 * kMargin);
+    room_ = Lines() * QFontMetrics(font).height() + qRound(pixel * 4 * kMargin);
     const int side = QFontMetrics(font).height();
     icon_->setPixmap(style()->standardIcon(IconFor(notice->severity)).pixmap(side, side));
     setAccessibleName(whole_);
@@ -165,6 +165,27 @@ void MessageStrip::resizeEvent(QResizeEvent* event) {
   Arrange();
 }
 
+/// Where the text begins, and what it has of the width.
+int MessageStrip::TextLeft() const {
+  return 2 * qRound(zoom_ * kGap) + QFontMetrics(font()).height();
+}
+
+int MessageStrip::TextWidth(int whole) const {
+  const QFontMetrics metrics(font());
+  int right = whole - qRound(zoom_ * kMargin);
+  for (const QPushButton* button : buttons_) {
+    right -=
+        metrics.horizontalAdvance(button->text()) + 2 * qRound(zoom_ * kPadding) + qRound(zoom_ * kMargin);
+  }
+  return std::max(1, right - qRound(zoom_ * kGap) - TextLeft());
+}
+
+/// A text that has no room in one line gets a second.
+int MessageStrip::Lines() const {
+  const int needed = QFontMetrics(font()).horizontalAdvance(whole_);
+  return needed <= TextWidth(parentWidget()->width()) ? 1 : 2;
+}
+
 void MessageStrip::Arrange() {
   const double pixel = stage_->zoom.Factor();
   const QFontMetrics metrics(font());
@@ -180,9 +201,12 @@ void MessageStrip::Arrange() {
   }
   const int icon = metrics.height();
   icon_->setGeometry(gap, (height() - icon) / 2, icon, icon);
-  const int left = gap + icon + gap;
-  text_->setGeometry(left, 0, std::max(0, right - gap - left), height());
-  text_->setText(metrics.elidedText(whole_, Qt::ElideMiddle, text_->width()));
+  const int room = TextWidth(width());
+  text_->setGeometry(TextLeft(), 0, room, height());
+  const int lines = height() >= 2 * metrics.height() + 2 * margin ? 2 : 1;
+  text_->setWordWrap(lines > 1);
+  // The end of a line is not filled where a word would not fit.
+  text_->setText(metrics.elidedText(whole_, Qt::ElideMiddle, lines > 1 ? 2 * room - 6 * icon : room));
 }
 
 // ---- F6 ----

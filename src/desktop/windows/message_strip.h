@@ -50,6 +50,9 @@ class MessageStrip : public QFrame {
   void Reach(int place);
   void Arrange();
   bool InJapanese() const;
+  int TextLeft() const;
+  int TextWidth(int whole) const;
+  int Lines() const;
 
   Stage* stage_;
   std::function<void()> resized_;

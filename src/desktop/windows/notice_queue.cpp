@@ -14,6 +14,11 @@ bool IsPassing(const Notice& notice) {
 }  // namespace
 
 void NoticeQueue::Add(Notice notice) {
+  if (!notice.topic.empty()) {
+    const auto older = [&](const Notice& other) { return other.topic == notice.topic; };
+    std::erase_if(standing_, older);
+    if (passing_ && older(*passing_)) passing_.reset();
+  }
   if (IsPassing(notice)) {
     passing_ = std::move(notice);
   } else {

@@ -9,6 +9,7 @@
 #include "view/bind.h"
 #include "workspace/caller.h"
 #include "workspace/control_states.h"
+#include "workspace/notice_words.h"
 #include "workspace/title.h"
 
 #include <optional>
@@ -55,41 +56,42 @@ std::optional<double> NumberOf(const Workspace& workspace, const std::string& te
   return number;
 }
 
-void Refuse(Program& program, TextBox& box) {
+void Refuse(Program& program, TextBox& box, int condition) {
   program.machine.sound.Beep();
   box.Text = "";
+  TellRefusedNumber(program, ConditionName(condition), kConditions[condition].limits,
+                    ConditionUnit(condition));
 }
 
 /// The number of a box. One with letters or outside the range is refused by a beep and an emptied box.
 /// Kept: a text that is no number ends the program.
-std::optional<double> ValidNumber(Program& program, TextBox& box, const std::string& text,
-                                  const Limits& limits) {
+std::optional<double> ValidNumber(Program& program, TextBox& box, const std::string& text, int condition) {
   if (!HasLetter(text)) {
     const std::optional<double> number = NumberOf(program.workspace, text);
-    if (number && limits.Holds(*number)) return number;
+    if (number && kConditions[condition].limits.Holds(*number)) return number;
   }
-  Refuse(program, box);
+  Refuse(program, box, condition);
   return std::nullopt;
 }
 
 /// Kept: an empty box is a text without a number like any other, so leaving one that a refusal or a double
 /// click has emptied ends the program.
-std::optional<double> ValidRevolutions(Program& program, TextBox& box) {
-  return ValidNumber(program, box, box.Text, kRevolutionLimits);
+std::optional<double> ValidRevolutions(Program& program, TextBox& box, int condition) {
+  return ValidNumber(program, box, box.Text, condition);
 }
 
 /// An empty box is refused as well.
 std::optional<double> ValidTyreLength(Program& program, TextBox& box) {
   if (!box.Text.get().empty()) {
-    return ValidNumber(program, box, FixDecimal(program.workspace, box.Text), kTyreLimits);
+    return ValidNumber(program, box, FixDecimal(program.workspace, box.Text), kTyreCondition);
   }
-  Refuse(program, box);
+  Refuse(program, box, kTyreCondition);
   return std::nullopt;
 }
 
 void ValidateCheckNe(Program& program) {
   Form2& form2 = program.form2;
-  const auto number = ValidRevolutions(program, form2.Text2);
+  const auto number = ValidRevolutions(program, form2.Text2, kCheckNeCondition);
   if (!number) return;
   const std::int16_t revolutions = ToInt16(*number);
   program.workspace.CheckNe = revolutions;
@@ -98,7 +100,7 @@ void ValidateCheckNe(Program& program) {
 
 void ValidateShiftNe(Program& program) {
   Form2& form2 = program.form2;
-  const auto number = ValidRevolutions(program, form2.Text4);
+  const auto number = ValidRevolutions(program, form2.Text4, kShiftNeCondition);
   if (!number) return;
   program.workspace.ShiftNe = ToInt16(*number);
   form2.HScroll1.Value = program.workspace.ShiftNe;

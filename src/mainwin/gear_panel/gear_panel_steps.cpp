@@ -6,6 +6,7 @@
 #include "view/bind.h"
 #include "workspace/caller.h"
 #include "workspace/control_states.h"
+#include "workspace/notice_words.h"
 
 namespace veldrin {
 
@@ -108,6 +109,10 @@ void TestForbiddenPair(Program& program, int gear) {
   if (!forbidden) return;
   form2.Picture9.Visible = false;
   program.machine.sound.Beep();
+  const std::string& third = workspace.GearTable(kThirdGear, workspace.PlanIndex[kThirdGear]);
+  const std::string& fourth = workspace.GearTable(kFourthGear, workspace.PlanIndex[kFourthGear]);
+  Inform(program, {third + " and " + fourth + " cannot be fitted together",
+                   third + " と " + fourth + " は同時に組み付けられません"});
 }
 
 void AttachGearPanelSteps(Program& program) {

@@ -1,8 +1,8 @@
 #include "plan/output/plan_table.h"
 
+#include "calc/gear_names.h"
 #include "plan/output/columns.h"
 #include "plan/output/plan_output.h"
-#include "plan/sheet/gear_names.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"
 

@@ -1,6 +1,6 @@
 #include "plan/page/page_words.h"
 
-#include "plan/sheet/gear_names.h"
+#include "calc/gear_names.h"
 
 namespace veldrin {
 

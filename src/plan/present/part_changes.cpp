@@ -1,7 +1,7 @@
 #include "plan/present/part_changes.h"
 
+#include "calc/gear_names.h"
 #include "model/list_tables.h"
-#include "plan/sheet/gear_names.h"
 #include "runtime/text.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "plan/present/plan_reader.h"
 
+#include "calc/gear_names.h"
 #include "calc/plan_figures.h"
 #include "model/chart_room.h"
 #include "model/decimal.h"
@@ -8,7 +9,6 @@
 #include "plan/check/field_scanner.h"
 #include "plan/check/list_remarks.h"
 #include "plan/files/bad_input.h"
-#include "plan/sheet/gear_names.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "runtime/number_format.h"

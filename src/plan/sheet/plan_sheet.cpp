@@ -1,7 +1,7 @@
 #include "plan/sheet/plan_sheet.h"
 
+#include "calc/gear_names.h"
 #include "calc/plan_figures.h"
-#include "plan/sheet/gear_names.h"
 #include "runtime/text.h"
 
 namespace veldrin {

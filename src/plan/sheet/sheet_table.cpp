@@ -1,5 +1,5 @@
+#include "calc/gear_names.h"
 #include "plan/output/columns.h"
-#include "plan/sheet/gear_names.h"
 #include "plan/sheet/sheet_output.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"

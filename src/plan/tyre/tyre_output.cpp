@@ -1,7 +1,7 @@
 #include "plan/tyre/tyre_output.h"
 
+#include "calc/gear_names.h"
 #include "plan/output/columns.h"
-#include "plan/sheet/gear_names.h"
 #include "runtime/conversion.h"
 #include "runtime/number_format.h"
 

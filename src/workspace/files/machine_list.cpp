@@ -12,6 +12,7 @@
 #include "workspace/files/working_files.h"
 #include "workspace/history_menu.h"
 #include "workspace/language.h"
+#include "workspace/notice_words.h"
 #include "workspace/settings.h"
 #include "workspace/title.h"
 
@@ -73,6 +74,19 @@ void ShowNoPlan(Program& program) {
   form2.Label12[4].BackColor = kLightGrey;
 }
 
+/// The list of the start is nobody's doing, and nothing is said of it.
+void TellLoaded(Program& program) {
+  if (!program.form2.Visible) return;
+  const Workspace& workspace = program.workspace;
+  const std::string primaries = std::to_string(workspace.PrimaryCount);
+  const std::string finals = std::to_string(FinalRowCount(workspace));
+  const std::string rows = std::to_string(workspace.GearRows);
+  Inform(program, {workspace.MachineName + ": " + primaries + " primary ratios, " + finals +
+                       " final ratios, up to " + rows + " pairs in each gear",
+                   workspace.MachineName + ": プライマリー " + primaries + " 種、ファイナル " + finals +
+                       " 種、各ギヤ最大 " + rows + " 組"});
+}
+
 /// The file asked for a list and a plan was wanted: it stays open until the user confirms the change of
 /// machine with a second OK, for which the chooser is shown again from outside its own OK.
 void AskForChangeOfMachine(Program& program, const std::string& path) {
@@ -122,6 +136,7 @@ void RefuseFile(Program& program, const std::string& path, int fault) {
   program.files.Close(Handle::Reader);
   workspace.ResultWord = result::kNotGood;
   RemoveFromHistory(program, path);
+  if (program.hooks.FileRefused) program.hooks.FileRefused(path, fault);
   const bool missing = fault == kFaultBadFileName || fault == kFaultFileNotFound ||
                        fault == kFaultPathAccess || fault == kFaultPathNotFound;
   if (missing && workspace.CallerWord == caller::kForm1) {
@@ -192,7 +207,8 @@ void ReadMachineList(Program& program) {
   // Without a waiting file every field is missing, and the first keyword fails.
   TextReader nothing("");
   const bool open = program.files.IsOpen(Handle::Reader);
-  workspace.LoadedList = program.files.PathOf(Handle::Reader);
+  const std::string path = program.files.PathOf(Handle::Reader);
+  workspace.LoadedList = path;
   TextReader& reader = open ? program.files.Reader(Handle::Reader) : nothing;
   const bool understood = ReadListTables(reader, workspace);
   program.files.Close(Handle::Reader);
@@ -200,6 +216,7 @@ void ReadMachineList(Program& program) {
     workspace.ResultWord = result::kNotGood;
     program.form3.Label4.Caption = Message(workspace, kUnknownKindMessage);
     ShowRefusal(program);
+    if (program.hooks.FileRefused) program.hooks.FileRefused(path, 0);
     return;
   }
 
@@ -224,6 +241,7 @@ void ReadMachineList(Program& program) {
   workspace.DataChanged = dirty::kZero;
   program.form3.Hide();
   program.hooks.Loaded();
+  TellLoaded(program);
 }
 
 }  // namespace veldrin
