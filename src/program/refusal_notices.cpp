@@ -1,7 +1,7 @@
 #include "program/refusal_notices.h"
 
-#include "plan/bad_input.h"
 #include "plan/check/list_check.h"
+#include "plan/files/bad_input.h"
 #include "plan/present/plan_reader.h"
 #include "platform/paths.h"
 #include "runtime/fault.h"

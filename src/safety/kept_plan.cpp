@@ -164,6 +164,7 @@ void CarryKept(Carry& carry, Kept& kept) {
     CarryRow(carry, OfGear("pair", place), plan.pairs[place]);
     carry(OfGear("baseline", place), plan.baseline[place]);
   }
+  carry("baseline-shown", plan.baselineShown);
   carry("tyre", plan.tyreLength);
   carry("shift-ne", plan.shiftNe);
   carry("check-ne", plan.checkNe);

@@ -53,6 +53,7 @@ PlanState TakePlan(const Program& program) {
     state.pairs[Place(gear)] = {row, workspace.GearTable(gear, row)};
     state.baseline[Place(gear)] = workspace.SpeedBaseline[gear];
   }
+  state.baselineShown = !program.form2.Label2[kGears].Caption.get().empty();
   state.tyreLength = workspace.TyreLength;
   state.shiftNe = workspace.ShiftNe;
   state.checkNe = workspace.CheckNe;

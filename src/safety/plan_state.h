@@ -55,6 +55,7 @@ struct PlanState {
   float checkNe = 0;             // rev/min
   std::int16_t referenceNe = 0;  // rev/min
   PerGear<float> baseline{};     // km/h
+  bool baselineShown = true;     // a first plan has one that nobody has asked for
   std::string remark;
 
   // The chart's ends, which follow the plan.

@@ -131,7 +131,7 @@ void ShowTexts(Program& program, const PlanState& kept) {
   form2.Label6.Caption = kept.primary.text;
   form2.Label8.Caption = kept.final.text;
   for (int gear = 1; gear <= kGears; ++gear) {
-    Guarded([&] { ShowBaseline(program, gear); });
+    if (kept.baselineShown) Guarded([&] { ShowBaseline(program, gear); });
     form2.Label12[gear].Caption = kept.pairs[Place(gear)].text;
   }
 }

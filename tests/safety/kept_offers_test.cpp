@@ -158,6 +158,7 @@ TEST_F(KeptOffersTest, PlanWithoutAFileComesBackOverAFirstPlan) {
   EXPECT_EQ(p.Main().Label12[2].Caption, "2B");
   EXPECT_EQ(p.Main().Label12[6].Caption, "6B");
   EXPECT_EQ(p.Work().DataFile, "");
+  EXPECT_EQ(p.Main().Label2[6].Caption, "");
   EXPECT_EQ(p.Work().DataChanged, dirty::kYes);
 }
 

@@ -11,11 +11,11 @@ namespace veldrin {
 
 namespace {
 
-constexpr float kFontSize = 11;
+constexpr float kFontSize = 10;
 // In pixels of the program: below the buttons of the left half, and as wide as that.
-constexpr double kLeft = 24;
-constexpr double kTop = 170;
-constexpr double kWidth = 480;
+constexpr double kLeft = 18;
+constexpr double kTop = 120;
+constexpr double kWidth = 300;
 constexpr double kBetween = 18;
 
 struct Step {

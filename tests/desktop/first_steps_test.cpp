@@ -1,0 +1,44 @@
+#include "desktop/windows/first_steps.h"
+
+#include "tests/desktop/main_window.h"
+
+#include <QImage>
+
+namespace veldrin {
+namespace {
+
+class FirstStepsTest : public MainWindowTest {};
+
+TEST_F(FirstStepsTest, AreThereWithAMachineAndNoPlan) {
+  EXPECT_FALSE(AwaitsFirstPlan(*program));
+  RunEvent(*program, [&] { OpenDroppedFile(*program, "C:\\VELDRIN\\LIST\\NX4.RAT"); });
+  EXPECT_TRUE(AwaitsFirstPlan(*program));
+  RunEvent(*program, [&] { user::Click(program->form2.Command2); });
+  EXPECT_FALSE(AwaitsFirstPlan(*program));
+}
+
+TEST_F(FirstStepsTest, ArePaintedLeftOfTheChartInBothLanguages) {
+  RunEvent(*program, [&] { OpenDroppedFile(*program, "C:\\VELDRIN\\LIST\\NX4.RAT"); });
+  const double chart = program->form2.Picture21.Left / 15.0;
+  QImage none(700, 500, QImage::Format_RGB32);
+  none.fill(Qt::blue);
+  QImage english = none;
+  for (const bool japanese : {false, true}) {
+    QImage painted = none;
+    {
+      QPainter painter(&painted);
+      PaintFirstSteps(painter, 1, japanese);
+    }
+    EXPECT_NE(painted, none);
+    for (int y = 0; y < painted.height(); ++y) {
+      for (int x = static_cast<int>(chart); x < painted.width(); ++x) {
+        ASSERT_EQ(painted.pixel(x, y), none.pixel(x, y)) << x << ' ' << y;
+      }
+    }
+    if (!japanese) english = painted;
+    if (japanese) EXPECT_NE(painted, english);
+  }
+}
+
+}  // namespace
+}  // namespace veldrin
