@@ -37,8 +37,8 @@ struct KeepFolder {
   /// Makes a file's bytes these, whole or not at all, and returns when they are on the disk. Raises the
   /// faults of the file system.
   virtual void Replace(const std::string& name, const std::string& bytes) = 0;
-  /// Takes a file away, if it is there. Raises nothing.
-  virtual void Remove(const std::string& name) = 0;
+  /// Takes a file away, if it is there. False when it stays. Raises nothing.
+  virtual bool Remove(const std::string& name) = 0;
   /// Where a file of this name stands, for people.
   virtual std::string PathOf(const std::string& name) const = 0;
 };

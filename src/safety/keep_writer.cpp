@@ -113,8 +113,8 @@ void KeepWriter::Remove(const std::string& id) {
 }
 
 void RemoveKept(KeepFolder& folder, const std::string& id, const std::string& planFile) {
-  folder.Remove(id + ".kept");
-  if (!planFile.empty()) folder.Remove(planFile);
+  const bool gone = folder.Remove(id + ".kept");
+  if (gone && !planFile.empty()) folder.Remove(planFile);
 }
 
 }  // namespace veldrin

@@ -21,6 +21,8 @@ class MemoryKeepFolder : public KeepFolder {
   /// Each replacing raises this fault; 0 for none.
   int fault = 0;
   int replaced = 0;
+  /// Names of files that do not go.
+  std::set<std::string> keeps;
 
   std::vector<std::string> KeptNames() const override {
     const std::lock_guard lock(mutex_);
@@ -51,9 +53,11 @@ class MemoryKeepFolder : public KeepFolder {
     ++replaced;
     files[name] = bytes;
   }
-  void Remove(const std::string& name) override {
+  bool Remove(const std::string& name) override {
     const std::lock_guard lock(mutex_);
+    if (keeps.contains(name)) return false;
     files.erase(name);
+    return true;
   }
   std::string PathOf(const std::string& name) const override { return "/state/" + name; }
 

@@ -103,6 +103,15 @@ TEST_F(SafetyNetTest, SaveForgets) {
   EXPECT_EQ(Kept().size(), 1U);
 }
 
+TEST_F(SafetyNetTest, WhatCannotBeTakenAwayStaysWhole) {
+  p.Step(1);
+  const std::vector<KeptPlan> kept = Kept();
+  folder.keeps.insert("id1.kept");
+  p.Do([&] { p.program->hooks.Saved(); });
+  Kept();
+  EXPECT_EQ(folder.files.count(kept.at(0).planFile), 1U);
+}
+
 TEST_F(SafetyNetTest, RestoreForgets) {
   p.Step(1);
   Kept();

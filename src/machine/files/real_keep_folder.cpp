@@ -85,8 +85,10 @@ void RealKeepFolder::Replace(const std::string& name, const std::string& bytes) 
   file.Commit();
 }
 
-void RealKeepFolder::Remove(const std::string& name) {
-  if (IsPlain(name)) QFile::remove(QString::fromStdString(PathOf(name)));
+bool RealKeepFolder::Remove(const std::string& name) {
+  if (!IsPlain(name)) return true;
+  const QString path = QString::fromStdString(PathOf(name));
+  return QFile::remove(path) || !QFile::exists(path);
 }
 
 std::string RealKeepFolder::PathOf(const std::string& name) const {

@@ -25,7 +25,7 @@ class RealKeepFolder : public KeepFolder {
   std::optional<std::string> Read(const std::string& name) const override;
   /// Makes the folder if needed.
   void Replace(const std::string& name, const std::string& bytes) override;
-  void Remove(const std::string& name) override;
+  bool Remove(const std::string& name) override;
   std::string PathOf(const std::string& name) const override;
 
  private:

@@ -1,0 +1,109 @@
+// Work in a process of its own that is held at each of its system calls, those of all its threads in the
+// order in which they come: there it can die, be refused, or find the world changed.
+#pragma once
+
+#if defined(__linux__) && defined(__x86_64__)
+
+#include "tests/desktop/child_process.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <sys/ptrace.h>
+#include <sys/types.h>
+#include <sys/user.h>
+#include <sys/wait.h>
+
+namespace veldrin {
+
+/// What becomes of a system call.
+struct Fate {
+  bool dies = false;  // the whole process, before the call has done anything
+  int error = 0;      // the call is not made and answers with this; 0: it is made
+};
+
+class SteppedProcess {
+ public:
+  /// `fate` is asked about each call, by the number that the system knows it by.
+  explicit SteppedProcess(std::function<Fate(long call)> fate) : fate_(std::move(fate)) {}
+
+  /// Does the work. Returns whether it came to its own end.
+  template <class Work>
+  bool Run(const Work& work) {
+    const pid_t child = StartChild([&] {
+      if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) return kChildThrew;
+      raise(SIGSTOP);
+      return work();
+    });
+    int status = 0;
+    if (waitpid(child, &status, 0) != child || !WIFSTOPPED(status)) return false;
+    ptrace(PTRACE_SETOPTIONS, child, nullptr,
+           PTRACE_O_EXITKILL | PTRACE_O_TRACESYSGOOD | PTRACE_O_TRACECLONE);
+    Resume(child, 0);
+    return Watch(child);
+  }
+
+ private:
+  static constexpr int kCallStop = SIGTRAP | 0x80;
+
+  static void Resume(pid_t thread, int signal) {
+    ptrace(PTRACE_SYSCALL, thread, nullptr, static_cast<std::intptr_t>(signal));
+  }
+
+  bool Watch(pid_t child) {
+    int status = 0;
+    while (true) {
+      const pid_t thread = waitpid(-1, &status, __WALL);
+      if (thread < 0 && errno == EINTR) continue;
+      if (thread < 0) return false;
+      if (!WIFSTOPPED(status)) {
+        if (thread == child) return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        continue;
+      }
+      const int signal = WSTOPSIG(status);
+      if (signal == kCallStop) {
+        Meet(child, thread);
+      } else {
+        // A thread begins with a stop; events of the tracing are none of the process's.
+        const bool own = signal != SIGSTOP && signal != SIGTRAP;
+        Resume(thread, own ? signal : 0);
+      }
+    }
+  }
+
+  /// A call begins or ends.
+  void Meet(pid_t child, pid_t thread) {
+    const auto refused = refused_.find(thread);
+    bool& inside = inside_[thread];
+    inside = !inside;
+    if (inside) {
+      const Fate fate = fate_(Peek(thread, offsetof(user_regs_struct, orig_rax)));
+      if (fate.dies) kill(child, SIGKILL);
+      if (fate.error != 0) {
+        Poke(thread, offsetof(user_regs_struct, orig_rax), -1);
+        refused_[thread] = fate.error;
+      }
+    } else if (refused != refused_.end()) {
+      Poke(thread, offsetof(user_regs_struct, rax), -refused->second);
+      refused_.erase(refused);
+    }
+    Resume(thread, 0);
+  }
+
+  static long Peek(pid_t thread, std::size_t place) {
+    return ptrace(PTRACE_PEEKUSER, thread, place, nullptr);
+  }
+  static void Poke(pid_t thread, std::size_t place, long value) {
+    ptrace(PTRACE_POKEUSER, thread, place, value);
+  }
+
+  std::function<Fate(long call)> fate_;
+  std::map<pid_t, bool> inside_;
+  std::map<pid_t, int> refused_;
+};
+
+}  // namespace veldrin
+
+#endif
