@@ -1,6 +1,7 @@
 #include "simulated/simulated_windows.h"
 
 #include "simulated/printed_values.h"
+#include "view/grid.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -72,15 +73,6 @@ void SimulatedWindows::RunModal(Window& window) {
 void SimulatedWindows::Flash(Window& window) {
   ++log_->flashes;
   log_->Add("flash " + window.name);
-}
-
-float SimulatedWindows::FrameWidth(const Window& window) const {
-  return window.hasFrame ? 120 : 0;
-}
-
-float SimulatedWindows::FrameHeight(const Window& window) const {
-  if (!window.hasFrame) return 0;
-  return window.hasMenu ? 690 : 405;
 }
 
 }  // namespace veldrin

@@ -42,8 +42,6 @@ class SimulatedWindows : public Windows {
   void SetEllipticRegion(Window& /*window*/, int /*left*/, int /*top*/, int /*right*/,
                          int /*bottom*/) override {}
   void StartDrag(Window& /*window*/) override {}
-  float FrameWidth(const Window& window) const override;
-  float FrameHeight(const Window& window) const override;
 
  private:
   SimulatedClock* clock_;

@@ -112,6 +112,12 @@ struct Control {
   }
 };
 
+/// A control whose kind is known.
+template <class Kind>
+Kind& As(Control& control) {
+  return static_cast<Kind&>(control);
+}
+
 /// Whether the control and everything around it inside its window is visible and enabled.
 bool IsUsable(const Control& control);
 

@@ -1,15 +1,14 @@
-// The kinds of controls, each a record of its slots and events.
+// The kinds of controls, each a record of its slots and events. Those that hold a list are in list_boxes.h,
+// the grid is in grid.h.
 //
-// Which write fires what: a label's Caption, the Text of a text box or combo, a scroll bar's Value, a folder
-// box's Path and a drive box's Drive fire Change; an option that is set and a list's ListIndex fire Click; a
-// file box's FileName fires its DblClick.
+// Which write fires what: a label's Caption, a text box's Text and a scroll bar's Value fire Change; an
+// option that is set fires Click.
 #pragma once
 
 #include "platform/canvas.h"
 #include "view/control.h"
 
 #include <string>
-#include <vector>
 
 namespace veldrin {
 
@@ -163,101 +162,6 @@ struct Line : Control {
   Slot<float> Y2;
   Slot<Colour> ForeColor;
 };
-
-/// Cells of text in rows and columns, counted from 0.
-struct Grid : FocusControl {
-  Grid(const char* name, Control& parent, const Place& place, const Look& look = {});
-
-  Slot<int> Cols;
-  Slot<int> Rows;
-  Event Click{*this, "Click"};
-  /// A cell was picked; row and column hold its place.
-  Event Pick{*this, "Pick"};
-  int row = 0;
-  int column = 0;
-
-  /// Text of a cell, empty where nothing was written. Raises fault 9 outside.
-  const std::string& Cell(int cellRow, int cellColumn) const;
-  void SetCell(int cellRow, int cellColumn, const std::string& text);
-  /// Width of a column in twips.
-  float ColWidth(int cellColumn) const;
-  void SetColWidth(int cellColumn, float width);
-
-  /// Makes room for Rows times Cols cells; called by their writes.
-  void Shape();
-
- private:
-  /// Tells the front end of a cell or a column's width.
-  void TellElementWritten(const char* slot, const std::string& element, bool changed);
-
-  std::vector<std::vector<std::string>> cells_;
-  std::vector<float> widths_;
-};
-
-/// A text with a list to pick from.
-struct ComboBox : FocusControl {
-  ComboBox(const char* name, Control& parent, const Place& place, const Look& look = {},
-           std::vector<std::string> entries = {}, bool editable = true);
-
-  const bool editable;
-  std::vector<std::string> entries;
-  Slot<std::string> Text;
-  /// Picking an entry takes its text, which fires no Change.
-  Slot<int> ListIndex;
-  Event Change{*this, "Change"};
-  Event Click{*this, "Click"};
-
-  void AddItem(const std::string& entry);
-  void Clear();
-};
-
-struct DriveBox : FocusControl {
-  DriveBox(const char* name, Control& parent, const Place& place, const Look& look = {});
-
-  std::vector<std::string> entries;
-  /// Raises fault 68 for a drive that the machine does not have. Takes any path on the drive.
-  Slot<std::string> Drive;
-  Slot<int> ListIndex;
-  Event Change{*this, "Change"};
-  Event Click{*this, "Click"};
-};
-
-/// The folders of a folder. Entry i is the full path of the i-th folder in it; ListIndex -1 is the folder
-/// itself.
-struct FolderBox : FocusControl {
-  FolderBox(const char* name, Control& parent, const Place& place, const Look& look = {});
-
-  std::vector<std::string> entries;
-  /// Raises the faults of a folder that cannot be had.
-  Slot<std::string> Path;
-  Slot<int> ListIndex;
-  Event Change{*this, "Change"};
-  Event Click{*this, "Click"};
-
-  /// Reads the folder again. Faults leave the list empty.
-  void Refresh();
-};
-
-/// The files of a folder that match a pattern.
-struct FileBox : FocusControl {
-  FileBox(const char* name, Control& parent, const Place& place, const Look& look = {},
-          const char* pattern = "*.*");
-
-  std::vector<std::string> entries;
-  Slot<std::string> Path;
-  Slot<std::string> Pattern;
-  /// The selected name. Raises fault 53 for a name that is not in the folder; the empty text selects nothing.
-  Slot<std::string> FileName;
-  Slot<int> ListIndex;
-  Event Click{*this, "Click"};
-  Event DblClick{*this, "DblClick"};
-
-  /// Reads the folder again; nothing is selected then. Faults leave the list empty.
-  void Refresh();
-};
-
-/// The entries of a list; null for kinds without.
-const std::vector<std::string>* EntriesOf(const Control& control);
 
 /// A dialog of the platform that a window owns: nothing to see of it in the window.
 struct Dialog : Control {

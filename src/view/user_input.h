@@ -12,6 +12,8 @@
 #pragma once
 
 #include "view/controls.h"
+#include "view/grid.h"
+#include "view/list_boxes.h"
 #include "view/window.h"
 
 #include <string>

@@ -6,6 +6,11 @@ namespace veldrin {
 
 namespace {
 
+// The frame that the program counts with, in twips.
+constexpr float kFrameWidth = 120;
+constexpr float kFrameHeight = 405;
+constexpr float kMenuHeight = 285;
+
 void StateChanged(Control& control) {
   control.window.Resize();
 }
@@ -96,12 +101,13 @@ void Window::Centre(float width, float height) {
   Left = (screen.Width() - width) / 2;
 }
 
-float Window::InnerWidth() const {
-  return Width - desk.machine.windows.FrameWidth(*this);
+float Window::FrameWidth() const {
+  return hasFrame ? kFrameWidth : 0;
 }
 
-float Window::InnerHeight() const {
-  return Height - desk.machine.windows.FrameHeight(*this);
+float Window::FrameHeight() const {
+  if (!hasFrame) return 0;
+  return hasMenu ? kFrameHeight + kMenuHeight : kFrameHeight;
 }
 
 void Window::ComeToFront() {

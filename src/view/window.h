@@ -82,8 +82,12 @@ struct Window : PlacedControl {
   /// Puts the window in the middle of the screen, by its own size or by another outer one in twips.
   void Centre();
   void Centre(float width, float height);
-  float InnerWidth() const;
-  float InnerHeight() const;
+  /// How much smaller the window is inside than outside, in twips: what a frame and a menu bar of the
+  /// program's own time take, whatever the desktop's are.
+  float FrameWidth() const;
+  float FrameHeight() const;
+  float InnerWidth() const { return Width - FrameWidth(); }
+  float InnerHeight() const { return Height - FrameHeight(); }
 
   /// Becomes the active window, the others' Deactivate first.
   void ComeToFront();

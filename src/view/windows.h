@@ -7,8 +7,7 @@ struct Window;
 struct Control;
 class Event;
 
-/// The front end of the windows. It finds what to show by
-/// walking a window's controls.
+/// The front end of the windows. It finds what to show by walking a window's controls.
 struct Windows {
   virtual ~Windows() = default;
 
@@ -34,9 +33,6 @@ struct Windows {
   virtual void SetEllipticRegion(Window& window, int left, int top, int right, int bottom) = 0;
   /// The window follows the pointer as if its title bar were held.
   virtual void StartDrag(Window& window) = 0;
-  /// How much smaller a window is inside than outside, in twips.
-  virtual float FrameWidth(const Window& window) const = 0;
-  virtual float FrameHeight(const Window& window) const = 0;
 };
 
 }  // namespace veldrin

@@ -45,12 +45,4 @@ void ScriptWindows::SetEllipticRegion(Window& window, int left, int top, int rig
 
 void ScriptWindows::StartDrag(Window& /*window*/) {}
 
-float ScriptWindows::FrameWidth(const Window& window) const {
-  return told_->FrameWidth(window);
-}
-
-float ScriptWindows::FrameHeight(const Window& window) const {
-  return told_->FrameHeight(window);
-}
-
 }  // namespace veldrin

@@ -22,8 +22,6 @@ class ScriptWindows : public Windows {
   void Flash(Window& window) override;
   void SetEllipticRegion(Window& window, int left, int top, int right, int bottom) override;
   void StartDrag(Window& window) override;
-  float FrameWidth(const Window& window) const override;
-  float FrameHeight(const Window& window) const override;
 
  private:
   SimulatedWindows* told_;

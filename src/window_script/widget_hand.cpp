@@ -8,7 +8,6 @@
 #include "desktop/controls/spin_widget.h"
 #include "desktop/controls/text_box_widget.h"
 #include "desktop/input/keys.h"
-#include "dialogs/dropped_file.h"
 #include "machine/output/real_pictures.h"
 #include "machine/painting/text_ends.h"
 #include "runtime/text.h"
@@ -16,12 +15,9 @@
 #include "window_script/shown_check.h"
 
 #include <QApplication>
-#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPlainTextEdit>
-#include <QUrl>
 
 #include <utility>
 
@@ -105,14 +101,6 @@ ControlView* WidgetHand::ViewOf(const Control& control) const {
   FormWidget* const form = windows_.FormOf(control.window);
   if (form == nullptr) return nullptr;
   return &control == &control.window ? &form->Client() : form->ViewOf(control);
-}
-
-template <class Call>
-bool WidgetHand::Through(Call&& call) {
-  stage_.input.Forget();
-  call();
-  stage_.input.RethrowCaught();
-  return stage_.input.LastDone();
 }
 
 bool WidgetHand::ClickAt(QWidget& widget, const QPoint& point, int button, bool twice) {
@@ -258,50 +246,6 @@ bool WidgetHand::ScrollTo(Program& program, ScrollBar& bar, int value) {
                      value <= widget->maximum() && value != widget->value();
   if (!moves) return ScriptHand::ScrollTo(program, bar, value);
   return Through([&] { widget->setValue(value); });
-}
-
-bool WidgetHand::Resize(Program& program, Window& window, float width, float height) {
-  FormWidget* const form = windows_.FormOf(window);
-  const double inner = static_cast<double>(width - windows_.FrameWidth(window));
-  const double innerHeight = static_cast<double>(height - windows_.FrameHeight(window));
-  const QSize pixels(qRound(stage_.zoom.Pixels(inner)), qRound(stage_.zoom.Pixels(innerHeight)));
-  const bool whole =
-      stage_.zoom.Twips(pixels.width()) == inner && stage_.zoom.Twips(pixels.height()) == innerHeight;
-  const bool serves = form != nullptr && form->isVisible() && form->UserCanResize() && whole;
-  const QSize frame = serves ? form->FrameFor(pixels) : QSize();
-  // Sizes between pixels, one that is there already, and less than the least no pointer can draw.
-  if (!serves || frame == form->size() || frame != frame.expandedTo(form->minimumSize()) ||
-      !user::Reachable(window)) {
-    return ScriptHand::Resize(program, window, width, height);
-  }
-  return Through([&] { form->resize(frame); });
-}
-
-bool WidgetHand::Close(Program& program, Window& window, CloseReason reason) {
-  FormWidget* const form = windows_.FormOf(window);
-  if (form == nullptr || !form->isVisible() || reason != CloseReason::User) {
-    return ScriptHand::Close(program, window, reason);
-  }
-  return Through([&] { form->close(); });
-}
-
-/// The drag brings a file of the real machine; which one of the simulated machine it stands for, the hand
-/// knows.
-bool WidgetHand::Drop(Program& program, Window& window, const std::string& path) {
-  FormWidget* const form = windows_.FormOf(window);
-  if (form == nullptr || !form->isVisible()) return ScriptHand::Drop(program, window, path);
-  stage_.fileDropped = [&](const std::string&) {
-    stage_.input.Do([&] { return OpenDroppedFile(program, path); });
-  };
-  QMimeData data;
-  data.setUrls({QUrl::fromLocalFile("/dropped")});
-  return Through([&] {
-    QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(form, &enter);
-    QDropEvent drop(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(form, &drop);
-    QCoreApplication::processEvents();
-  });
 }
 
 bool WidgetHand::Screenshot(Program& /*program*/, Window& window, const std::string& file) {

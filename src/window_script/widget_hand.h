@@ -5,6 +5,9 @@
 // moving the focus, the state and the activity of windows, and clicks on lists and scroll bars where nothing
 // is to be picked. Whatever was done, the widgets are compared with the slots afterwards.
 //
+//   widget_hand.cpp           gestures on controls, and holding the widgets against the slots
+//   widget_hand_windows.cpp   what is done to a window as a whole
+//
 // An event of the program may throw, at its end or at the script's; Qt is behind it by then, and the hand
 // throws it on.
 #pragma once
@@ -56,7 +59,12 @@ class WidgetHand : public ScriptHand {
   ControlView* ViewOf(const Control& control) const;
   /// Whatever a call of Qt does, and whether the program could do what the user wanted by it.
   template <class Call>
-  bool Through(Call&& call);
+  bool Through(Call&& call) {
+    stage_.input.Forget();
+    call();
+    stage_.input.RethrowCaught();
+    return stage_.input.LastDone();
+  }
   bool ClickAt(QWidget& widget, const QPoint& point, int button, bool twice = false);
   /// The widget that takes the text; null where the control is out of reach or a line has no room for it.
   QWidget* BoxFor(const Control& control, const std::string& text) const;

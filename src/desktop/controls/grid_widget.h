@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/controls/control_widget.h"
+#include "view/grid.h"
 
 #include <QTableWidget>
 

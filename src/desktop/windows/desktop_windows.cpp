@@ -15,11 +15,6 @@ namespace {
 constexpr int kRepaintGap = 33;  // ms
 constexpr int kFlashTime = 300;  // ms
 
-// The frame that the program counts with, in twips.
-constexpr float kFrameWidth = 120;
-constexpr float kFrameHeight = 405;
-constexpr float kMenuHeight = 285;
-
 }  // namespace
 
 DesktopWindows::DesktopWindows(Stage& stage) : stage_(&stage) {
@@ -139,15 +134,6 @@ void DesktopWindows::SetEllipticRegion(Window& window, int left, int top, int ri
 void DesktopWindows::StartDrag(Window& window) {
   FormWidget* const form = FormOf(window);
   if (form != nullptr && form->windowHandle() != nullptr) form->windowHandle()->startSystemMove();
-}
-
-float DesktopWindows::FrameWidth(const Window& window) const {
-  return window.hasFrame ? kFrameWidth : 0;
-}
-
-float DesktopWindows::FrameHeight(const Window& window) const {
-  if (!window.hasFrame) return 0;
-  return window.hasMenu ? kFrameHeight + kMenuHeight : kFrameHeight;
 }
 
 }  // namespace veldrin

@@ -44,8 +44,6 @@ class DesktopWindows : public Windows {
   void Flash(Window& window) override;
   void SetEllipticRegion(Window& window, int left, int top, int right, int bottom) override;
   void StartDrag(Window& window) override;
-  float FrameWidth(const Window& window) const override;
-  float FrameHeight(const Window& window) const override;
 
  private:
   struct ModalLoop {

@@ -7,11 +7,13 @@
 // maximised window has no room for: the inside is never smaller there than before. A window that the user
 // draws smaller than it is described tells the program so, and scrolls what it has no room for.
 //
-//   form_widget.cpp         the controls inside, the focus, showing and hiding, also in front of others
-//   form_widget_frame.cpp   zoom, place and state, by the program and by the desktop
-//   form_widget_size.cpp    size, and what scrolls
-//   form_widget_input.cpp   what the user does with the window as a whole: keys, the wheel, closing, coming
-//                           back to it, dropping files on it
+//   form_widget.cpp            what the program tells of it, the focus, showing and hiding, also in front of
+//   others form_widget_controls.cpp   the widgets of the controls inside, as these come and go
+//   form_widget_frame.cpp      zoom, place and state, by the program and by the desktop
+//   form_widget_size.cpp       size, and what scrolls
+//   form_widget_input.cpp      what the user does with the window as a whole: keys, the wheel, closing,
+//   coming
+//                              back to it, dropping files on it
 //
 // The rules for sizes and states stand in frame_rules.h, in numbers.
 #pragma once

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "view/forms/chart_axes.h"
+#include "view/grid.h"
 
 namespace veldrin {
 

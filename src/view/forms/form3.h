@@ -2,6 +2,7 @@
 // is to do, is written by whoever opens it.
 #pragma once
 
+#include "view/list_boxes.h"
 #include "view/window.h"
 
 namespace veldrin {

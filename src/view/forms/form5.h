@@ -3,6 +3,7 @@
 #pragma once
 
 #include "view/forms/chart_axes.h"
+#include "view/list_boxes.h"
 
 namespace veldrin {
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "view/control_array.h"
+#include "view/list_boxes.h"
 
 namespace veldrin {
 
