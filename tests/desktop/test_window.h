@@ -6,6 +6,8 @@
 #include "tests/simulated/machine_with.h"
 #include "view/bind.h"
 #include "view/control_array.h"
+#include "view/grid.h"
+#include "view/list_boxes.h"
 #include "window_script/script_windows.h"
 #include "workspace/program.h"
 

@@ -3,6 +3,7 @@
 #include "simulated/printed_values.h"
 #include "simulated/simulated_machine.h"
 #include "view/control_array.h"
+#include "view/grid.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,8 @@
-// What each kind of control consists of, and what a write to it fires. Lists of drives, folders and files
-// have tests of their own.
+// What each kind of control consists of, and what a write to it fires. Grids and lists have tests of their
+// own.
 #include "tests/view/told_desk.h"
+#include "view/grid.h"
+#include "view/list_boxes.h"
 
 #include <string>
 #include <vector>
@@ -236,157 +238,6 @@ TEST_F(Controls, AScrollBarFiresChangeForANewValue) {
   EXPECT_EQ(Told(), "write Form.H.Value 12900\n");
 }
 
-TEST_F(Controls, AComboTakesThePickedTextWithoutChange) {
-  ComboBox combo("C", form, {}, {.caption = "YES"}, {"YES", "NO"});
-  EXPECT_TRUE(combo.editable);
-  EXPECT_FALSE(ComboBox("D", form, {}, {}, {}, false).editable);
-  EXPECT_EQ(combo.ListIndex.get(), -1);
-  combo.Click.Bind([&](int) { EXPECT_EQ(combo.Text, "NO"); });
-  combo.ListIndex = 1;
-  EXPECT_EQ(combo.Text, "NO");
-  EXPECT_EQ(combo.ListIndex.get(), 1);
-  const std::string told = Told();
-  EXPECT_EQ(told.find("Change"), std::string::npos);
-  EXPECT_NE(told.find("event Form.C.Click\n"), std::string::npos);
-  combo.ListIndex = 1;
-  EXPECT_EQ(Told(), "write Form.C.ListIndex 1\n");
-  combo.ListIndex = -1;
-  EXPECT_EQ(Told(), "write Form.C.ListIndex -1\n") << "and nothing is picked";
-  EXPECT_EQ(combo.Text, "NO");
-}
-
-TEST_F(Controls, ATextWrittenIntoAComboIsNoPick) {
-  ComboBox combo("C", form, {}, {}, {"YES", "NO"});
-  combo.ListIndex = 1;
-  int place = 7;
-  combo.Change.Bind([&](int) { place = combo.ListIndex.get(); });
-  Forget();
-  combo.Text = "NO";
-  EXPECT_EQ(combo.ListIndex.get(), 1);
-  EXPECT_EQ(Told(), "write Form.C.Text \"NO\"\n");
-  combo.Text = "maybe";
-  EXPECT_EQ(combo.ListIndex.get(), -1);
-  EXPECT_EQ(place, -1) << "before Change";
-}
-
-TEST_F(Controls, AComboTakesNoPlaceOutsideItsList) {
-  ComboBox combo("C", form, {}, {}, {"YES", "NO"});
-  combo.ListIndex = 1;
-  EXPECT_EQ(FaultOf([&] { combo.ListIndex = 2; }), kFaultBadProperty);
-  EXPECT_EQ(FaultOf([&] { combo.ListIndex = -2; }), kFaultBadProperty);
-  EXPECT_EQ(combo.ListIndex.get(), 1);
-  combo.AddItem("MAYBE");
-  EXPECT_EQ(FaultOf([&] { combo.ListIndex = 2; }), 0);
-  EXPECT_EQ(combo.Text, "MAYBE");
-}
-
-TEST_F(Controls, TheFirstEntryOfAComboCanBePicked) {
-  ComboBox combo("C", form, {}, {}, {"YES", "NO"});
-  combo.ListIndex = 0;
-  EXPECT_EQ(combo.Text, "YES");
-  EXPECT_TRUE(Told().ends_with("event Form.C.Click\n"));
-}
-
-TEST_F(Controls, AComboTellsWhenItsListChanges) {
-  windows.tellsContent = true;
-  ComboBox combo("C", form, {}, {}, {"YES"});
-  std::size_t shown = 0;
-  windows.lookAtContent = [&](Control&) { shown = combo.entries.size(); };
-  combo.ListIndex = 0;
-  Forget();
-  combo.AddItem("NO");
-  EXPECT_EQ(Told(), "content Form.C\n");
-  EXPECT_EQ(shown, 2U) << "who is told finds the new list";
-  EXPECT_EQ(combo.entries, (std::vector<std::string>{"YES", "NO"}));
-  combo.Clear();
-  EXPECT_EQ(shown, 0U);
-  EXPECT_EQ(Told(), "write Form.C.ListIndex -1\ncontent Form.C\n");
-  EXPECT_TRUE(combo.entries.empty());
-}
-
-TEST_F(Controls, AGridHasACellForEachRowAndColumn) {
-  Grid grid("G", form, {});
-  EXPECT_EQ(grid.Rows.get(), 1);
-  EXPECT_EQ(grid.Cols.get(), 1);
-  EXPECT_EQ(grid.Cell(0, 0), "");
-  EXPECT_EQ(grid.ColWidth(0), 1000);
-  EXPECT_EQ(grid.row, 0);
-  EXPECT_EQ(grid.column, 0);
-  grid.Rows = 3;
-  grid.Cols = 2;
-  grid.SetCell(2, 1, "last");
-  grid.SetCell(0, 0, "first");
-  EXPECT_EQ(grid.Cell(2, 1), "last");
-  EXPECT_EQ(grid.Cell(2, 0), "");
-  grid.Rows = 4;
-  EXPECT_EQ(grid.Cell(2, 1), "last") << "what is there stays";
-  EXPECT_EQ(grid.Cell(3, 1), "");
-  grid.Rows = 1;
-  EXPECT_EQ(grid.Cell(0, 0), "first");
-  EXPECT_EQ(FaultOf([&] { grid.Cell(1, 0); }), kFaultSubscript);
-  for (Slot<int>* const count : {&grid.Rows, &grid.Cols}) {
-    grid.SetCell(0, 0, "first");
-    *count = 0;
-    *count = 1;
-    EXPECT_EQ(grid.Cell(0, 0), "") << "what was taken away does not come back";
-  }
-  grid.Rows = -1;
-  grid.Cols = -1;
-  EXPECT_EQ(FaultOf([&] { grid.Cell(0, 0); }), kFaultSubscript);
-  EXPECT_EQ(FaultOf([&] { grid.ColWidth(0); }), kFaultSubscript);
-}
-
-TEST_F(Controls, AGridHasNothingOutside) {
-  Grid grid("G", form, {});
-  grid.Rows = 2;
-  grid.Cols = 3;
-  EXPECT_EQ(FaultOf([&] { grid.Cell(1, 2); }), 0);
-  for (const auto& [row, column] : {std::pair{-1, 0}, {2, 0}, {0, -1}, {0, 3}}) {
-    EXPECT_EQ(FaultOf([&, r = row, c = column] { grid.Cell(r, c); }), kFaultSubscript)
-        << row << "," << column;
-    EXPECT_EQ(FaultOf([&, r = row, c = column] { grid.SetCell(r, c, "x"); }), kFaultSubscript);
-  }
-  for (const int column : {-1, 3}) {
-    EXPECT_EQ(FaultOf([&] { grid.ColWidth(column); }), kFaultSubscript) << column;
-    EXPECT_EQ(FaultOf([&] { grid.SetColWidth(column, 1); }), kFaultSubscript) << column;
-  }
-  EXPECT_EQ(FaultOf([&] { grid.SetColWidth(2, 450); }), 0);
-  EXPECT_EQ(grid.ColWidth(2), 450);
-  EXPECT_EQ(grid.ColWidth(1), 1000);
-}
-
-/// Keeps whether the last write of a cell or column changed something.
-struct ChangedWindows : TellingWindows {
-  using TellingWindows::TellingWindows;
-  bool changed = false;
-  void SlotWritten(Control& control, const char* slot, bool hasChanged) override {
-    changed = hasChanged;
-    TellingWindows::SlotWritten(control, slot, hasChanged);
-  }
-};
-
-TEST_F(Controls, AGridTellsItsCellsAndColumns) {
-  ChangedWindows watching(simulated);
-  Machine other = MachineWith(simulated, watching);
-  Desk itsDesk{other};
-  Form itsForm(itsDesk);
-  Grid grid("G", itsForm, {});
-  grid.Cols = 2;
-  watching.lines.str("");
-  watching.tellsContent = true;
-  grid.SetCell(0, 1, "12-30");
-  EXPECT_EQ(watching.lines.str(), "write Form.G.Cell(0,1) \"12-30\"\ncontent Form.G\n");
-  EXPECT_TRUE(watching.changed);
-  grid.SetCell(0, 1, "12-30");
-  EXPECT_FALSE(watching.changed);
-  watching.lines.str("");
-  grid.SetColWidth(1, 450);
-  EXPECT_EQ(watching.lines.str(), "write Form.G.ColWidth(1) 450\ncontent Form.G\n");
-  EXPECT_TRUE(watching.changed);
-  grid.SetColWidth(1, 450);
-  EXPECT_FALSE(watching.changed);
-}
-
 TEST_F(Controls, APictureIsASurfaceOfItsOwnSizeAndFont) {
   Picture picture("P", form, {0, 0, 600, 400}, {.fontSize = 11, .fontBold = true});
   EXPECT_EQ(picture.Image.get(), 0);
@@ -402,19 +253,6 @@ TEST_F(Controls, APictureIsASurfaceOfItsOwnSizeAndFont) {
   Forget();
   picture.surface.Line(0, 0, 1, 1, kRed);
   EXPECT_EQ(Told(), "content Form.P\n");
-}
-
-TEST_F(Controls, OnlyListsHaveEntries) {
-  const ComboBox combo("C", form, {}, {}, {"YES", "NO"});
-  const DriveBox drives("D", form, {});
-  const FolderBox folders("Dir1", form, {});
-  const FileBox files("File1", form, {});
-  const TextBox box("T", form, {});
-  EXPECT_EQ(EntriesOf(combo), &combo.entries);
-  EXPECT_EQ(EntriesOf(drives), &drives.entries);
-  EXPECT_EQ(EntriesOf(folders), &folders.entries);
-  EXPECT_EQ(EntriesOf(files), &files.entries);
-  EXPECT_EQ(EntriesOf(box), nullptr);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The boxes that list drives, folders and files of the machine: A: (not ready), C: and D: (empty), and on C:
 // the program's folder with LIST and DAT.
 #include "tests/view/told_desk.h"
+#include "view/list_boxes.h"
 
 #include <string>
 #include <vector>

@@ -1,5 +1,7 @@
 // Which control has a window's focus, and where it goes when that can keep it no longer.
 #include "tests/view/told_desk.h"
+#include "view/grid.h"
+#include "view/list_boxes.h"
 
 #include <utility>
 #include <vector>
