@@ -1,77 +1,13 @@
-// The searches' rules one by one, on machines whose speeds can be worked out in the head.
+// The rules of the automatic search one by one, on machines whose speeds can be worked out in the head.
 #include "calc/plan_search.h"
 
-#include "tests/calc/search_tables.h"
+#include "tests/calc/plain_machine.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace veldrin {
 namespace {
-
-using Plans = std::vector<std::string>;
-
-void Silent(int /*finalRow*/) {}
-
-/// A machine whose gears all run at 100 km/h with their one row, and are asked to.
-Workspace OneRowAt100() {
-  Workspace workspace = HundredKmhMachine();
-  workspace.GearRows = 1;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    ClearPairs(workspace, gear);
-    SetPair(workspace, gear, 1, "A", 1, 1);
-    workspace.SpeedRequest[gear] = 100;
-  }
-  return workspace;
-}
-
-/// Gives a gear rows of these speeds in km/h.
-void SetSpeeds(Workspace& workspace, int gear, const std::vector<int>& speeds) {
-  ClearPairs(workspace, gear);
-  int row = 1;
-  for (const int speed : speeds) {
-    SetPair(workspace, gear, row, std::to_string(row), speed, 100);
-    workspace.GearRows = std::max<std::int16_t>(workspace.GearRows, static_cast<std::int16_t>(row));
-    ++row;
-  }
-}
-
-/// Gives the machine final rows at which the gears of OneRowAt100 run at these speeds in km/h.
-void SetFinals(Workspace& workspace, const std::vector<int>& speeds) {
-  workspace.FinalDriveCount = 1;
-  workspace.FinalDrivenCount = static_cast<std::int16_t>(speeds.size());
-  int row = 0;
-  for (const int speed : speeds) SetRatio(workspace.FinalTable[++row], speed, 100);
-}
-
-void Request(Workspace& workspace, int speed) {
-  for (int gear = 1; gear <= kGears; ++gear) workspace.SpeedRequest[gear] = static_cast<float>(speed);
-}
-
-Table<bool, 1, kGears> Manual(const std::vector<int>& gears) {
-  Table<bool, 1, kGears> manual;
-  for (const int gear : gears) manual[gear] = true;
-  return manual;
-}
-
-/// The plans up to PlanCount.
-Plans Found(const Workspace& workspace) {
-  Plans plans;
-  for (int k = 1; k <= workspace.PlanCount; ++k) plans.push_back(workspace.PlanList[k]);
-  return plans;
-}
-
-/// How many passes a search makes, told by its sign of life at final row 1 of primary row 1.
-struct PassCounter {
-  int passes = 0;
-  Blink Count() {
-    return [this](int finalRow) { passes += finalRow == 1; };
-  }
-};
 
 TEST(SearchAuto, EndsAtTheFirstPassThatGivesEnoughPlansInWalkingOrder) {
   Workspace workspace = OneRowAt100();
@@ -276,106 +212,6 @@ TEST(SearchAuto, MachineWithoutGearRowsFindsNothing) {
     workspace.GearRows = static_cast<std::int16_t>(rows);
     EXPECT_FALSE(SearchAuto(workspace, 0, Silent)) << rows;
   }
-}
-
-TEST(SearchMixed, TakesErrorsOfExactlyTheBounds) {
-  Workspace workspace = OneRowAt100();
-  workspace.ToleranceMinus[1] = 2;
-  workspace.TolerancePlus[1] = 3;
-  for (const int speed : {98, 99, 100, 101, 102, 103}) {
-    SetSpeeds(workspace, 1, {speed});
-    PassCounter counter;
-    EXPECT_TRUE(SearchMixed(workspace, Manual({1}), counter.Count())) << speed;
-    EXPECT_EQ(counter.passes, 1) << speed;
-  }
-}
-
-TEST(SearchMixed, ManualGearNeverLeavesItsBounds) {
-  Workspace workspace = OneRowAt100();
-  workspace.ToleranceMinus[1] = 2;
-  workspace.TolerancePlus[1] = 3;
-  for (const int speed : {97, 104}) {
-    SetSpeeds(workspace, 1, {speed});
-    PassCounter counter;
-    EXPECT_FALSE(SearchMixed(workspace, Manual({1}), counter.Count())) << speed;
-    EXPECT_EQ(counter.passes, 21) << speed;
-    EXPECT_EQ(workspace.ResultWord, "OVER");
-    workspace.ResultWord = "";
-  }
-}
-
-TEST(SearchMixed, LowerBoundSinksByOneInEveryPassDownTo21) {
-  Workspace workspace = OneRowAt100();
-  for (const int below : {1, 2, 3, 10, 20, 21}) {
-    SetSpeeds(workspace, 2, {100 - below});
-    PassCounter counter;
-    EXPECT_TRUE(SearchMixed(workspace, Manual({1}), counter.Count())) << below;
-    EXPECT_EQ(counter.passes, below);
-  }
-  SetSpeeds(workspace, 2, {78});
-  EXPECT_FALSE(SearchMixed(workspace, Manual({1}), Silent));
-}
-
-TEST(SearchMixed, UpperBoundGrowsOnceAndStays) {
-  Workspace workspace = OneRowAt100();
-  SetSpeeds(workspace, 2, {101});
-  PassCounter first;
-  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), first.Count()));
-  EXPECT_EQ(first.passes, 1);
-  SetSpeeds(workspace, 2, {102});
-  PassCounter second;
-  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), second.Count()));
-  EXPECT_EQ(second.passes, 2);
-  SetSpeeds(workspace, 2, {103});
-  EXPECT_FALSE(SearchMixed(workspace, Manual({1}), Silent));
-}
-
-TEST(SearchMixed, AutoGearsUseTheirStoredTolerancesToo) {
-  Workspace workspace = OneRowAt100();
-  workspace.ToleranceMinus[2] = 7;
-  workspace.TolerancePlus[3] = 4;
-  SetSpeeds(workspace, 2, {93});
-  SetSpeeds(workspace, 3, {104});
-  PassCounter counter;
-  EXPECT_TRUE(SearchMixed(workspace, Manual({6}), counter.Count()));
-  EXPECT_EQ(counter.passes, 1);
-}
-
-TEST(SearchMixed, TakesTheFirstPassWithPlansWhateverMinPlanIs) {
-  Workspace workspace = OneRowAt100();
-  SetFinals(workspace, {98, 100, 101, 99});
-  workspace.MinPlan = 30;
-  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), Silent));
-  EXPECT_EQ(Found(workspace), (Plans{"1,2,1,1,1,1,1,1", "1,3,1,1,1,1,1,1", "1,4,1,1,1,1,1,1"}));
-}
-
-TEST(SearchMixed, ChoosesRowsByTheirAbsoluteErrors) {
-  Workspace workspace = OneRowAt100();
-  workspace.ToleranceMinus[1] = 5;
-  workspace.TolerancePlus[1] = 5;
-  SetSpeeds(workspace, 1, {95, 103, 97, 102});
-  // Errors 5, 3, 3, 2: the tie keeps row 2, row 4 is nearer than row 3.
-  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), Silent));
-  EXPECT_EQ(Found(workspace), Plans{"1,1,4,1,1,1,1,1"});
-  SetSpeeds(workspace, 1, {95, 103, 97});
-  EXPECT_TRUE(SearchMixed(workspace, Manual({1}), Silent));
-  EXPECT_EQ(Found(workspace), Plans{"1,1,2,1,1,1,1,1"});
-}
-
-TEST(SearchMixed, ForbiddenPairDropsTheCombination) {
-  Workspace workspace = OneRowAt100();
-  SetSpeeds(workspace, 3, {100, 101});
-  workspace.M34Matrix(1, 1) = 99;
-  EXPECT_FALSE(SearchMixed(workspace, Manual({1}), Silent));
-}
-
-TEST(SearchMixed, The31stPlanIsFault9) {
-  Workspace workspace = OneRowAt100();
-  workspace.PrimaryCount = 2;
-  SetRatio(workspace.PrimaryTable[2], 1, 3);
-  SetFinals(workspace, std::vector<int>(16, 100));
-  EXPECT_EQ(Guarded([&] { SearchMixed(workspace, Manual({1}), Silent); }), kFaultSubscript);
-  EXPECT_EQ(workspace.PlanCount, 31);
 }
 
 TEST(Blink, ComesForEveryCombinationOfEveryPassByItsFinalRow) {

@@ -1,135 +1,13 @@
+// The outputs of the report: printer, clipboard, picture files.
 #include "mainwin/report.h"
 
-#include "mainwin/report_page.h"
-#include "simulated/simulated_machine.h"
-#include "tests/simulated/machine_with.h"
+#include "tests/mainwin/kept_report.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <string>
 #include <vector>
 
 namespace veldrin {
 namespace {
-
-/// Every character is as wide as the test says, in twips, whatever its font.
-struct EvenMetrics : TextMetrics {
-  double width = 100;
-  TextSize Measure(const Font&, const std::string& text) const override {
-    return {width * static_cast<double>(text.size()), 240};
-  }
-};
-
-/// Keeps what was handed over, surface and all.
-struct KeptPictures : Pictures {
-  explicit KeptPictures(const TextMetrics& metrics) : surface(metrics) {}
-
-  std::vector<std::string> calls;
-  Surface surface;
-  int width = 0;
-  int height = 0;
-
-  void ClearClipboard() override { calls.push_back("clear"); }
-  void PutOnClipboard(const Surface& picture, int w, int h) override { Keep("put", picture, w, h); }
-  void SaveBitmap(const std::string& path, const Surface& picture, int w, int h) override {
-    Keep("save " + path, picture, w, h);
-  }
-
- private:
-  void Keep(const std::string& call, const Surface& picture, int w, int h) {
-    calls.push_back(call);
-    surface.CopyDrawing(picture);
-    width = w;
-    height = h;
-  }
-};
-
-/// A printer of which one call fails.
-struct FailingPrinter : Printer {
-  explicit FailingPrinter(const TextMetrics& metrics) : page(metrics) {}
-
-  std::string failing;
-  std::vector<std::string> calls;
-  Surface page;
-
-  bool Available() const override { return true; }
-  std::vector<std::string> Fonts() const override { return {}; }
-  int copies = 0;
-  void SetCopies(int number) override {
-    Call("copies");
-    copies = number;
-  }
-  Surface& Page() override {
-    Call("page");
-    return page;
-  }
-  void EndDocument() override { Call("end"); }
-
- private:
-  void Call(const std::string& call) {
-    calls.push_back(call);
-    if (call == failing) Raise(kFaultBadCall);
-  }
-};
-
-/// A program that is not started, with a plan of round numbers.
-struct Report : testing::Test {
-  SimulatedMachine simulated;
-  EvenMetrics metrics;
-  KeptPictures pictures{metrics};
-  FailingPrinter printer{metrics};
-  Machine machine = MachineWith(simulated, metrics, printer, pictures);
-  Program program{machine};
-  Workspace& workspace = program.workspace;
-
-  Report() {
-    workspace.ModeWord = mode::kChange;
-    workspace.MachineKey = "nx4";
-    workspace.DataPath = "C:\\VELDRIN\\DAT";
-    workspace.PrintFont = "Arial";
-    workspace.MaxNe = 15000;
-    workspace.MaxSpeed = 300;
-    workspace.ShiftNe = 12000;
-    workspace.PrimaryIndex = 1;
-    workspace.FinalIndex = 1;
-    for (int gear = 1; gear <= kGears; ++gear) {
-      workspace.PlanIndex[gear] = 1;
-      workspace.SpeedNow[gear] = static_cast<float>(gear * 40);
-    }
-  }
-  ~Report() override { simulated.windows.Forget(); }
-
-  const TextPrimitive* FindText(const Surface& surface, const std::string& text) const {
-    for (const Primitive& primitive : surface.Drawing()) {
-      const auto* found = std::get_if<TextPrimitive>(&primitive.shape);
-      if (found != nullptr && found->text == text) return found;
-    }
-    ADD_FAILURE() << text << " is not drawn";
-    return nullptr;
-  }
-
-  /// Size of a text of the picture in points; 0 when it is not there.
-  float SizeOf(const std::string& text) const {
-    const TextPrimitive* found = FindText(pictures.surface, text);
-    return found == nullptr ? 0 : found->font.size;
-  }
-
-  /// The places of the remark's characters on the printed page.
-  std::vector<std::pair<double, double>> RemarkPlaces(const std::string& remark) {
-    program.form2.Text6.Text = remark;
-    printer.page = Surface(metrics);
-    PrintReport(program);
-    std::vector<std::pair<double, double>> places;
-    for (const Primitive& primitive : printer.page.Drawing()) {
-      const auto* text = std::get_if<TextPrimitive>(&primitive.shape);
-      if (text != nullptr && text->text == "x") places.emplace_back(text->x, text->y);
-    }
-    return places;
-  }
-};
-
-using Places = std::vector<std::pair<double, double>>;
 
 TEST_F(Report, ClaimsEachOfItsEventsOnce) {
   AttachReport(program);
@@ -167,18 +45,6 @@ TEST_F(Report, EverySizeHasItsSurfacePictureAndTexts) {
     EXPECT_EQ(SizeOf("PLAN"), c.textSize) << size;
     EXPECT_EQ(SizeOf(" 300 "), c.textSize - 1) << size;
     EXPECT_EQ(SizeOf(" 15000 "), c.textSize - 1) << size;
-  }
-}
-
-TEST_F(Report, SizesOfMainCellsFollowTheSizeOfThePicture) {
-  program.form2.Picture9.Visible = true;
-  for (int gear = 1; gear <= kGears; ++gear) program.form2.Label32[gear].Caption = "part of 10";
-  // (size + 4) * 12 over 10, in whole points.
-  const float expected[] = {4, 6, 7, 8, 9, 10};
-  for (int size = 0; size < 6; ++size) {
-    RenderPicture(program, size, PictureOutput::Clipboard);
-    EXPECT_EQ(SizeOf("part of 10"), expected[size]) << size;
-    EXPECT_EQ(SizeOf("COUNT"), size + 7) << size;
   }
 }
 
@@ -233,31 +99,6 @@ TEST_F(Report, MenuEntriesChooseOutputAndSize) {
   EXPECT_EQ(printer.calls.back(), "end");
 }
 
-TEST_F(Report, RemarkWrapsBehindTheCharacterThatEndsAt11201) {
-  metrics.width = 6340;
-  EXPECT_EQ(RemarkPlaces("xxx"), (Places{{4860, 4700}, {11200, 4700}, {4860, 4950}}));
-  metrics.width = 6341;
-  EXPECT_EQ(RemarkPlaces("xx"), (Places{{4860, 4700}, {4860, 4950}}));
-}
-
-TEST_F(Report, RemarkRoundsItsPlacesHalfToEven) {
-  metrics.width = 1.5;
-  // 4861.5 goes up to 4862, 4863.5 to 4864.
-  EXPECT_EQ(RemarkPlaces("xxx"), (Places{{4860, 4700}, {4862, 4700}, {4864, 4700}}));
-  metrics.width = 0.5;
-  // 4860.5 goes down.
-  EXPECT_EQ(RemarkPlaces("xx"), (Places{{4860, 4700}, {4860, 4700}}));
-  // 11200.5 goes down as well and stays below the end.
-  metrics.width = 6340.5;
-  EXPECT_EQ(RemarkPlaces("xx"), (Places{{4860, 4700}, {11200, 4700}}));
-}
-
-TEST_F(Report, RemarkOfManyLinesKeepsCounting) {
-  std::string remark;
-  for (int line = 1; line <= 40000; ++line) remark += "\r\n";
-  EXPECT_EQ(RemarkPlaces(remark + "x"), (Places{{4860, 10004700}}));
-}
-
 TEST_F(Report, PrinterIsAskedStepByStepWhateverFails) {
   for (const char* failing : {"", "copies", "page", "end"}) {
     printer.failing = failing;
@@ -307,31 +148,10 @@ TEST_F(Report, PrinterSkipsWhatFailsAndAPictureDoesNot) {
   }
 }
 
-TEST_F(Report, DrawingLeavesTheWorkspaceAndTheWindowAlone) {
-  workspace.CallerWord = "as it was";
-  workspace.PrintFontBold = true;
-  program.form2.Text6.Text = "wet";
-  RenderPicture(program, 2, PictureOutput::Clipboard);
-  PrintReport(program);
-  EXPECT_EQ(workspace.CallerWord, "as it was");
-  EXPECT_EQ(program.form2.Text6.Text.get(), "wet");
-  EXPECT_EQ(program.form2.Text6.FontBold, false);
-}
-
 TEST_F(Report, PrinterMakesTheCopiesOfItsDialog) {
   simulated.boxes.printAnswers = {{0, 3}};
   PrintReport(program);
   EXPECT_EQ(printer.copies, 3);
-}
-
-TEST_F(Report, RemarkOfAHundredThousandCharactersIsDrawnToTheLast) {
-  const std::string remark(100000, 'x');
-  // 6341 / 100 characters of 100 twips, so 64 a line: 1562 full lines, and 32 characters in the last.
-  const Places places = RemarkPlaces(remark);
-  ASSERT_EQ(places.size(), 100000U);
-  EXPECT_EQ(places[63], (std::pair<double, double>{11160, 4700}));
-  EXPECT_EQ(places[64], (std::pair<double, double>{4860, 4950}));
-  EXPECT_EQ(places[99999], (std::pair<double, double>{4860 + 31 * 100, 4700 + 1562 * 250}));
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // Where random users have been. A run that never came to a mode, a question or a window has not judged it.
 #pragma once
 
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 #include <map>
 #include <string>

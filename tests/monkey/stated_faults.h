@@ -2,7 +2,7 @@
 // must have been the case. Any other fault is a finding.
 #pragma once
 
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 #include <vector>
 

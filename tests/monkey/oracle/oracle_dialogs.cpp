@@ -1,6 +1,6 @@
 // The plan dialog and the compare window show the speeds of the parts, or of the file, that they name.
 #include "tests/monkey/figures.h"
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 #include <cmath>
 #include <sstream>

@@ -1,7 +1,7 @@
 // A saved plan opens again as the same plan, in a program of its own on a machine with the same list.
 #include "runtime/text.h"
 #include "tests/monkey/figures.h"
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 #include <map>
 #include <sstream>

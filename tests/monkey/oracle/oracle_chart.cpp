@@ -1,5 +1,5 @@
 // The chart's drawing belongs to the mode and to the numbers in force.
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 // Shown speeds are those of the parts, revolutions and tyre that are shown with them.
 #include "tests/monkey/figures.h"
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 // The program ends by a fault only where that is stated, tidies up where it ends at its own word, and stores
 // the history that the menu shows.
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 #include "tests/monkey/stated_faults.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // Colours of the gear pairs: red for a forbidden pair of 3rd and 4th gear, yellow for a step that does not
 // rise.
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // The words that steer the flow come to rest: none of them stands longer than what it stands for.
 #include "runtime/text.h"
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 #include <algorithm>
 

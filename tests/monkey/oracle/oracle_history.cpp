@@ -1,6 +1,6 @@
 // The stored history belongs to its machine, and nothing is stored without one.
 #include "runtime/text.h"
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 namespace veldrin::monkey {
 

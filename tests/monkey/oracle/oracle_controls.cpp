@@ -1,6 +1,6 @@
 // No control stays dead, and none answers where it must not: what is enabled belongs to the mode alone as
 // soon as no question stands, no search runs and the chooser is left.
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 #include <map>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "tests/monkey/oracle.h"
+#include "tests/monkey/oracle/oracle.h"
 
 namespace veldrin::monkey {
 
