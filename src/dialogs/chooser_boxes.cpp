@@ -133,20 +133,42 @@ Standing StandingOf(const Program& program) {
           AsksOnPromptLine(program), program.workspace.DataPath};
 }
 
-/// What selecting the typed name did: an existing file runs OK already, by the double click that it fires.
-enum class Selection {
-  Asked,    // OK ended in a question, which is the user's to answer
-  Saved,    // OK was the answer, so that the chooser has gone or stands in another role
-  LeavesOk  // anything else; OK is still to be run
-};
-
-Selection WhatSelectingDid(const Standing& before, const Standing& after) {
+/// OK ended in a question, which is the user's to answer.
+bool HasAsked(const Standing& before, const Standing& after) {
   const bool stoodBefore = before.prompt && before.path == after.path;
-  if (after.question && !stoodBefore) return Selection::Asked;
-  const bool stillSaving = after.shown && after.role == ChooserRole::Save;
-  if (before.role == ChooserRole::Save && !stillSaving) return Selection::Saved;
-  return Selection::LeavesOk;
+  return after.question && !stoodBefore;
 }
+
+/// OK was the answer, so that the chooser has gone or stands in another role.
+bool HasSaved(const Standing& before, const Standing& after) {
+  const bool stillSaving = after.shown && after.role == ChooserRole::Save;
+  return before.role == ChooserRole::Save && !stillSaving;
+}
+
+bool Otherwise(const Standing& /*before*/, const Standing& /*after*/) {
+  return true;
+}
+
+void OfferOk(Program& program) {
+  program.form3.Command1.Enabled = true;
+}
+
+void DoNothing(Program& /*program*/) {}
+
+void RunOk(Program& program) {
+  Guarded([&] { program.form3.Command1.Click(); });
+}
+
+/// What follows on selecting the typed name, which runs OK already where the file exists, by the double click
+/// that it fires. The first row that fits counts.
+constexpr struct {
+  bool (*fits)(const Standing& before, const Standing& after);
+  void (*follow)(Program& program);
+} kAfterSelecting[] = {
+    {HasAsked, OfferOk},
+    {HasSaved, DoNothing},
+    {Otherwise, RunOk},
+};
 
 /// Selects the typed name, if its extension is the machine's, and runs OK where that is left to do.
 void Combo1_Enter(Program& program) {
@@ -164,15 +186,11 @@ void Combo1_Enter(Program& program) {
     TellMissingFile(program, text);
     return;
   }
-  switch (WhatSelectingDid(before, StandingOf(program))) {
-    case Selection::Asked:
-      form3.Command1.Enabled = true;
-      break;
-    case Selection::Saved:
-      break;
-    case Selection::LeavesOk:
-      Guarded([&] { form3.Command1.Click(); });
-      break;
+  const Standing after = StandingOf(program);
+  for (const auto& [fits, follow] : kAfterSelecting) {
+    if (!fits(before, after)) continue;
+    follow(program);
+    return;
   }
 }
 

@@ -109,6 +109,12 @@ typename ControlArray<T>::Maker Elements(const char* name, Control& parent,
   };
 }
 
+/// Elements with subscripts below `from` by the one maker, the others by the other.
+template <class Maker>
+Maker Split(Maker below, int from, Maker others) {
+  return [=](int index) { return index < from ? below(index) : others(index); };
+}
+
 /// One place for all elements.
 inline std::function<Place(int)> At(const Place& place) {
   return [place](int) { return place; };

@@ -21,4 +21,13 @@ void Under(Program& program, const char* word, Action action) {
   StayUnder(program, caller::kUser);
 }
 
+/// Runs `action`, and then puts back the word that stood before, whatever the action left. A fault that
+/// passes leaves the word as it stands.
+template <class Action>
+void KeepingCaller(Program& program, Action action) {
+  const std::string before = program.workspace.CallerWord;
+  action();
+  StayUnder(program, before);
+}
+
 }  // namespace veldrin

@@ -29,7 +29,7 @@ ControlArray<Label>::Maker Form2::Column(const char* name, Control& parent, floa
                                          const Look& row, const std::vector<const char*>& captions) {
   const auto head = Elements<Label>(name, parent, GearColumn(left, width, 255), kHead, captions);
   const auto rows = Elements<Label>(name, parent, GearColumn(left, width, 255), row, captions);
-  return [head, rows](int index) { return index == 0 ? head(index) : rows(index); };
+  return Split(head, 1, rows);
 }
 
 ControlArray<Grid>::Maker Form2::InPanels(const char* name, ControlArray<Picture>& panels, const Place& place,
@@ -50,7 +50,7 @@ ControlArray<Menu>::Maker Form2::PictureSizes(const char* name, Menu& parent) {
                                              " 800 * 600(&8)", "1024 * 768(&1)", "1280 * 960(&2)"};
   const auto hidden = Entries(name, parent, captions, kHiddenAndOff);
   const auto offered = Entries(name, parent, captions);
-  return [hidden, offered](int index) { return index < 2 ? hidden(index) : offered(index); };
+  return Split(hidden, 2, offered);
 }
 
 Form2::Form2(Desk& theDesk)

@@ -15,17 +15,6 @@ Form5::Form5(Desk& theDesk)
   }
 }
 
-ControlArray<Label>::Maker Form5::Speeds() {
-  const auto column = [](const char* name, Control& panel, const char* head, Align align) {
-    const Look look{.fore = kLightGrey, .back = kBlack, .align = align};
-    return Elements<Label>(name, panel, GearColumn(0, 555, 255), look, {head});
-  };
-  return [=, this](int i) {
-    if (i == 0) return column("Label9", Picture2, "GEAR", Align::Left)(0);
-    return column("Label9", Picture14, "SPEED", Align::Right)(i % 7);
-  };
-}
-
 Form5::~Form5() = default;
 
 }  // namespace veldrin

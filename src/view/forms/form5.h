@@ -36,7 +36,9 @@ struct Form5 : Window {
   Picture    Picture2 {"Picture2",  *this,     { 120, 3420,  555, 3195}, {.back = kDarkBlue}};
   ControlArray<Label> Label3 {1, 6, Elements<Label>("Label3",  Picture2,  GearColumn(0, 555, 255), {.back = kBlack}, {"", "1ST", "2ND", "3RD", "4TH", "5TH", "6TH"})};
   Picture    Picture14{"Picture14", *this,     { 690, 3420,  555, 3195}, {.back = kDarkBlue}};
-  ControlArray<Label> Label9 {0, 7, Speeds()};
+  ControlArray<Label> Label9 {0, 7, Split(Elements<Label>("Label9", Picture2, At({0, 0, 555, 255}), {.caption = "GEAR", .fore = kLightGrey, .back = kBlack}), 1,
+                                  Split(Elements<Label>("Label9", Picture14, GearColumn(0, 555, 255), {.fore = kLightGrey, .back = kBlack, .align = Align::Right}), 7,
+                                        Elements<Label>("Label9", Picture14, At({0, 0, 555, 255}), {.caption = "SPEED", .fore = kLightGrey, .back = kBlack, .align = Align::Right})))};
   Picture    Picture25{"Picture25", *this,     {1260, 3420,  480, 3195}, {.back = kDarkBlue}};
   ControlArray<Label> Label39{1, 5, Elements<Label>("Label39", Picture25, GearColumn(0, 480, 255, 120), {.fore = kLightGrey, .back = kDarkBlue, .align = Align::Right})};
   Picture    Picture16{"Picture16", *this,     {1755, 3420,  600, 3195}, {.back = kDarkBlue}};
@@ -64,10 +66,6 @@ struct Form5 : Window {
   Button     Command4 {"Command4",  Picture3,  { 120, 4380, 1275,  405}, {.caption = "Load"}};
   Button     Command5 {"Command5",  Picture3,  {1515, 4380, 1275,  405}, {.caption = "Cancel"}};
   // clang-format on
-
- private:
-  /// Makes the column of speeds and the two heads.
-  ControlArray<Label>::Maker Speeds();
 };
 
 }  // namespace veldrin

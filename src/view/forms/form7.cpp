@@ -1,5 +1,7 @@
 #include "view/forms/form7.h"
 
+#include <algorithm>
+
 namespace veldrin {
 
 Form7::Form7(Desk& theDesk)
@@ -7,28 +9,16 @@ Form7::Form7(Desk& theDesk)
 
 ControlArray<Label>::Maker Form7::Pair(const char* arrayName, const Place& captionPlace, const Look& caption,
                                        const Place& secondPlace, const Look& second) {
-  return [=, this](int i) {
-    return i == 0 ? std::make_unique<Label>(arrayName, *this, captionPlace, caption)
-                  : std::make_unique<Label>(arrayName, *this, secondPlace, second);
-  };
+  const auto captions = Elements<Label>(arrayName, *this, At(captionPlace), caption);
+  return Split(captions, 1, Elements<Label>(arrayName, *this, At(secondPlace), second));
 }
 
-ControlArray<ComboBox>::Maker Form7::Choices() {
-  return [this](int i) {
-    const auto box = [this](const Place& place, const std::vector<std::string>& list, bool canEdit) {
-      return std::make_unique<ComboBox>("Combo1", *this, place, Look{.back = kWhite}, list, canEdit);
-    };
-    switch (i) {
-      case 0:
-        return box({1320, 225, 1260, 315}, {"JP", "ENGLISH"}, true);
-      case 2:
-        return box({1320, 810, 1260, 315}, {"YES", "NO"}, false);
-      case 3:
-        return box({1320, 1395, 1260, 315}, {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"},
-                   false);
-      default:
-        return box({1320, 1980, 3120, 315}, {}, false);
-    }
+ControlArray<ComboBox>::Maker Form7::Choices(const char* arrayName, const std::vector<Choice>& choices) {
+  return [=, this](int index) {
+    const auto is = [index](const Choice& choice) { return choice.index == index; };
+    const Choice& choice = *std::find_if(choices.begin(), choices.end(), is);
+    return std::make_unique<ComboBox>(arrayName, *this, choice.place, Look{.back = kWhite}, choice.entries,
+                                      choice.canEdit);
   };
 }
 

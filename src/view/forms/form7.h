@@ -17,7 +17,11 @@ struct Form7 : Window {
   ControlArray<Label>    Label3 {0, 1, Pair("Label3",  { 120,  705, 1050,  540}, {.caption = "データ変更確認無し", .english = "No Confirmation"}, {2640,  735, 1815,  480}, {.caption = "データに変更があった時もセーブを求めません", .english = "No Confirmation when data change", .fontSize = 8})};
   ControlArray<Label>    Label4 {0, 1, Pair("Label4",  { 120, 1290, 1050,  540}, {.caption = "ファイル　履歴数", .english = "File history"}, {2640, 1320, 1815,  480}, {.caption = "メニューに表示するファイルの履歴数", .english = "Number of File history on menu", .fontSize = 8})};
   Label                  Label5 {"Label5",   *this,    { 120, 1875, 1050,  540}, {.caption = "印刷　　　フォント", .english = "Print Font"}};
-  ControlArray<ComboBox> Combo1 {{0, 2, 3, 4}, Choices()};
+  ControlArray<ComboBox> Combo1 {{0, 2, 3, 4}, Choices("Combo1",
+      {{0, {1320,  225, 1260, 315}, {"JP", "ENGLISH"}, true},
+       {2, {1320,  810, 1260, 315}, {"YES", "NO"}, false},
+       {3, {1320, 1395, 1260, 315}, {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"}, false},
+       {4, {1320, 1980, 3120, 315}, {}, false}})};
 
   Label                  Label6 {"Label6",   *this,    { 120, 2460, 1170,  540}, {.caption = "タイヤ周長　(メートル）", .english = "Tyre 1round Length(m)"}};
   Label                  Label7 {"Label7",   *this,    { 120, 3045, 1170,  540}, {.caption = "チェック　　回転数", .english = "Check Ne"}};
@@ -46,8 +50,14 @@ struct Form7 : Window {
   /// Makes a caption, element 0, and what stands beside or below it, element 1.
   ControlArray<Label>::Maker Pair(const char* arrayName, const Place& captionPlace, const Look& caption,
                                   const Place& secondPlace, const Look& second);
-  /// Makes the lists on the left.
-  ControlArray<ComboBox>::Maker Choices();
+  /// A list on the left, and whether it can be typed in.
+  struct Choice {
+    int index;
+    Place place;
+    std::vector<std::string> entries;
+    bool canEdit;
+  };
+  ControlArray<ComboBox>::Maker Choices(const char* arrayName, const std::vector<Choice>& choices);
 };
 
 }  // namespace veldrin

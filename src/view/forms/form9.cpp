@@ -9,13 +9,11 @@ Form9::Form9(Desk& theDesk) : Window(theDesk, "Form9", {0, 0, 6660, 3195}, {.cap
   }
 }
 
-ControlArray<Label>::Maker Form9::GearNames() {
+ControlArray<Label>::Maker Form9::GearNames(Picture& row, int first) {
   constexpr Look kName{.back = kBlack, .fontSize = 12, .fontBold = true, .align = Align::Centre};
-  return [=, this](int i) {
-    const auto names = Elements<Label>("Label1", Picture2[i / 10], Rightward({0, 90, 900, 330}, 900, 1),
-                                       kName, {"", "1ST", "2ND", "3RD", "4TH", "5TH", "6TH"});
-    return names(i % 10);
-  };
+  std::vector<const char*> captions(static_cast<std::size_t>(first));
+  captions.insert(captions.end(), {"1ST", "2ND", "3RD", "4TH", "5TH", "6TH"});
+  return Elements<Label>("Label1", row, Rightward({0, 90, 900, 330}, 900, first), kName, captions);
 }
 
 Form9::~Form9() = default;

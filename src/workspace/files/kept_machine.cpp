@@ -28,10 +28,10 @@ void PutHistoryBack(Program& program) {
 
 /// What has the focus and cannot keep it is not left by the user.
 void HandOnFocus(Program& program) {
-  const std::string word = program.workspace.CallerWord;
-  StayUnder(program, caller::kModule1);
-  Guarded([&] { program.form2.HandOnFocus(); });
-  StayUnder(program, word);
+  KeepingCaller(program, [&] {
+    StayUnder(program, caller::kModule1);
+    Guarded([&] { program.form2.HandOnFocus(); });
+  });
 }
 
 void PutBack(Program& program, const KeptMachine& kept) {
@@ -41,9 +41,7 @@ void PutBack(Program& program, const KeptMachine& kept) {
   program.decisionPanel = kept.decisionPanel;
   PutHistoryBack(program);
   // The scale's ticks lie where the window's size wants them now.
-  const std::string word = program.workspace.CallerWord;
-  Guarded([&] { program.hooks.ChartScale(); });
-  StayUnder(program, word);
+  KeepingCaller(program, [&] { Guarded([&] { program.hooks.ChartScale(); }); });
   kept.controls.PutBack(form2);
   form2.Caption = kept.title;
   form2.Picture21.surface.CopyDrawing(kept.chart);
