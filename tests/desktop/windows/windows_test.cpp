@@ -8,6 +8,13 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace veldrin {
 namespace {
@@ -94,40 +101,6 @@ TEST_F(WindowsTest, ChildrenOfAPictureWithAnotherScaleStayInTwips) {
   EXPECT_EQ(WidgetOf(form->Option1[1]).geometry(), before);
 }
 
-TEST_F(WindowsTest, MenusGrowAndShrinkInTheirOwnEvent) {
-  Menu& entry = form->menu_d.Load(1);
-  entry.Caption = "C:\\A&B.nx4";
-  entry.Visible = true;
-  entry.Click.Bind([this](int) { form->menu_d.Unload(1); });
-  Settle();
-  auto* view = dynamic_cast<MenuView*>(Widget().ViewOf(entry));
-  ASSERT_NE(view, nullptr);
-  EXPECT_EQ(view->Action().text(), "C:\\A&&B.nx4");
-  EXPECT_EQ(Differences(), Events{});
-  view->Action().trigger();
-  EXPECT_FALSE(form->menu_d.Has(1));
-  EXPECT_EQ(Differences(), Events{});
-}
-
-TEST_F(WindowsTest, EntryThatIsGoneLeavesNothingBehind) {
-  form->menu_d.Load(1).Visible = true;
-  Settle();
-  const QPointer<QAction> action = &dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_d[1]))->Action();
-  QPointer<QAction> standing;
-  form->menu_d[1].Click.Bind([&](int) {
-    form->menu_d.Unload(1);
-    Settle();
-    QCoreApplication::processEvents();
-    standing = action;
-  });
-  action->trigger();
-  EXPECT_NE(standing, nullptr) << "it was inside of its own event";
-  Settle();
-  QCoreApplication::processEvents();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  EXPECT_EQ(action, nullptr);
-}
-
 TEST_F(WindowsTest, WindowThatIsGoneHasNoViewsAnyMore) {
   const FormWidget& widget = Widget();
   stage.input.Do([&] {
@@ -137,27 +110,6 @@ TEST_F(WindowsTest, WindowThatIsGoneHasNoViewsAnyMore) {
     EXPECT_EQ(widget.ViewOf(form->Text1), nullptr);
     return true;
   });
-}
-
-TEST_F(WindowsTest, ASeparatorOfAMenuHasNoTextInItsLine) {
-  auto* view = dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_d[0]));
-  ASSERT_NE(view, nullptr);
-  EXPECT_TRUE(view->Action().isSeparator());
-  EXPECT_EQ(view->Action().text(), "");
-}
-
-TEST_F(WindowsTest, MarksOfMenusAreKeysInBracketsAlone) {
-  EXPECT_EQ(MenuText("File(&F)"), "File(&F)");
-  EXPECT_EQ(MenuText(" 640 * 480(&6)"), " 640 * 480(&6)");
-  EXPECT_EQ(MenuText("/home/a&b/x.nx4"), "/home/a&&b/x.nx4");
-  EXPECT_EQ(MenuText("(&)"), "(&&)");
-  EXPECT_EQ(MenuText("&"), "&&");
-}
-
-TEST_F(WindowsTest, EntryOfAMenuThatIsOffDoesNothing) {
-  form->menu_a.Enabled = false;
-  dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_b))->Action().trigger();
-  EXPECT_EQ(events, Events{});
 }
 
 TEST_F(WindowsTest, WindowMayUnloadInAnEventOfItsOwnButton) {

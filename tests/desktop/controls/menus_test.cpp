@@ -1,0 +1,82 @@
+// Menus, as their entries come and go.
+#include "desktop/controls/menu_view.h"
+#include "tests/desktop/test_window.h"
+#include "window_script/shown_check.h"
+
+#include <QPointer>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace veldrin {
+namespace {
+
+class WindowsTest : public WidgetsTest {
+ protected:
+  std::vector<std::string> Differences() {
+    std::vector<std::string> names;
+    for (const Mismatch& mismatch : DifferencesIn(Widget(), stage)) {
+      names.push_back(mismatch.name + ": " + mismatch.slot + " / " + mismatch.shown);
+    }
+    return names;
+  }
+};
+
+TEST_F(WindowsTest, MenusGrowAndShrinkInTheirOwnEvent) {
+  Menu& entry = form->menu_d.Load(1);
+  entry.Caption = "C:\\A&B.nx4";
+  entry.Visible = true;
+  entry.Click.Bind([this](int) { form->menu_d.Unload(1); });
+  Settle();
+  auto* view = dynamic_cast<MenuView*>(Widget().ViewOf(entry));
+  ASSERT_NE(view, nullptr);
+  EXPECT_EQ(view->Action().text(), "C:\\A&&B.nx4");
+  EXPECT_EQ(Differences(), Events{});
+  view->Action().trigger();
+  EXPECT_FALSE(form->menu_d.Has(1));
+  EXPECT_EQ(Differences(), Events{});
+}
+
+TEST_F(WindowsTest, EntryThatIsGoneLeavesNothingBehind) {
+  form->menu_d.Load(1).Visible = true;
+  Settle();
+  const QPointer<QAction> action = &dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_d[1]))->Action();
+  QPointer<QAction> standing;
+  form->menu_d[1].Click.Bind([&](int) {
+    form->menu_d.Unload(1);
+    Settle();
+    QCoreApplication::processEvents();
+    standing = action;
+  });
+  action->trigger();
+  EXPECT_NE(standing, nullptr) << "it was inside of its own event";
+  Settle();
+  QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(action, nullptr);
+}
+
+TEST_F(WindowsTest, ASeparatorOfAMenuHasNoTextInItsLine) {
+  auto* view = dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_d[0]));
+  ASSERT_NE(view, nullptr);
+  EXPECT_TRUE(view->Action().isSeparator());
+  EXPECT_EQ(view->Action().text(), "");
+}
+
+TEST_F(WindowsTest, MarksOfMenusAreKeysInBracketsAlone) {
+  EXPECT_EQ(MenuText("File(&F)"), "File(&F)");
+  EXPECT_EQ(MenuText(" 640 * 480(&6)"), " 640 * 480(&6)");
+  EXPECT_EQ(MenuText("/home/a&b/x.nx4"), "/home/a&&b/x.nx4");
+  EXPECT_EQ(MenuText("(&)"), "(&&)");
+  EXPECT_EQ(MenuText("&"), "&&");
+}
+
+TEST_F(WindowsTest, EntryOfAMenuThatIsOffDoesNothing) {
+  form->menu_a.Enabled = false;
+  dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_b))->Action().trigger();
+  EXPECT_EQ(events, Events{});
+}
+
+}  // namespace
+}  // namespace veldrin
