@@ -1,8 +1,10 @@
 // Where on the screens a window stands.
 #include "tests/desktop/windows/form_widget.h"
 
+#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QTemporaryDir>
 
 namespace veldrin {
 namespace {
