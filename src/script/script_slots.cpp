@@ -1,11 +1,13 @@
 #include "script/script_slots.h"
 
+#include "hints/hint.h"
 #include "runtime/conversion.h"
 #include "script/script_error.h"
 #include "script/script_suggest.h"
 #include "script/script_values.h"
 #include "simulated/printed_values.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace veldrin {
@@ -17,7 +19,7 @@ struct Extra {
   const char* name;
   std::size_t subscripts;
   bool (*has)(const Control& control);
-  Answer (*read)(Control& control, const NamePart& slot);
+  Answer (*read)(const Program& program, Control& control, const NamePart& slot);
 };
 
 bool IsWindowControl(const Control& control) {
@@ -55,13 +57,13 @@ bool HasScale(const Control& control) {
   return HasSurface(control) || IsWindowControl(control);
 }
 
-Answer ReadEntry(Control& control, const NamePart& slot) {
+Answer ReadEntry(const Program& /*program*/, Control& control, const NamePart& slot) {
   const std::vector<std::string>& entries = *EntriesOf(control);
   const auto place = static_cast<std::size_t>(slot.indices[0]);  // a negative one lies beyond the end
   return {place < entries.size() ? entries[place] : kNone, {}};
 }
 
-Answer ReadEntryCount(Control& control, const NamePart& /*slot*/) {
+Answer ReadEntryCount(const Program& /*program*/, Control& control, const NamePart& /*slot*/) {
   return {std::to_string(EntriesOf(control)->size()), {}};
 }
 
@@ -69,24 +71,24 @@ bool IsInside(const Grid& grid, int row, int column) {
   return row >= 0 && row < grid.Rows && column >= 0 && column < grid.Cols;
 }
 
-Answer ReadCell(Control& control, const NamePart& slot) {
+Answer ReadCell(const Program& /*program*/, Control& control, const NamePart& slot) {
   const auto& grid = static_cast<const Grid&>(control);
   const int row = slot.indices[0];
   const int column = slot.indices[1];
   return {IsInside(grid, row, column) ? grid.Cell(row, column) : kNone, {}};
 }
 
-Answer ReadColWidth(Control& control, const NamePart& slot) {
+Answer ReadColWidth(const Program& /*program*/, Control& control, const NamePart& slot) {
   const auto& grid = static_cast<const Grid&>(control);
   const int column = slot.indices[0];
   return {column >= 0 && column < grid.Cols ? ValueText(grid.ColWidth(column)) : kNone, {}};
 }
 
-Answer ReadDrawing(Control& control, const NamePart& slot) {
+Answer ReadDrawing(const Program& /*program*/, Control& control, const NamePart& slot) {
   return DrawingAnswer(DrawingLines(SurfaceOf(control)->Drawing()), slot);
 }
 
-Answer ReadScale(Control& control, const NamePart& /*slot*/) {
+Answer ReadScale(const Program& /*program*/, Control& control, const NamePart& /*slot*/) {
   const Surface* surface = SurfaceOf(control);
   Scale scale;
   if (surface != nullptr) {
@@ -102,21 +104,32 @@ Answer ReadScale(Control& control, const NamePart& /*slot*/) {
   return {text, {}};
 }
 
-Answer ReadZOrder(Control& control, const NamePart& /*slot*/) {
+Answer ReadZOrder(const Program& /*program*/, Control& control, const NamePart& /*slot*/) {
   return {std::to_string(control.ZOrder()), {}};
 }
 
-Answer ReadFocus(Control& control, const NamePart& /*slot*/) {
+Answer ReadFocus(const Program& /*program*/, Control& control, const NamePart& /*slot*/) {
   const Control* focus = AsWindow(control).focus;
   return {focus != nullptr ? focus->IndexedName() : kNone, {}};
 }
 
-Answer ReadLoaded(Control& control, const NamePart& /*slot*/) {
+Answer ReadLoaded(const Program& /*program*/, Control& control, const NamePart& /*slot*/) {
   return {ValueText(AsWindow(control).loaded), {}};
 }
 
-Answer ReadModal(Control& control, const NamePart& /*slot*/) {
+Answer ReadModal(const Program& /*program*/, Control& control, const NamePart& /*slot*/) {
   return {ValueText(AsWindow(control).isModal && AsWindow(control).Visible), {}};
+}
+
+Answer ReadHint(const Program& program, Control& control, const NamePart& /*slot*/) {
+  const std::string hint = Hint(program, control);
+  std::vector<std::string> lines;
+  for (std::size_t at = 0; at <= hint.size();) {
+    const std::size_t end = std::min(hint.find('\n', at), hint.size());
+    lines.push_back(hint.substr(at, end - at));
+    at = end + 1;
+  }
+  return LinesAnswer(std::move(lines));
 }
 
 // clang-format off
@@ -129,6 +142,7 @@ constexpr Extra kExtras[] = {
     {"Drawing",      1, HasSurface,      ReadDrawing},
     {"DrawingCount", 0, HasSurface,      ReadDrawing},
     {"Scale",        0, HasScale,        ReadScale},
+    {"Hint",         0, IsInWindow,      ReadHint},
     {"ZOrder",       0, IsInWindow,      ReadZOrder},
     {"Focus",        0, IsWindowControl, ReadFocus},
     {"Loaded",       0, IsWindowControl, ReadLoaded},
@@ -224,7 +238,7 @@ std::vector<std::string> DrawingLines(const std::vector<Primitive>& drawing) {
   return lines;
 }
 
-Answer ReadSlot(const Found& found, const NamePart& slot) {
+Answer ReadSlot(const Program& program, const Found& found, const NamePart& slot) {
   const Control& model = *found.model;
   const Extra* extra = FindExtra(model, slot);
   if (extra == nullptr) FindRecordSlot(model, slot);
@@ -232,7 +246,7 @@ Answer ReadSlot(const Found& found, const NamePart& slot) {
     const bool toldOfUnloaded = IsWindowControl(model) && (slot.name == "Loaded" || slot.name == "Visible");
     return {toldOfUnloaded ? ValueText(false) : kNone, {}};
   }
-  if (extra != nullptr) return extra->read(*found.control, slot);
+  if (extra != nullptr) return extra->read(program, *found.control, slot);
   return {SlotText(*found.control, FindRecordSlot(*found.control, slot)), {}};
 }
 

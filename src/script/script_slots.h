@@ -30,7 +30,7 @@ std::vector<std::string> DrawingLines(const std::vector<Primitive>& drawing);
 
 /// A slot of what was found; "(none)" where that is not there, and for an entry, a cell or a primitive
 /// outside. Throws ScriptError for a slot that its kind does not have.
-Answer ReadSlot(const Found& found, const NamePart& slot);
+Answer ReadSlot(const Program& program, const Found& found, const NamePart& slot);
 
 /// Writes a slot as code of the program does, at once and with its events, whose faults and end pass through.
 /// Throws ScriptError for a slot that its kind does not have or that cannot be written, for a value that does

@@ -21,12 +21,26 @@ double LeadingNumber(const QString& text) {
   return kNumber.match(text).captured().toDouble();
 }
 
-/// A spin button. What it turns is a text beside it, which also describes it; not all of them are numbers, so
-/// each way to a higher or lower one is one turn.
-class AccessibleSpin : public QAccessibleWidget, public QAccessibleValueInterface {
+/// What is described by its hint, the value included.
+class AccessibleView : public QAccessibleWidget {
  public:
-  AccessibleSpin(QWidget& widget, PlacedView& view)
-      : QAccessibleWidget(&widget, QAccessible::SpinBox), view_(&view) {}
+  AccessibleView(QWidget& widget, PlacedView& view, QAccessible::Role role)
+      : QAccessibleWidget(&widget, role), view_(&view) {}
+
+  QString text(QAccessible::Text what) const override {
+    if (what == QAccessible::Description || what == QAccessible::Help) return view_->SpokenHint();
+    return QAccessibleWidget::text(what);
+  }
+
+ protected:
+  PlacedView* view_;
+};
+
+/// A spin button. What it turns is a text beside it; not all of them are numbers, so each way to a higher or
+/// lower one is one turn.
+class AccessibleSpin : public AccessibleView, public QAccessibleValueInterface {
+ public:
+  AccessibleSpin(QWidget& widget, PlacedView& view) : AccessibleView(widget, view, QAccessible::SpinBox) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
     if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
@@ -34,8 +48,8 @@ class AccessibleSpin : public QAccessibleWidget, public QAccessibleValueInterfac
   }
 
   QString text(QAccessible::Text what) const override {
-    if (what == QAccessible::Value || what == QAccessible::Description) return Turned();
-    return QAccessibleWidget::text(what);
+    if (what == QAccessible::Value) return Turned();
+    return AccessibleView::text(what);
   }
 
   QStringList actionNames() const override {
@@ -62,16 +76,14 @@ class AccessibleSpin : public QAccessibleWidget, public QAccessibleValueInterfac
   void Turn(bool up) const {
     if (widget()->isEnabled()) dynamic_cast<SpinWidget&>(*view_).Turn(up);
   }
-
-  PlacedView* view_;
 };
 
 /// A scroll bar. It tells the control's value, which may lie beyond the end where the thumb stands; what is
 /// set moves the thumb and stays within the ends.
-class AccessibleScrollBar : public QAccessibleWidget, public QAccessibleValueInterface {
+class AccessibleScrollBar : public AccessibleView, public QAccessibleValueInterface {
  public:
   AccessibleScrollBar(QScrollBar& widget, PlacedView& view)
-      : QAccessibleWidget(&widget, QAccessible::ScrollBar), bar_(&widget), view_(&view) {}
+      : AccessibleView(widget, view, QAccessible::ScrollBar), bar_(&widget) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
     if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
@@ -79,7 +91,7 @@ class AccessibleScrollBar : public QAccessibleWidget, public QAccessibleValueInt
   }
 
   QString text(QAccessible::Text what) const override {
-    return what == QAccessible::Value ? QString::number(Value()) : QAccessibleWidget::text(what);
+    return what == QAccessible::Value ? QString::number(Value()) : AccessibleView::text(what);
   }
 
   QVariant currentValue() const override { return Value(); }
@@ -95,22 +107,26 @@ class AccessibleScrollBar : public QAccessibleWidget, public QAccessibleValueInt
   }
 
   QScrollBar* bar_;
-  PlacedView* view_;
+};
+
+/// A label: it is called by its text, if by nothing else.
+class AccessibleLabel : public AccessibleView {
+ public:
+  AccessibleLabel(QWidget& widget, PlacedView& view, QAccessible::Role role = QAccessible::StaticText)
+      : AccessibleView(widget, view, role) {}
+
+  QString text(QAccessible::Text what) const override {
+    const QString text = AccessibleView::text(what);
+    if (what != QAccessible::Name || !text.isEmpty() || view_->Shows() == nullptr) return text;
+    return QString::fromStdString(view_->WhatShows().text.value_or(""));
+  }
 };
 
 /// A label or picture that is pressed like a button. Where only the second click does something, both are one
 /// press; what the right button may do there is asked for like a menu.
-class AccessiblePress : public QAccessibleWidget {
+class AccessiblePress : public AccessibleLabel {
  public:
-  AccessiblePress(QWidget& widget, PlacedView& view)
-      : QAccessibleWidget(&widget, QAccessible::Button), view_(&view) {}
-
-  /// A label is called by its text, if by nothing else.
-  QString text(QAccessible::Text what) const override {
-    const QString text = QAccessibleWidget::text(what);
-    if (what != QAccessible::Name || !text.isEmpty() || view_->Shows() == nullptr) return text;
-    return QString::fromStdString(view_->WhatShows().text.value_or(""));
-  }
+  AccessiblePress(QWidget& widget, PlacedView& view) : AccessibleLabel(widget, view, QAccessible::Button) {}
 
   QStringList actionNames() const override {
     if (view_->Shows() == nullptr || !widget()->isEnabled()) return {};
@@ -135,8 +151,6 @@ class AccessiblePress : public QAccessibleWidget {
   bool KnowsButtons() const {
     return IsHandled(*view_->Shows(), "MouseDown") || IsHandled(*view_->Shows(), "MouseUp");
   }
-
-  PlacedView* view_;
 };
 
 /// Qt asks while the widget is being made: its kind is known by its control, but not yet by its class.
@@ -149,6 +163,9 @@ QAccessibleInterface* MakeAccess(const QString& /*className*/, QObject* object) 
     return new AccessibleScrollBar(static_cast<QScrollBar&>(widget), *view);
   }
   if (AnswersClicks(*view->Shows())) return new AccessiblePress(widget, *view);
+  if (view->Shows()->kind == ControlKind::Label) return new AccessibleLabel(widget, *view);
+  if (view->Shows()->kind == ControlKind::Picture)
+    return new AccessibleView(widget, *view, QAccessible::Client);
   return nullptr;
 }
 

@@ -1,5 +1,6 @@
-// What screen readers hear of controls for which Qt knows no words: spin buttons, and the labels and pictures
-// that answer a click. All other kinds are widgets that Qt tells of itself.
+// What screen readers hear of controls for which Qt knows no words: spin buttons, labels and pictures, those
+// that answer a click above all, and scroll bars. All other kinds are widgets that Qt tells of itself, and
+// that carry their hint as their description.
 #pragma once
 
 namespace veldrin {

@@ -139,8 +139,4 @@ QString AccessibleValue(const Control& control) {
   return text;
 }
 
-QString AccessibleDescription(const Control& control) {
-  return control.kind == ControlKind::Label ? control.look.spoken : QString();
-}
-
 }  // namespace veldrin

@@ -13,9 +13,6 @@ namespace veldrin {
 /// panels. What a window says of a control in place of a picture comes before all that.
 QString AccessibleName(const Control& control);
 
-/// What a label tells, where a picture heads it; empty for others.
-QString AccessibleDescription(const Control& control);
-
 /// What a spin button turns: the text of the label that is seen nearest in its row, on either side; empty
 /// where there is none.
 QString AccessibleValue(const Control& control);

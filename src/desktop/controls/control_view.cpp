@@ -1,7 +1,9 @@
 #include "desktop/controls/control_view.h"
 
 #include "desktop/accessible/accessible_name.h"
+#include "desktop/accessible/hint_words.h"
 #include "desktop/input/help_key.h"
+#include "desktop/input/hint_key.h"
 #include "desktop/input/keyboard.h"
 #include "desktop/input/keys.h"
 #include "desktop/input/pointer_gestures.h"
@@ -10,7 +12,9 @@
 #include "machine/painting/fonts.h"
 
 #include <QCoreApplication>
+#include <QHelpEvent>
 #include <QPalette>
+#include <QToolTip>
 
 namespace veldrin {
 
@@ -34,6 +38,14 @@ void ControlView::TakeAll() {
   }
 }
 
+QString ControlView::HintText() const {
+  return control_ == nullptr ? QString() : HintOf(stage_->input.Served(), *control_);
+}
+
+QString ControlView::SpokenHint() const {
+  return control_ == nullptr ? QString() : SpokenHintOf(stage_->input.Served(), *control_);
+}
+
 void PlacedView::Prepare(QWidget& widget) {
   const bool takesFocus = TakesFocus(*control_);
   // The program moves the focus at a click, and Tab goes through the controls in their own order.
@@ -42,7 +54,6 @@ void PlacedView::Prepare(QWidget& widget) {
   widget.setAttribute(Qt::WA_NoMousePropagation);
   widget.setObjectName(QString::fromStdString(control_->FullName()));
   widget.setAccessibleName(AccessibleName(*control_));
-  widget.setAccessibleDescription(AccessibleDescription(*control_));
 }
 
 void PlacedView::Take(std::string_view slot) {
@@ -113,6 +124,25 @@ Shown PlacedView::WhatShows() const {
   shown.place = widget.geometry();
   shown.font = widget.font();
   return shown;
+}
+
+/// Widgets that Qt tells of itself are told of by their descriptions; the others are asked.
+void PlacedView::TakeHint() {
+  if (control_ == nullptr || !TakesFocus(*control_)) return;
+  const QString hint = HintText();
+  QWidget& widget = *Widget();
+  if (widget.accessibleDescription() == hint) return;
+  widget.setAccessibleDescription(hint);
+  widget.setWhatsThis(hint);
+}
+
+bool PlacedView::ShowHint(const QEvent& event, QWidget& over, const QString& cutText) const {
+  const auto& help = static_cast<const QHelpEvent&>(event);
+  const QString hint = HintText();
+  const bool both = !cutText.isEmpty() && !hint.isEmpty();
+  const QString text = cutText + (both ? QStringLiteral("\n") : QString()) + hint;
+  QToolTip::showText(help.globalPos(), text, &over);
+  return !text.isEmpty();
 }
 
 void PlacedView::FocusCame() {
@@ -195,7 +225,8 @@ bool PlacedView::KeyPressed(QKeyEvent& event) {
   }
   if (stage_->keysAlone) return true;
   return OwnKey(event) || ServeEscape(*stage_, control.window, event) ||
-         ServeReach(control.window, *Widget(), event) || ServeHelp(*stage_, control.window, *Widget(), event);
+         ServeReach(control.window, *Widget(), event) || ServeHelp(*stage_, control.window, *Widget(), event) ||
+         ServeHint(*stage_, control.window, *Widget(), event);
 }
 
 bool PlacedView::HandOnWheel(QEvent& event) {

@@ -67,6 +67,11 @@ class ControlView {
   /// An event has ended: time for what need not be done at every write.
   virtual void Settle() {}
   virtual Shown WhatShows() const { return {}; }
+  /// An event has ended: the hint may be another one, by the state of the program.
+  virtual void TakeHint() {}
+  /// The hint as it is shown and as it is spoken; empty for none.
+  QString HintText() const;
+  QString SpokenHint() const;
 
  protected:
   bool Do(const std::function<bool()>& gesture) { return stage_->input.Do(gesture); }
@@ -84,6 +89,7 @@ class PlacedView : public ControlView {
   void TakeAll() override;
   void Rescale() override;
   Shown WhatShows() const override;
+  void TakeHint() override;
 
   /// The focus came to the widget by a way of Qt's own.
   void FocusCame();
@@ -118,6 +124,9 @@ class PlacedView : public ControlView {
   /// since another thing may lie under the pointer by now.
   bool PressedTwice(const QMouseEvent& event);
   void Released(const QMouseEvent& event);
+  /// Shows the hint where the pointer rests, off or not; `cutText` is what the widget had no room for.
+  /// Whether there was anything to tell.
+  bool ShowHint(const QEvent& event, QWidget& over, const QString& cutText = {}) const;
   /// Whether the key was served, so that the widget must not see it.
   bool KeyPressed(QKeyEvent& event);
   /// A turn of the wheel that the widget has no use for may scroll its window. Whether it did.

@@ -25,6 +25,7 @@ class ControlWidget : public Base, public PlacedView {
       event->accept();
       return true;
     }
+    if (event->type() == QEvent::ToolTip) return ShowHint(*event, *this);
     // Qt tells a widget that is off of no wheel.
     if (event->type() == QEvent::Wheel && !this->isEnabled()) return HandOnWheel(*event);
     const bool served = Base::event(event);

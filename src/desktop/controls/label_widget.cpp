@@ -5,9 +5,7 @@
 #include "machine/painting/fonts.h"
 #include "machine/painting/text_ends.h"
 
-#include <QHelpEvent>
 #include <QPainter>
-#include <QToolTip>
 
 namespace veldrin {
 
@@ -57,12 +55,10 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
   isWhole_ = DrawFitted(painter, room, text(), font(), alignment());
 }
 
-/// A text that is cut short is told in full where the pointer rests on it.
+/// A text that is cut short is told in full where the pointer rests on it, before the hint.
 bool LabelWidget::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return ControlWidget::event(event);
-  const auto& help = static_cast<const QHelpEvent&>(*event);
-  QToolTip::showText(help.globalPos(), isWhole_ ? QString() : text(), this);
-  return true;
+  return ShowHint(*event, *this, isWhole_ ? QString() : text());
 }
 
 }  // namespace veldrin

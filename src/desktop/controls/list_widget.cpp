@@ -6,7 +6,6 @@
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QStyle>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -80,14 +79,13 @@ void ListView::focusInEvent(QFocusEvent* event) {
   StandByPicked();
 }
 
-/// A name that is cut short is told in full where the pointer rests on it.
+/// A name that is cut short is told in full where the pointer rests on it, before the list's hint.
 bool ListView::viewportEvent(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return ControlWidget::viewportEvent(event);
   const auto& help = static_cast<const QHelpEvent&>(*event);
   const QModelIndex row = indexAt(help.pos());
   const bool cut = row.isValid() && sizeHintForIndex(row).width() > viewport()->width();
-  QToolTip::showText(help.globalPos(), cut ? row.data().toString().trimmed() : QString(), viewport());
-  return true;
+  return ShowHint(*event, *viewport(), cut ? row.data().toString().trimmed() : QString());
 }
 
 void ListView::StandByPicked() {

@@ -2,6 +2,9 @@
 
 #include "machine/painting/text_ends.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+
 namespace veldrin {
 
 namespace {
@@ -20,6 +23,7 @@ MenuView::MenuView(Menu& menu, Stage& stage) : ControlView(menu, stage), action_
 QMenu& MenuView::Submenu() {
   if (!submenu_) {
     submenu_.reset(new QMenu);
+    submenu_->setToolTipsVisible(true);
     action_->setMenu(submenu_.get());
   }
   return *submenu_;
@@ -34,6 +38,22 @@ void MenuView::Take(std::string_view slot) {
   } else if (slot == "Enabled") {
     action_->setEnabled(Record().Enabled);
   }
+}
+
+void MenuView::TakeHint() {
+  const QString hint = HintText();
+  if (action_->statusTip() == hint) return;
+  // Qt takes the caption where there is no tip, and shows it below the entry itself.
+  action_->setToolTip(hint);
+  action_->setStatusTip(hint);
+}
+
+bool HintedMenuBar::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QMenuBar::event(event);
+  const auto& help = static_cast<const QHelpEvent&>(*event);
+  const QAction* const entry = actionAt(help.pos());
+  QToolTip::showText(help.globalPos(), entry == nullptr ? QString() : entry->statusTip(), this);
+  return true;
 }
 
 Shown MenuView::WhatShows() const {

@@ -17,6 +17,7 @@ class MenuView : public ControlView {
 
   void Take(std::string_view slot) override;
   Shown WhatShows() const override;
+  void TakeHint() override;
 
   QAction& Action() { return *action_; }
   /// The menu below the entry, made when it is first asked for.
@@ -31,6 +32,15 @@ class MenuView : public ControlView {
   };
   std::unique_ptr<QAction, Later> action_;
   std::unique_ptr<QMenu, Later> submenu_;
+};
+
+/// A menu bar whose entries have hints.
+class HintedMenuBar : public QMenuBar {
+ public:
+  using QMenuBar::QMenuBar;
+
+ protected:
+  bool event(QEvent* event) override;
 };
 
 /// The caption of an entry for Qt: "&" marks a key in "(&X)" alone, elsewhere, as in a path, it is itself.

@@ -2,6 +2,7 @@
 
 #include "desktop/controls/shown_control.h"
 #include "desktop/input/help_key.h"
+#include "desktop/input/hint_key.h"
 #include "desktop/input/reach.h"
 #include "runtime/text.h"
 #include "view/user_input.h"
@@ -87,7 +88,7 @@ bool ServeEscape(Stage& stage, Window& window, const QKeyEvent& event) {
 bool ServeWindowKey(Stage& stage, Window& window, const QWidget& widget, const QKeyEvent& event) {
   return ServeReached(stage, window, widget, event) || ServeTab(stage, window, event) ||
          ServeEscape(stage, window, event) || ServeReach(window, widget, event) ||
-         ServeHelp(stage, window, widget, event);
+         ServeHelp(stage, window, widget, event) || ServeHint(stage, window, widget, event);
 }
 
 }  // namespace veldrin

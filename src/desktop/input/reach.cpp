@@ -108,7 +108,8 @@ bool IsWorking(const QKeyEvent& event) {
   }
 }
 
-/// Keys that may be the first half of another one, and those of menus and of the window.
+/// Keys that may be the first half of another one, that ask about what is reached, and those of menus and of
+/// the window.
 bool IsOfOthers(const QKeyEvent& event) {
   if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) return true;
   switch (event.key()) {

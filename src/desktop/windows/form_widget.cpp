@@ -47,7 +47,7 @@ FormWidget::FormWidget(Window& window, Stage& stage, FormFinder formOf)
   scroll_->setWidget(client_);
   client_->TakeAll();
   if (window.hasMenu) {
-    menuBar_ = new QMenuBar(this);
+    menuBar_ = new HintedMenuBar(this);
     menuBar_->setNativeMenuBar(false);
     setAcceptDrops(true);
     strip_ = new MessageStrip(stage, this, [this] { MakeRoomForStrip(); });
@@ -106,7 +106,10 @@ void FormWidget::Settle() {
   if (window_ == nullptr) return;
   FollowControls();
   for (const Control* control : known_) {
-    if (ControlView* view = ViewOf(*control)) view->Settle();
+    ControlView* const view = ViewOf(*control);
+    if (view == nullptr) continue;
+    view->Settle();
+    view->TakeHint();
   }
   // Whoever has to answer has to see the question.
   if (raised_ != nullptr && raised_->isVisible()) Reveal(raised_);

@@ -152,7 +152,7 @@ Answer AskSlot(ScriptWorld& world, const ScriptName& name) {
       throw ScriptError{NameText(name) + " is a control: one of its slots can be asked"};
     }
   }
-  Answer answer = ReadSlot(found, name.back());
+  Answer answer = ReadSlot(program, found, name.back());
   if (found.control != nullptr) {
     const std::optional<std::string> shown = world.hand.Shown(*found.control, NameText(name.back()));
     if (shown && *shown != answer.text) world.mismatches.push_back({NameText(name), answer.text, *shown});

@@ -25,16 +25,16 @@ struct Form10 : Window {
   Line    Line1        {"Line1",         *this,     0,  300, 7170,  300, PaletteColour(8)};
   Line    Line2        {"Line2",         *this,     0,  315, 7170,  315, kBlack};
 
-  Label   Label_Version{"Label_Version", *this, {1800, 2010, 5130,  255}, {.back = kPale, .transparent = true, .spoken = "Version"}};
-  Label   Label_CPU    {"Label_CPU",     *this, {1800, 2355, 5130,  255}, {.back = kPale, .transparent = true, .spoken = "Processor"}};
-  Label   Label_Ram    {"Label_Ram",     *this, {1800, 2700, 1140,  255}, {.back = kPale, .transparent = true, .spoken = "Memory"}};
+  Label   Label_Version{"Label_Version", *this, {1800, 2010, 5130,  255}, {.back = kPale, .transparent = true}};
+  Label   Label_CPU    {"Label_CPU",     *this, {1800, 2355, 5130,  255}, {.back = kPale, .transparent = true}};
+  Label   Label_Ram    {"Label_Ram",     *this, {1800, 2700, 1140,  255}, {.back = kPale, .transparent = true}};
   Picture Picture1     {"Picture1",      *this, {3060, 2700, 2850,  240}, {.back = kWhite, .border = true, .spoken = "Free memory"}};
-  Label   Label_Free   {"Label_Free",    *this, {6030, 2700,  900,  255}, {.back = kPale, .transparent = true, .spoken = "Free memory"}};
-  Label   Label_VirRam {"Label_VirRam",  *this, {1800, 3045, 5130,  255}, {.back = kPale, .transparent = true, .spoken = "Swap file"}};
-  Label   Label_Res    {"Label_Res",     *this, {1800, 3390, 5130,  255}, {.back = kPale, .transparent = true, .spoken = "Screen"}};
-  Label   Label_HDD    {"Label_HDD",     *this, {1800, 3735, 1140,  255}, {.back = kPale, .transparent = true, .spoken = "Free disk"}};
+  Label   Label_Free   {"Label_Free",    *this, {6030, 2700,  900,  255}, {.back = kPale, .transparent = true}};
+  Label   Label_VirRam {"Label_VirRam",  *this, {1800, 3045, 5130,  255}, {.back = kPale, .transparent = true}};
+  Label   Label_Res    {"Label_Res",     *this, {1800, 3390, 5130,  255}, {.back = kPale, .transparent = true}};
+  Label   Label_HDD    {"Label_HDD",     *this, {1800, 3735, 1140,  255}, {.back = kPale, .transparent = true}};
   Picture Picture2     {"Picture2",      *this, {3060, 3735, 2850,  240}, {.back = kWhite, .border = true, .spoken = "Free disk"}};
-  Label   Label3       {"Label3",        *this, {1800, 4305, 3300,  255}, {.caption = "https://veldrin.example/", .fore = Rgb(0, 0, 255), .back = kPale, .transparent = true, .spoken = "Home page"}};
+  Label   Label3       {"Label3",        *this, {1800, 4305, 3300,  255}, {.caption = "https://veldrin.example/", .fore = Rgb(0, 0, 255), .back = kPale, .transparent = true}};
   // clang-format on
 
  private:

@@ -45,9 +45,6 @@ TEST(AccessibleName, WhatPicturesTellIsSaid) {
   EXPECT_EQ(AccessibleName(form10.Picture_Close), "Close");
   EXPECT_EQ(AccessibleName(form10.Picture_Roll), "Roll up or down");
   EXPECT_EQ(AccessibleName(form10.Label_Ram), "") << "its text is its name";
-  EXPECT_EQ(AccessibleDescription(form10.Label_Ram), "Memory");
-  EXPECT_EQ(AccessibleDescription(form10.Label_HDD), "Free disk");
-  EXPECT_EQ(AccessibleDescription(form10.Picture_Close), "");
 }
 
 TEST(AccessibleName, BoxesOfTheSettingsAreNamedByTheirCaptions) {
