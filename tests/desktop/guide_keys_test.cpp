@@ -4,6 +4,7 @@
 #include "tests/guide/guide_text.h"
 
 #include <QShortcut>
+#include <QToolTip>
 
 #include <functional>
 #include <map>
@@ -41,6 +42,14 @@ class GuideKeysTest : public MainWindowTest {
     stage.helpAsked = [&](std::string_view /*section*/) { asked = true; };
     Press(Qt::Key_F1);
     return asked;
+  }
+
+  bool Tells() {
+    Focus(form2.Command3);
+    Press(Qt::Key_F1, Qt::ShiftModifier);
+    const bool told = QToolTip::text().startsWith("Load: ");
+    QToolTip::hideText();
+    return told;
   }
 
   bool Reaches(Qt::KeyboardModifiers modifiers) {
@@ -105,6 +114,7 @@ class GuideKeysTest : public MainWindowTest {
   // clang-format off
   const std::map<std::string, std::function<bool()>> keys = {
       {"F1",         [this] { return Asks(); }},
+      {"Shift+F1",   [this] { return Tells(); }},
       {"F6",         [this] { return Reaches(Qt::NoModifier); }},
       {"Shift+F6",   [this] { return Reaches(Qt::ShiftModifier); }},
       {"Escape",     [this] { return LetsGo(); }},
