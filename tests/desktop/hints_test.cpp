@@ -97,8 +97,11 @@ TEST_F(HintsTest, EntriesOfTheMenuHaveTheirHints) {
   auto& bar = *Widget().findChild<QMenuBar*>();
   EXPECT_EQ(Point(bar, bar.actionGeometry(bar.actions()[0]).center()), HintOf(form2().menu_file));
   QMenu& file = *bar.actions()[0]->menu();
-  EXPECT_TRUE(file.toolTipsVisible());
-  EXPECT_EQ(file.actions()[0]->toolTip(), HintOf(form2().menu_save));
+  EXPECT_EQ(Point(file, file.actionGeometry(file.actions()[0]).center()), HintOf(form2().menu_save));
+  file.setActiveAction(file.actions()[1]);
+  QKeyEvent key(QEvent::KeyPress, Qt::Key_F1, Qt::ShiftModifier);
+  QApplication::sendEvent(&file, &key);
+  EXPECT_EQ(QToolTip::text(), HintOf(form2().menu_load));
   EXPECT_EQ(dynamic_cast<MenuView&>(*Widget().ViewOf(form2().f_calc)).Action().toolTip(),
             "Searches for plans that meet the speeds wanted, as the button Calcurate does\n"
             "No speeds wanted are being entered: Mode begins that");

@@ -2,6 +2,7 @@
 
 #include "desktop/accessible/accessible_name.h"
 #include "desktop/accessible/hint_words.h"
+#include "desktop/controls/focus_edge.h"
 #include "desktop/input/help_key.h"
 #include "desktop/input/hint_key.h"
 #include "desktop/input/keyboard.h"
@@ -22,6 +23,11 @@ namespace {
 
 bool IsPlaceSlot(std::string_view slot) {
   return slot == "Left" || slot == "Top" || slot == "Width" || slot == "Height";
+}
+
+/// Kinds that do not paint their focus themselves.
+bool NeedsEdge(ControlKind kind) {
+  return kind != ControlKind::Button && kind != ControlKind::OptionButton;
 }
 
 int ButtonNumber(const QMouseEvent& event) {
@@ -145,6 +151,24 @@ bool PlacedView::ShowHint(const QEvent& event, QWidget& over, const QString& cut
   return !text.isEmpty();
 }
 
+void PlacedView::MarkFocus(const QEvent& event) {
+  if (control_ == nullptr || !NeedsEdge(control_->kind)) return;
+  switch (event.type()) {
+    case QEvent::FocusIn:
+      if (edge_ == nullptr) edge_ = new FocusEdge(*Widget(), stage_->zoom);
+      edge_->Cover();
+      break;
+    case QEvent::FocusOut:
+      if (edge_ != nullptr) edge_->hide();
+      break;
+    case QEvent::Resize:
+      if (edge_ != nullptr && edge_->isVisible()) edge_->Cover();
+      break;
+    default:
+      break;
+  }
+}
+
 void PlacedView::FocusCame() {
   if (control_ == nullptr || stage_->applying > 0 || control_->window.focus == control_) return;
   Do([control = control_] { return user::Focus(*control); });
@@ -225,7 +249,8 @@ bool PlacedView::KeyPressed(QKeyEvent& event) {
   }
   if (stage_->keysAlone) return true;
   return OwnKey(event) || ServeEscape(*stage_, control.window, event) ||
-         ServeReach(control.window, *Widget(), event) || ServeHelp(*stage_, control.window, *Widget(), event) ||
+         ServeReach(control.window, *Widget(), event) ||
+         ServeHelp(*stage_, control.window, *Widget(), event) ||
          ServeHint(*stage_, control.window, *Widget(), event);
 }
 

@@ -23,6 +23,8 @@
 
 namespace veldrin {
 
+class FocusEdge;
+
 /// What a user sees of a control, in the words of its slots; nothing where the widget does not show it.
 struct Shown {
   std::optional<std::string> text;
@@ -91,6 +93,8 @@ class PlacedView : public ControlView {
   Shown WhatShows() const override;
   void TakeHint() override;
 
+  /// The focus came or went, or the widget has another size: its edge shows who has the focus.
+  void MarkFocus(const QEvent& event);
   /// The focus came to the widget by a way of Qt's own.
   void FocusCame();
   /// A click that neither mouse nor keys did: a screen reader's.
@@ -142,6 +146,7 @@ class PlacedView : public ControlView {
 
  private:
   Qt::MouseButtons pressed_ = Qt::NoButton;  // each gets its own release
+  FocusEdge* edge_ = nullptr;                // the widget's, made at the first focus
 };
 
 }  // namespace veldrin

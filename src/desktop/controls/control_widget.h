@@ -29,6 +29,7 @@ class ControlWidget : public Base, public PlacedView {
     // Qt tells a widget that is off of no wheel.
     if (event->type() == QEvent::Wheel && !this->isEnabled()) return HandOnWheel(*event);
     const bool served = Base::event(event);
+    MarkFocus(*event);
     if (event->type() == QEvent::FocusIn) FocusCame();
     return served;
   }

@@ -22,8 +22,7 @@ MenuView::MenuView(Menu& menu, Stage& stage) : ControlView(menu, stage), action_
 
 QMenu& MenuView::Submenu() {
   if (!submenu_) {
-    submenu_.reset(new QMenu);
-    submenu_->setToolTipsVisible(true);
+    submenu_.reset(new HintedMenu);
     action_->setMenu(submenu_.get());
   }
   return *submenu_;
@@ -43,18 +42,35 @@ void MenuView::Take(std::string_view slot) {
 void MenuView::TakeHint() {
   const QString hint = HintText();
   if (action_->statusTip() == hint) return;
-  // Qt takes the caption where there is no tip, and shows it below the entry itself.
+  // Qt takes the caption for a tip where there is none.
   action_->setToolTip(hint);
   action_->setStatusTip(hint);
 }
 
-bool HintedMenuBar::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QMenuBar::event(event);
+template <class Base>
+bool Hinted<Base>::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return Base::event(event);
   const auto& help = static_cast<const QHelpEvent&>(*event);
-  const QAction* const entry = actionAt(help.pos());
-  QToolTip::showText(help.globalPos(), entry == nullptr ? QString() : entry->statusTip(), this);
+  ShowHint(help.globalPos(), this->actionAt(help.pos()));
   return true;
 }
+
+template <class Base>
+void Hinted<Base>::keyPressEvent(QKeyEvent* event) {
+  QAction* const entry = this->activeAction();
+  if (event->key() != Qt::Key_F1 || event->modifiers() != Qt::ShiftModifier || entry == nullptr) {
+    return Base::keyPressEvent(event);
+  }
+  ShowHint(this->mapToGlobal(this->actionGeometry(entry).bottomLeft()), entry);
+}
+
+template <class Base>
+void Hinted<Base>::ShowHint(const QPoint& place, const QAction* entry) {
+  QToolTip::showText(place, entry == nullptr ? QString() : entry->statusTip(), this);
+}
+
+template class Hinted<QMenu>;
+template class Hinted<QMenuBar>;
 
 Shown MenuView::WhatShows() const {
   Shown shown;

@@ -34,14 +34,22 @@ class MenuView : public ControlView {
   std::unique_ptr<QMenu, Later> submenu_;
 };
 
-/// A menu bar whose entries have hints.
-class HintedMenuBar : public QMenuBar {
+/// A menu, or a menu bar, whose entries have hints: under the pointer, and by Shift+F1.
+template <class Base>
+class Hinted : public Base {
  public:
-  using QMenuBar::QMenuBar;
+  using Base::Base;
 
  protected:
   bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void ShowHint(const QPoint& place, const QAction* entry);
 };
+
+using HintedMenu = Hinted<QMenu>;
+using HintedMenuBar = Hinted<QMenuBar>;
 
 /// The caption of an entry for Qt: "&" marks a key in "(&X)" alone, elsewhere, as in a path, it is itself.
 QString MenuText(const std::string& caption);

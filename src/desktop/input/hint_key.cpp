@@ -9,7 +9,8 @@
 namespace veldrin {
 
 bool ServeHint(const Stage& stage, const Window& window, const QWidget& inside, const QKeyEvent& event) {
-  if (event.key() != Qt::Key_F1 || event.modifiers() != Qt::ShiftModifier) return false;
+  if (event.key() != Qt::Key_F1 || event.modifiers() != Qt::ShiftModifier || ReachesStrip(inside))
+    return false;
   const auto* form = dynamic_cast<const FormWidget*>(inside.window());
   const Control* const reached = ReachedIn(inside);
   const Control* const control = reached != nullptr ? reached : window.focus;
