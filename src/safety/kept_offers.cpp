@@ -165,7 +165,9 @@ void KeptOffers::Open() {
   net_->Adopt(reopened.ground);
   // The new copy is on the disk before the old one goes.
   net_->Secure();
-  RemoveKept(net_->Folder(), offers_.front().id, kept.planFile);
+  KeepFolder& folder = net_->Folder();
+  const bool keptAnew = net_->KeptId().empty() || folder.Read(net_->KeptId() + ".kept").has_value();
+  if (keptAnew) RemoveKept(folder, offers_.front().id, kept.planFile);
   Next();
 }
 

@@ -209,7 +209,11 @@ std::string KeptText(const KeptPlan& kept) {
   Teller tell(text);
   CarryKept(tell, kept);
   if (kept.plan.requests) CarryRequests(tell, *kept.plan.requests);
-  return text + std::string(kCheck) + SumOf(text) + "\n";
+  return WithKeptSum(text);
+}
+
+std::string WithKeptSum(const std::string& lines) {
+  return lines + std::string(kCheck) + SumOf(lines) + "\n";
 }
 
 ReadKept ParseKept(std::string_view text) {

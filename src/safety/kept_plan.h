@@ -40,6 +40,9 @@ struct KeptPlan {
 
 std::string KeptText(const KeptPlan& kept);
 
+/// Lines with the sum that belongs below them.
+std::string WithKeptSum(const std::string& lines);
+
 /// Why a text is no kept plan.
 enum class KeptFlaw { None, Damaged, Newer };
 

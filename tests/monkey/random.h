@@ -1,10 +1,12 @@
-// The one source of chance of a sequence: the same numbers give the same sequence on every system.
+// The one source of chance of a sequence: the same numbers give the same sequence on every system. Bytes can
+// take the place of chance, two for each decision, so that a fuzzer leads the user.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <numeric>
 #include <random>
+#include <utility>
 #include <vector>
 
 namespace veldrin::monkey {
@@ -12,9 +14,11 @@ namespace veldrin::monkey {
 class Random {
  public:
   Random(std::uint64_t seed, std::uint64_t sequence) : engine_(seed * 0x9E3779B97F4A7C15U + sequence) {}
+  /// Where the bytes are at their end, chance goes on, always the same.
+  explicit Random(std::vector<std::uint8_t> bytes) : bytes_(std::move(bytes)) {}
 
   /// From 0 to `count` - 1.
-  int Below(int count) { return static_cast<int>(engine_() % static_cast<std::uint64_t>(count)); }
+  int Below(int count) { return static_cast<int>(Next() % static_cast<std::uint64_t>(count)); }
   /// From `lowest` to `highest`, both included.
   int Between(int lowest, int highest) { return lowest + Below(highest - lowest + 1); }
   /// True in `percent` of 100 cases.
@@ -40,7 +44,15 @@ class Random {
   }
 
  private:
+  std::uint64_t Next() {
+    if (bytes_.size() - at_ < 2) return engine_();
+    at_ += 2;
+    return bytes_[at_ - 2] * 256U + bytes_[at_ - 1];
+  }
+
   std::mt19937_64 engine_;
+  std::vector<std::uint8_t> bytes_;
+  std::size_t at_ = 0;
 };
 
 }  // namespace veldrin::monkey

@@ -9,6 +9,7 @@
 
 #include <deque>
 #include <memory>
+#include <utility>
 
 namespace veldrin::monkey {
 
@@ -21,7 +22,7 @@ constexpr int kMostStarts = 3;
 
 class User {
  public:
-  User(std::uint64_t seed, std::uint64_t sequence) : random_(seed, sequence) {
+  explicit User(Random random) : random_(std::move(random)) {
     actionsLeft_ = random_.Between(kFewestActions, kMostActions);
     for (std::string& line : MakeMachine(random_)) plan_.push_back(std::move(line));
     settingUp_ = true;
@@ -125,7 +126,11 @@ class User {
 }  // namespace
 
 LineSource RandomUser(std::uint64_t seed, std::uint64_t sequence) {
-  auto user = std::make_shared<User>(seed, sequence);
+  return RandomUser(Random(seed, sequence));
+}
+
+LineSource RandomUser(Random random) {
+  auto user = std::make_shared<User>(std::move(random));
   return [user](ScriptWorld& world, const Moment& now) { return user->Next(world, now); };
 }
 

@@ -10,6 +10,17 @@
 namespace veldrin {
 namespace {
 
+TEST_F(KeptOffersTest, WhatIsOpenedStaysKeptWhereItCannotBeKeptAnew) {
+  LeaveBehind(folder, kPlanPath, StepTwo);
+  const auto files = folder.files;
+  NettedProgram p(folder, "");
+  p.offers->Begin();
+  folder.fault = kFaultDiskFull;
+  p.Act(kOpen);
+  EXPECT_EQ(p.Main().Label12[2].Caption, "2B");
+  EXPECT_EQ(folder.files, files);
+}
+
 TEST_F(KeptOffersTest, OpenBringsAllBackChangedAndUnsaved) {
   LeaveBehind(folder, kPlanPath, [](NettedProgram& p) {
     StepTwo(p);
