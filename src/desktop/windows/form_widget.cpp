@@ -1,5 +1,7 @@
 #include "desktop/windows/form_widget.h"
 
+#include "desktop/controls/menu_view.h"
+
 #include <QGuiApplication>
 #include <QTimer>
 #include <QWindow>
