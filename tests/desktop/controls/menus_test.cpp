@@ -12,7 +12,7 @@
 namespace veldrin {
 namespace {
 
-class WindowsTest : public WidgetsTest {
+class MenusTest : public WidgetsTest {
  protected:
   std::vector<std::string> Differences() {
     std::vector<std::string> names;
@@ -23,7 +23,7 @@ class WindowsTest : public WidgetsTest {
   }
 };
 
-TEST_F(WindowsTest, MenusGrowAndShrinkInTheirOwnEvent) {
+TEST_F(MenusTest, MenusGrowAndShrinkInTheirOwnEvent) {
   Menu& entry = form->menu_d.Load(1);
   entry.Caption = "C:\\A&B.nx4";
   entry.Visible = true;
@@ -38,7 +38,7 @@ TEST_F(WindowsTest, MenusGrowAndShrinkInTheirOwnEvent) {
   EXPECT_EQ(Differences(), Events{});
 }
 
-TEST_F(WindowsTest, EntryThatIsGoneLeavesNothingBehind) {
+TEST_F(MenusTest, EntryThatIsGoneLeavesNothingBehind) {
   form->menu_d.Load(1).Visible = true;
   Settle();
   const QPointer<QAction> action = &dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_d[1]))->Action();
@@ -57,14 +57,14 @@ TEST_F(WindowsTest, EntryThatIsGoneLeavesNothingBehind) {
   EXPECT_EQ(action, nullptr);
 }
 
-TEST_F(WindowsTest, ASeparatorOfAMenuHasNoTextInItsLine) {
+TEST_F(MenusTest, ASeparatorOfAMenuHasNoTextInItsLine) {
   auto* view = dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_d[0]));
   ASSERT_NE(view, nullptr);
   EXPECT_TRUE(view->Action().isSeparator());
   EXPECT_EQ(view->Action().text(), "");
 }
 
-TEST_F(WindowsTest, MarksOfMenusAreKeysInBracketsAlone) {
+TEST_F(MenusTest, MarksOfMenusAreKeysInBracketsAlone) {
   EXPECT_EQ(MenuText("File(&F)"), "File(&F)");
   EXPECT_EQ(MenuText(" 640 * 480(&6)"), " 640 * 480(&6)");
   EXPECT_EQ(MenuText("/home/a&b/x.nx4"), "/home/a&&b/x.nx4");
@@ -72,7 +72,7 @@ TEST_F(WindowsTest, MarksOfMenusAreKeysInBracketsAlone) {
   EXPECT_EQ(MenuText("&"), "&&");
 }
 
-TEST_F(WindowsTest, EntryOfAMenuThatIsOffDoesNothing) {
+TEST_F(MenusTest, EntryOfAMenuThatIsOffDoesNothing) {
   form->menu_a.Enabled = false;
   dynamic_cast<MenuView*>(Widget().ViewOf(form->menu_b))->Action().trigger();
   EXPECT_EQ(events, Events{});

@@ -19,7 +19,8 @@ TEST_F(FirstStepsTest, AreThereWithAMachineAndNoPlan) {
 
 TEST_F(FirstStepsTest, ArePaintedLeftOfTheChartInBothLanguages) {
   RunEvent(*program, [&] { OpenDroppedFile(*program, "C:\\VELDRIN\\LIST\\NX4.RAT"); });
-  const double chart = program->form2.Picture21.Left / 15.0;
+  const double zoom = stage.zoom.Factor();
+  const double chart = Widget().Client().PlaceOf(WidgetOf(program->form2.Picture21)).left() / zoom;
   QImage none(700, 500, QImage::Format_RGB32);
   none.fill(Qt::blue);
   QImage last;
