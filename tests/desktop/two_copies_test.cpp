@@ -1,0 +1,152 @@
+// Copies of the program that share a folder of kept plans, and keep, open, save and die at random: no kept
+// plan is lost, and none is offered by two of them at once. VELDRIN_TEST_MINUTES lets them go on for that
+// long.
+#include "machine/files/real_keep_folder.h"
+#include "tests/desktop/child_process.h"
+#include "tests/desktop/scratch_folder.h"
+#include "tests/safety/netted_program.h"
+
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <functional>
+#include <iostream>
+#include <memory>
+#include <new>
+#include <random>
+#include <set>
+#include <string>
+#include <sys/mman.h>
+#include <utility>
+
+namespace veldrin {
+namespace {
+
+constexpr int kCopies = 2;
+constexpr int kShortRun = 60;  // copies of a run of all tests
+constexpr std::size_t kMost = 1 << 20;
+
+/// What all copies know. A plan is its number, which is its remark.
+struct Ledger {
+  std::atomic<int> plans;
+  std::atomic<int> opened;
+  std::atomic<int> heldTwice;
+  std::atomic<bool> kept[kMost];
+  std::atomic<bool> done[kMost];    // saved, or edited into another one
+  std::atomic<pid_t> owner[kMost];  // by the id's hash
+};
+
+/// The folder, and who holds which plan of it.
+class WatchedFolder : public RealKeepFolder {
+ public:
+  WatchedFolder(const QString& folder, Ledger& ledger) : RealKeepFolder(folder), ledger_(&ledger) {}
+
+  std::unique_ptr<KeepClaim> Claim(const std::string& id) override {
+    std::unique_ptr<KeepClaim> claim = RealKeepFolder::Claim(id);
+    if (!claim) return nullptr;
+    std::atomic<pid_t>& owner = ledger_->owner[std::hash<std::string>()(id) % kMost];
+    const pid_t before = owner.exchange(getpid());
+    if (before != 0 && before != getpid() && kill(before, 0) == 0) ++ledger_->heldTwice;
+    return std::make_unique<Watched>(std::move(claim), owner);
+  }
+
+ private:
+  struct Watched : KeepClaim {
+    Watched(std::unique_ptr<KeepClaim> theClaim, std::atomic<pid_t>& theOwner)
+        : claim(std::move(theClaim)), owner(theOwner) {}
+    ~Watched() override { owner = 0; }
+    std::unique_ptr<KeepClaim> claim;
+    std::atomic<pid_t>& owner;
+  };
+  Ledger* ledger_;
+};
+
+int NumberOf(const std::string& remark) {
+  return std::atoi(remark.c_str());
+}
+
+/// One copy, from its start to whatever end it comes to.
+int RunCopy(const QString& folder, Ledger& ledger, unsigned seed) {
+  std::mt19937 chance(seed);
+  WatchedFolder keepFolder(folder, ledger);
+  NettedProgram p(keepFolder, kPlanPath);
+  p.offers->Begin();
+  if (p.Told() > 0 && !p.Last().actions.empty() && chance() % 2 == 0) {
+    ++ledger.opened;
+    p.Act(0);
+  }
+  for (unsigned edits = chance() % 4; edits > 0; --edits) {
+    const int before = NumberOf(p.Main().Text6.Text);
+    const int plan = ++ledger.plans;
+    ledger.done[before] = true;
+    p.Do([&] { user::EnterText(p.Main().Text6, std::to_string(plan)); });
+    if (chance() % 8 == 0) raise(SIGKILL);
+    p.net->Secure();
+    ledger.kept[plan] = true;
+  }
+  const unsigned end = chance() % 4;
+  if (end == 0) raise(SIGKILL);
+  if (end == 1) {
+    ledger.done[NumberOf(p.Main().Text6.Text)] = true;
+    p.Do([&] { p.program->hooks.Saved(); });
+  }
+  p.net->End();
+  return 0;
+}
+
+class TwoCopiesTest : public ::testing::Test, protected ScratchFolder {
+ protected:
+  TwoCopiesTest()
+      : ledger_(new (mmap(nullptr, sizeof(Ledger), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0))
+                    Ledger) {}
+  ~TwoCopiesTest() override { munmap(ledger_, sizeof(Ledger)); }
+
+  void ExpectNothingLost() {
+    RealKeepFolder keepFolder(In("state"));
+    std::set<int> there;
+    for (const std::string& name : keepFolder.KeptNames()) {
+      const ReadKept read = ParseKept(keepFolder.Read(name).value_or(""));
+      EXPECT_EQ(read.flaw, KeptFlaw::None) << name;
+      EXPECT_TRUE(keepFolder.Read(read.kept.planFile)) << name;
+      there.insert(NumberOf(read.kept.plan.remark));
+    }
+    for (int plan = 1; plan <= ledger_->plans; ++plan) {
+      EXPECT_TRUE(!ledger_->kept[plan] || ledger_->done[plan] || there.contains(plan)) << "plan " << plan;
+    }
+  }
+
+  Ledger* ledger_;
+};
+
+TEST_F(TwoCopiesTest, NoKeptPlanIsLostAndNoneIsHeldTwice) {
+  const double minutes = std::atof(qgetenv("VELDRIN_TEST_MINUTES").constData());
+  const auto begin = std::chrono::steady_clock::now();
+  const auto goesOn = [&](int copies) {
+    if (minutes == 0) return copies < kShortRun;
+    return std::chrono::steady_clock::now() - begin < std::chrono::duration<double>(minutes * 60);
+  };
+  int started = 0;
+  int running = 0;
+  int killed = 0;
+  while (goesOn(started) || running > 0) {
+    while (running < kCopies && goesOn(started)) {
+      const auto seed = static_cast<unsigned>(++started);
+      StartChild([&] { return RunCopy(In("state"), *ledger_, seed); });
+      ++running;
+    }
+    int status = 0;
+    ASSERT_GT(wait(&status), 0);
+    --running;
+    if (WIFSIGNALED(status)) ++killed;
+    EXPECT_TRUE(WIFSIGNALED(status) ? WTERMSIG(status) == SIGKILL : WEXITSTATUS(status) == 0) << status;
+  }
+  ExpectNothingLost();
+  EXPECT_EQ(ledger_->heldTwice, 0);
+  EXPECT_GT(ledger_->opened, 0);
+  EXPECT_GT(killed, 0);
+  std::cout << started << " copies, " << killed << " killed, " << ledger_->plans << " plans, "
+            << ledger_->opened << " opened" << std::endl;
+}
+
+}  // namespace
+}  // namespace veldrin
