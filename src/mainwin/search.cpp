@@ -13,14 +13,6 @@ namespace {
 
 constexpr int kBlinkColours = 15;
 
-int MainGear(const Program& program) {
-  int mainGear = 0;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    if (program.form2.Option1[gear].Value) mainGear = gear;
-  }
-  return mainGear;
-}
-
 /// The banner's blinking is the whole progress display.
 Blink BlinkBanner(Program& program) {
   return [&program](int finalRow) {
@@ -58,6 +50,14 @@ void ShowSuccess(Program& program) {
 }
 
 }  // namespace
+
+int MainGear(const Program& program) {
+  int mainGear = 0;
+  for (int gear = 1; gear <= kGears; ++gear) {
+    if (program.form2.Option1[gear].Value) mainGear = gear;
+  }
+  return mainGear;
+}
 
 bool AllGearsAuto(const Program& program) {
   for (int gear = 1; gear <= kGears; ++gear) {

@@ -6,6 +6,9 @@
 
 namespace veldrin {
 
+/// The gear that the options name for the search, 1 to 6, 0 for none.
+int MainGear(const Program& program);
+
 /// Whether all six gears read "AUTO".
 bool AllGearsAuto(const Program& program);
 

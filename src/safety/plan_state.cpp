@@ -1,30 +1,20 @@
 #include "safety/plan_state.h"
 
+#include "mainwin/search.h"
 #include "runtime/fault.h"
+#include "workspace/files/plan_file.h"
+#include "workspace/title.h"
 
 namespace veldrin {
 
 namespace {
-
-constexpr std::size_t Place(int gear) {
-  return static_cast<std::size_t>(gear) - 1;
-}
-
-std::string UnmarkedTitle(const Program& program) {
-  const std::string& title = program.form2.Caption;
-  const std::string& mark = program.workspace.ChangedMark;
-  const std::size_t at = mark.empty() ? std::string::npos : title.find(mark);
-  return title.substr(0, at);
-}
 
 RequestState TakeRequests(const Program& program) {
   const Workspace& workspace = program.workspace;
   const Form2& form2 = program.form2;
   RequestState state;
   state.byRevolutions = form2.Picture30.Visible;
-  for (int gear = 0; gear <= kGears; ++gear) {
-    if (form2.Option1[gear].Value) state.mainGear = static_cast<std::int16_t>(gear);
-  }
+  state.mainGear = static_cast<std::int16_t>(MainGear(program));
   for (int gear = 1; gear <= kGears; ++gear) {
     const std::size_t place = Place(gear);
     state.texts[place] = form2.Text1[gear].Text;
@@ -83,8 +73,7 @@ PlanState WithoutPlace(PlanState state) {
 
 std::optional<PlanState> TakeState(const Program& program) {
   const Workspace& workspace = program.workspace;
-  const bool shown = program.form2.loaded && !workspace.LoadedMachine.empty() &&
-                     !workspace.ModeWord.empty() && workspace.ModeWord != mode::kBasing;
+  const bool shown = program.form2.loaded && !workspace.LoadedMachine.empty() && HasPlanOnShow(workspace);
   if (!shown) return std::nullopt;
   std::optional<PlanState> state;
   // Speeds from a reference file stand in the place of a plan whose rows are no rows yet.

@@ -23,6 +23,11 @@ struct ChosenRow {
 template <class Value>
 using PerGear = std::array<Value, kGears>;  // 1st gear first
 
+/// Where a gear (1 to 6) stands in it.
+constexpr std::size_t Place(int gear) {
+  return static_cast<std::size_t>(gear) - 1;
+}
+
 /// What is entered while requests are. Element 0 is the 1st gear.
 struct RequestState {
   bool byRevolutions = false;

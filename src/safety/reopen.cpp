@@ -15,6 +15,7 @@
 #include "workspace/decision_panel/decision_panel.h"
 #include "workspace/files/kept_machine.h"
 #include "workspace/files/machine_list.h"
+#include "workspace/files/plan_file.h"
 #include "workspace/files/working_files.h"
 #include "workspace/title.h"
 
@@ -25,10 +26,6 @@ namespace veldrin {
 namespace {
 
 constexpr int kThirdGear = 3;
-
-constexpr std::size_t Place(int gear) {
-  return static_cast<std::size_t>(gear) - 1;
-}
 
 /// The row of a table with this text, the one with the number first; 0 where there is none.
 template <class TextOf>
@@ -85,10 +82,6 @@ bool LoadMachine(Program& program, const PlanState& kept) {
   return stands();
 }
 
-bool ShowsPlan(const Workspace& workspace) {
-  return !workspace.ModeWord.empty() && workspace.ModeWord != mode::kBasing;
-}
-
 /// What the disk has of the plan. A plan that never had a file, or whose file is gone, lies over a first
 /// plan.
 std::optional<PlanState> LayGround(Program& program, const PlanState& kept) {
@@ -96,10 +89,10 @@ std::optional<PlanState> LayGround(Program& program, const PlanState& kept) {
   const bool hasFile = !kept.file.empty() && program.machine.files.FileExists(kept.file);
   if (hasFile) Read(program, kept.file);
   DropQuestion(program);
-  const bool fromFile = hasFile && ShowsPlan(workspace) && workspace.DataFile == kept.file;
+  const bool fromFile = hasFile && HasPlanOnShow(workspace) && workspace.DataFile == kept.file;
   if (!fromFile) {
     // Only an empty window makes a first plan.
-    if (ShowsPlan(workspace)) Read(program, kept.list);
+    if (HasPlanOnShow(workspace)) Read(program, kept.list);
     program.form2.Command2.MouseUp(kLeftButton);
   }
   return fromFile || kept.file.empty() ? TakeState(program) : std::nullopt;

@@ -55,12 +55,13 @@ void SafetyNet::Take() {
   Settle(now);
   now_ = std::move(now);
   loaded_ = saved_ = restored_ = false;
-  due_ = Differs() && now_ != kept_;
+  const bool differs = Differs();
+  due_ = differs && now_ != kept_;
   if (due_) {
     // The text of the plan is made here, where the tables it needs are the plan's for certain.
     planText_.clear();
     Guarded([&] { planText_ = PlanText(program_->workspace, now_->remark); });
-  } else if (!Differs() && kept_) {
+  } else if (!differs && kept_) {
     Forget();
   }
 }

@@ -23,12 +23,16 @@ void MarkTitle(Program& program) {
   if (!TitleIsMarked(program)) program.form2.Caption = program.form2.Caption + program.workspace.ChangedMark;
 }
 
-void UnmarkTitle(Program& program) {
-  // A caption file may leave the mark empty; there is nothing to cut then.
-  if (program.workspace.ChangedMark.empty()) return;
+std::string UnmarkedTitle(const Program& program) {
   const std::string& title = program.form2.Caption;
-  const std::size_t at = title.find(program.workspace.ChangedMark);
-  if (at != std::string::npos) program.form2.Caption = title.substr(0, at);
+  const std::string& mark = program.workspace.ChangedMark;
+  // A caption file may leave the mark empty; there is nothing to cut then.
+  return mark.empty() ? title : title.substr(0, title.find(mark));
+}
+
+void UnmarkTitle(Program& program) {
+  const std::string title = UnmarkedTitle(program);
+  if (title != program.form2.Caption.get()) program.form2.Caption = title;
 }
 
 }  // namespace veldrin

@@ -19,6 +19,9 @@ bool TitleIsMarked(const Program& program);
 /// Puts the mark at the title's end, unless it stands there already.
 void MarkTitle(Program& program);
 
+/// The title up to the mark's first occurrence, whole without one.
+std::string UnmarkedTitle(const Program& program);
+
 /// Cuts the title just before the mark's first occurrence.
 void UnmarkTitle(Program& program);
 

@@ -129,9 +129,9 @@ void ShowConditionsInForce(Program& program) {
 void ShowWhatIsInForce(Program& program) {
   const Workspace& workspace = program.workspace;
   Under(program, caller::kInit, [&] { ShowConditionsInForce(program); });
-  const bool planOnShow = !workspace.ModeWord.empty() && workspace.ModeWord != mode::kBasing;
   // What was read is no change of the user's.
-  if (planOnShow) Under(program, caller::kScroll, [&] { Guarded([&] { program.hooks.RefreshPlan(); }); });
+  if (HasPlanOnShow(workspace))
+    Under(program, caller::kScroll, [&] { Guarded([&] { program.hooks.RefreshPlan(); }); });
 }
 
 // ---- The two readers ----
@@ -210,6 +210,10 @@ void ReadOrShowHowFar(Program& program, Read read) {
 }
 
 }  // namespace
+
+bool HasPlanOnShow(const Workspace& workspace) {
+  return !workspace.ModeWord.empty() && workspace.ModeWord != mode::kBasing;
+}
 
 void ReadPlanFile(Program& program) {
   DropQuestion(program);  // its plan gives way

@@ -1,7 +1,7 @@
 // Menus, as their entries come and go.
 #include "desktop/controls/menu_view.h"
+#include "tests/desktop/shown_differences.h"
 #include "tests/desktop/test_window.h"
-#include "window_script/shown_check.h"
 
 #include <QPointer>
 #include <gtest/gtest.h>
@@ -14,13 +14,7 @@ namespace {
 
 class MenusTest : public WidgetsTest {
  protected:
-  std::vector<std::string> Differences() {
-    std::vector<std::string> names;
-    for (const Mismatch& mismatch : DifferencesIn(Widget(), stage)) {
-      names.push_back(mismatch.name + ": " + mismatch.slot + " / " + mismatch.shown);
-    }
-    return names;
-  }
+  Events Differences() { return DifferenceLines(Widget(), stage); }
 };
 
 TEST_F(MenusTest, MenusGrowAndShrinkInTheirOwnEvent) {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "desktop/windows/placement.h"
+#include "tests/desktop/shown_differences.h"
 #include "tests/desktop/test_window.h"
-#include "window_script/shown_check.h"
 
 #include <QScreen>
 #include <QScrollBar>
@@ -49,13 +49,7 @@ class FormWidgetTest : public WidgetsTest {
   /// The program's size in pixels, as far as it is inside of the frame.
   QSize TwipsInPixels() { return ClientPixels(*form, stage.zoom); }
 
-  Events Differences() {
-    Events names;
-    for (const Mismatch& mismatch : DifferencesIn(Widget(), stage)) {
-      names.push_back(mismatch.name + ": " + mismatch.slot + " / " + mismatch.shown);
-    }
-    return names;
-  }
+  Events Differences() { return DifferenceLines(Widget(), stage); }
 };
 
 }  // namespace veldrin

@@ -1,8 +1,8 @@
 #include "desktop/controls/menu_view.h"
 #include "desktop/windows/placement.h"
 #include "program/event_boundary.h"
+#include "tests/desktop/shown_differences.h"
 #include "tests/desktop/test_window.h"
-#include "window_script/shown_check.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -21,13 +21,7 @@ namespace {
 
 class WindowsTest : public WidgetsTest {
  protected:
-  std::vector<std::string> Differences() {
-    std::vector<std::string> names;
-    for (const Mismatch& mismatch : DifferencesIn(Widget(), stage)) {
-      names.push_back(mismatch.name + ": " + mismatch.slot + " / " + mismatch.shown);
-    }
-    return names;
-  }
+  Events Differences() { return DifferenceLines(Widget(), stage); }
 };
 
 TEST_F(WindowsTest, NewWindowShowsWhatItsSlotsSay) {
