@@ -2,7 +2,9 @@
 
 BUILD_PACKAGES=(g++ cmake ninja-build python3)
 DESKTOP_PACKAGES=(qt6-base-dev qt6-translations-l10n fonts-liberation fonts-noto-cjk)
-TEST_PACKAGES=(libgtest-dev mold clang-format git poppler-utils shared-mime-info xdg-utils desktop-file-utils)
+TEST_PACKAGES=(libgtest-dev mold clang-format git poppler-utils shared-mime-info xdg-utils desktop-file-utils
+  appstream libglib2.0-bin mandoc)
+PACKAGE_PACKAGES=(dpkg-dev git)
 
 # quietly LOG COMMAND...: the output goes to LOG and is shown only when the command fails, without the lines
 # that merely count steps.
@@ -42,4 +44,10 @@ build() {
     quietly "$folder/configure.log" cmake --preset "$preset"
   fi
   quietly "$folder/build.log" cmake --build --preset "$preset" ${1:+--target "$@"}
+}
+
+# source_date: when the source was made, in seconds since 1970: the commit's time; in an unpacked source archive the time
+# that all of its files bear.
+source_date() {
+  if [ -e .git ]; then git log -1 --format=%ct; else stat -c %Y CHANGELOG.md; fi
 }

@@ -1,7 +1,7 @@
 #include "desktop/windows/look.h"
 
 #include "desktop/accessible/accessible_control.h"
-#include "machine/painting/artwork.h"
+#include "machine/painting/icons.h"
 
 #include <QLibraryInfo>
 #include <QLocale>
@@ -36,6 +36,7 @@ void SetUpLook(QApplication& application) {
   TranslateBoxes(application);
   QApplication::setWindowIcon(ProgramIcon());
   application.setApplicationName("veldrin");
+  QGuiApplication::setDesktopFileName("veldrin");  // the entry whose icon the desktop shows
   application.setApplicationVersion(VELDRIN_VERSION);
 }
 

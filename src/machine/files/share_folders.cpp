@@ -9,13 +9,15 @@ QStringList ShareFolders(const QString& program) {
   QStringList folders;
   QDir around(program);
   do {
-    folders += around.filePath("share");
+    for (const char* name : {"share", VELDRIN_DATA_FOLDER}) folders += around.filePath(name);
   } while (around.cdUp());
   const auto data = QStandardPaths::GenericDataLocation;
   for (const QString& folder : QStandardPaths::standardLocations(data)) {
     if (folder != QStandardPaths::writableLocation(data)) folders += folder;
   }
-  return folders + QStringList{"/usr/local/share", "/usr/share"};
+  folders += {"/usr/local/share", "/usr/share"};
+  folders.removeDuplicates();
+  return folders;
 }
 
 }  // namespace veldrin

@@ -44,6 +44,7 @@ namespace veldrin {
 namespace {
 
 constexpr char kDesktopEntry[] = "veldrin-plan.desktop";
+constexpr char kInstalledEntry[] = "veldrin.desktop";
 constexpr char kType[] = "application/x-veldrin-plan";
 
 QString DataFolder() {
@@ -65,6 +66,15 @@ QString PackageFile(const QString& extension) {
 
 QString DesktopFile() {
   return EntryFolder() + "/" + kDesktopEntry;
+}
+
+/// Whether the desktop has an entry that was installed with this very program, so that the user needs none.
+bool HasInstalledEntry() {
+  const QString place = QString("applications/") + kInstalledEntry;
+  if (QStandardPaths::locate(QStandardPaths::GenericDataLocation, place).isEmpty()) return false;
+  const QFileInfo started(QStandardPaths::findExecutable("veldrin"));
+  return started.canonicalFilePath() ==
+         QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
 }
 
 /// A pattern that matches names with this extension, in small letters as the database wants it for any case.
@@ -100,16 +110,19 @@ QString ExecWord(const QString& path) {
   return "\"" + word.replace("\\", "\\\\") + "\"";
 }
 
+/// TryExec hides the entry once the program has gone.
 QString Entry() {
+  const QString program = QCoreApplication::applicationFilePath();
   return QString(
              "[Desktop Entry]\n"
              "Type=Application\n"
              "Name=Veldrin\n"
              "Name[ja]=べるどりん君\n"
              "Exec=%1 %f\n"
+             "TryExec=%2\n"
              "NoDisplay=true\n"
-             "MimeType=%2;\n")
-      .arg(ExecWord(QCoreApplication::applicationFilePath()), kType);
+             "MimeType=%3;\n")
+      .arg(ExecWord(program), QString(program).replace("\\", "\\\\"), kType);
 }
 
 bool WriteFile(const QString& path, const QString& text) {
@@ -134,9 +147,14 @@ void TakeIn(const QList<QStringList>& more) {
 
 void AssociateOnDesktop(const QString& extension) {
   if (extension.isEmpty() || !HasDatabase()) return;
+  const bool installed = HasInstalledEntry();
   // The package last: without the entry it would tie the files to nothing.
-  if (!WriteFile(DesktopFile(), Entry()) || !WriteFile(PackageFile(extension), Package(extension))) return;
-  TakeIn({{"update-desktop-database", EntryFolder()}, {"xdg-mime", "default", kDesktopEntry, kType}});
+  if (!installed && !WriteFile(DesktopFile(), Entry())) return;
+  if (!WriteFile(PackageFile(extension), Package(extension))) return;
+  // One of a time before the program was installed would stand beside the installed one.
+  if (installed) QFile::remove(DesktopFile());
+  TakeIn({{"update-desktop-database", EntryFolder()},
+          {"xdg-mime", "default", installed ? kInstalledEntry : kDesktopEntry, kType}});
 }
 
 void DropOnDesktop(const QString& extension) {

@@ -5,6 +5,10 @@
 //   DATA/mime/packages/veldrin-EXTENSION.xml     the extension's pattern
 //   DATA/applications/veldrin-plan.desktop       the program, as long as one extension is tied
 //
+// A program that was installed with an entry of its own, veldrin.desktop, is opened by that one, and the user
+// gets none. The installed package of the database knows plans by the same type, so that neither takes files
+// from the other.
+//
 // The desktop's own tools take them in, a moment after the functions have returned; where they are not
 // installed, nothing happens at all. Windows has its registry for this and is only told that it changed.
 #pragma once

@@ -1,14 +1,10 @@
 #include "machine/painting/artwork.h"
 
+#include "machine/painting/figures.h"
 #include "machine/painting/fonts.h"
 #include "view/forms/form10.h"
 
-#include <QPainterPath>
-#include <QPixmap>
-
-#include <algorithm>
-#include <cmath>
-#include <numbers>
+#include <utility>
 
 namespace veldrin {
 
@@ -23,57 +19,12 @@ constexpr QColor kNight(10, 14, 60);
 constexpr QColor kSteel(190, 198, 214);
 constexpr QColor kGlow(255, 205, 60);
 
-/// A sprocket around the origin: `teeth` of them between two radii.
-QPainterPath Sprocket(int teeth, double outer, double inner, double hole) {
-  QPainterPath path;
-  const double pitch = 2 * std::numbers::pi / teeth;
-  for (int tooth = 0; tooth < teeth; ++tooth) {
-    for (const auto& [share, radius] : {std::pair{0.0, inner}, {0.28, inner}, {0.42, outer}, {0.72, outer}}) {
-      const double angle = pitch * (tooth + share);
-      const QPointF point(radius * std::cos(angle), radius * std::sin(angle));
-      if (tooth == 0 && share == 0) {
-        path.moveTo(point);
-      } else {
-        path.lineTo(point);
-      }
-    }
-  }
-  path.closeSubpath();
-  path.addEllipse(QPointF(), hole, hole);
-  return path;
-}
-
 void PaintSprocket(QPainter& painter, QPointF middle, int teeth, double radius, const QColor& colour) {
-  painter.save();
-  painter.translate(middle);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(colour);
-  QPainterPath body = Sprocket(teeth, radius, radius * 0.86, radius * 0.2);
-  constexpr int kHoles = 5;
-  for (int i = 0; i < kHoles; ++i) {
-    const double angle = 2 * std::numbers::pi * i / kHoles;
-    body.addEllipse(QPointF(std::cos(angle), std::sin(angle)) * radius * 0.53, radius * 0.16, radius * 0.16);
-  }
-  painter.drawPath(body);
-  painter.restore();
+  painter.fillPath(SprocketFigure(middle, teeth, radius), colour);
 }
 
-/// The saw-tooth of six gears, within `room`.
 void PaintSawTooth(QPainter& painter, const QRectF& room, const QColor& colour, double width) {
-  constexpr double kSpeeds[] = {0.42, 0.55, 0.67, 0.79, 0.9, 1.0};
-  const auto at = [&](double x, double y) {
-    return QPointF(room.left() + x * room.width(), room.bottom() - y * room.height());
-  };
-  QPainterPath path(at(0, 0));
-  double before = 0;
-  for (const double speed : kSpeeds) {
-    if (before > 0) path.lineTo(at(before / speed * 0.92, before));
-    path.lineTo(at(0.92, speed));
-    before = speed;
-  }
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.drawPath(path);
+  painter.strokePath(SawToothFigure(room), QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 bool IsClose(int number) {
@@ -155,25 +106,6 @@ void PaintWindowPicture(QPainter& painter, const QRectF& room, const std::string
   painter.scale(room.width() / 7170, room.height() / 4830);
   PaintAbout(painter);
   painter.restore();
-}
-
-QIcon ProgramIcon() {
-  QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / 64.0, size / 64.0);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 128));
-    painter.drawRoundedRect(QRectF(1, 1, 62, 62), 9, 9);
-    PaintSprocket(painter, {32, 32}, 17, 27, QColor(120, 140, 220));
-    PaintSawTooth(painter, {10, 10, 46, 44}, Qt::white, std::max(3.0, 110.0 / size));
-    painter.end();
-    icon.addPixmap(pixmap);
-  }
-  return icon;
 }
 
 }  // namespace veldrin

@@ -1,8 +1,6 @@
-// The pictures that the windows show by number, and the program's icon. They are drawn here, so that they are
-// sharp at every zoom.
+// The pictures that the windows show by number. They are drawn here, so that they are sharp at every zoom.
 #pragma once
 
-#include <QIcon>
 #include <QPainter>
 #include <QRectF>
 
@@ -16,7 +14,5 @@ void PaintImage(QPainter& painter, const QRectF& room, int number);
 /// Paints what lies behind the controls of a window that has a picture for that, by the window's name; other
 /// windows have none. `room` is the window at its full height.
 void PaintWindowPicture(QPainter& painter, const QRectF& room, const std::string& window);
-
-QIcon ProgramIcon();
 
 }  // namespace veldrin

@@ -2,6 +2,7 @@
 
 #include "tests/desktop/inherited_pipe.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
@@ -34,6 +35,8 @@ class RealAssociationTest : public ::testing::Test {
   void TearDown() override {
     qunsetenv("XDG_DATA_HOME");
     qunsetenv("XDG_CONFIG_HOME");
+    qunsetenv("XDG_DATA_DIRS");
+    qputenv("PATH", path);
   }
 
   /// Ties or unties an extension and waits until the desktop's tools have taken that in.
@@ -44,6 +47,23 @@ class RealAssociationTest : public ::testing::Test {
   void Untie(const QString& extension) {
     DropOnDesktop(extension);
     EXPECT_TRUE(tools.AwaitEnd());
+  }
+
+  /// Makes this program one that was installed with its entry, reached by PATH under its name.
+  void Install() {
+    QDir(folder.path()).mkpath("installed/applications");
+    QDir(folder.path()).mkpath("bin");
+    QFile entry(folder.path() + "/installed/applications/veldrin.desktop");
+    ASSERT_TRUE(entry.open(QIODevice::WriteOnly));
+    entry.write("[Desktop Entry]\nType=Application\nName=Veldrin\nExec=veldrin %f\n");
+    ASSERT_TRUE(QFile::link(QCoreApplication::applicationFilePath(), folder.path() + "/bin/veldrin"));
+    qputenv("XDG_DATA_DIRS", (folder.path() + "/installed:/usr/share").toUtf8());
+    qputenv("PATH", folder.path().toUtf8() + "/bin:" + path);
+  }
+
+  QByteArray DefaultApplications() const {
+    return BytesOf(folder.path() + "/config/mimeapps.list") + "\n" +
+           BytesOf(folder.path() + "/applications/mimeapps.list");
   }
 
   QByteArray Patterns() const { return BytesOf(folder.path() + "/mime/globs2"); }
@@ -61,6 +81,7 @@ class RealAssociationTest : public ::testing::Test {
   }
 
   QTemporaryDir folder;
+  const QByteArray path = qgetenv("PATH");
   InheritedPipe tools;
 };
 
@@ -104,14 +125,49 @@ TEST_F(RealAssociationTest, ExtensionsOfEveryLengthAreTiedAndUntied) {
 
 TEST_F(RealAssociationTest, TheProgramBecomesTheDefaultOfItsFiles) {
   Tie("nx4");
-  const QByteArray inConfig = BytesOf(folder.path() + "/config/mimeapps.list");
-  const QByteArray inData = BytesOf(folder.path() + "/applications/mimeapps.list");
-  const QByteArray both = inConfig + "\n" + inData;
+  const QByteArray both = DefaultApplications();
   EXPECT_TRUE(both.contains("[Default Applications]\n")) << both.constData();
   EXPECT_TRUE(both.split('\n').contains("application/x-veldrin-plan=veldrin-plan.desktop"))
       << both.constData();
   const QByteArray known = BytesOf(folder.path() + "/applications/mimeinfo.cache");
   EXPECT_TRUE(known.contains("application/x-veldrin-plan=veldrin-plan.desktop;")) << known.constData();
+}
+
+TEST_F(RealAssociationTest, AnEntryIsPassedOverOnceItsProgramHasGone) {
+  Tie("nx4");
+  const QByteArray line = "TryExec=" + QCoreApplication::applicationFilePath().toUtf8() + "\n";
+  EXPECT_TRUE(BytesOf(Entry()).contains(line)) << BytesOf(Entry()).constData();
+}
+
+TEST_F(RealAssociationTest, TheEntryThatTheProgramWasInstalledWithServesItsFiles) {
+  Install();
+  Tie("nx4");
+  EXPECT_FALSE(QFile::exists(Entry()));
+  EXPECT_EQ(OwnPatterns(), Lines{"60:application/x-veldrin-plan:*.nx4"});
+  EXPECT_TRUE(DefaultApplications().split('\n').contains("application/x-veldrin-plan=veldrin.desktop"))
+      << DefaultApplications().constData();
+  Untie("nx4");
+  EXPECT_EQ(OwnPatterns(), Lines{});
+}
+
+TEST_F(RealAssociationTest, TheUsersEntryGoesWhenTheProgramHasBeenInstalled) {
+  Tie("nx4");
+  ASSERT_TRUE(QFile::exists(Entry()));
+  Install();
+  Tie("vt2");
+  EXPECT_FALSE(QFile::exists(Entry()));
+  EXPECT_EQ(OwnPatterns(),
+            (Lines{"60:application/x-veldrin-plan:*.nx4", "60:application/x-veldrin-plan:*.vt2"}));
+  EXPECT_TRUE(DefaultApplications().split('\n').contains("application/x-veldrin-plan=veldrin.desktop"))
+      << DefaultApplications().constData();
+}
+
+TEST_F(RealAssociationTest, TheEntryOfAnotherCopyDoesNotServe) {
+  Install();
+  QFile::remove(folder.path() + "/bin/veldrin");
+  ASSERT_TRUE(QFile::link("/bin/true", folder.path() + "/bin/veldrin"));
+  Tie("nx4");
+  EXPECT_TRUE(QFile::exists(Entry()));
 }
 
 TEST_F(RealAssociationTest, WithoutItsEntryNoExtensionIsTied) {
