@@ -3,6 +3,7 @@
 #include "runtime/text.h"
 #include "runtime/utf8.h"
 
+#include <algorithm>
 #include <array>
 
 namespace veldrin {
@@ -10,13 +11,16 @@ namespace veldrin {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr char kGap = '?';
 
 /// Characters of the bytes 0x80..0x9F; 0 where there is none.
 constexpr std::array<char32_t, 32> kWesternHigh = {
     0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+bool IsAscii(std::string_view bytes) {
+  return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
 
 /// The byte of a character in code page 1252; -1 when it has none.
 int WesternByte(char32_t code) {
@@ -78,15 +82,16 @@ std::string TextEncoding::Encode(const std::string& path, std::string_view text)
   // nor for bytes that would pass for UTF-8.
   const std::optional<std::string> bytes = EncodePage(form.page, text);
   if (bytes && DecodeInPage(pages_, FormOf(*bytes).page, *bytes) == text) return *bytes;
-  if (pages_.systemPage == kUtf8Page) return std::string(text);
-  return EncodeWithGaps(pages_.systemPage, text);
+  return std::string(text);
 }
 
 TextEncoding::Form TextEncoding::FormOf(std::string_view bytes) const {
-  if (pages_.systemPage == kUtf8Page && IsValidUtf8(bytes))
+  const bool utf8System = pages_.systemPage == kUtf8Page;
+  // Plain ASCII is both; what comes to stand in such a file is for the programs of this system.
+  if (IsValidUtf8(bytes) && (utf8System || !IsAscii(bytes)))
     return {kUtf8Page, bytes.starts_with(kByteOrderMark)};
   const int foreign = pages_.japanese ? kJapanesePage : kWesternPage;
-  const int page = pages_.systemPage == kUtf8Page ? foreign : pages_.systemPage;
+  const int page = utf8System ? foreign : pages_.systemPage;
   return {DecodeInPage(pages_, page, bytes) ? page : kWesternPage, false};
 }
 
@@ -94,17 +99,6 @@ std::optional<std::string> TextEncoding::EncodePage(int page, std::string_view t
   if (page == kWesternPage) return EncodeWestern(text);
   if (!pages_.encode) return std::nullopt;
   return pages_.encode(page, text);
-}
-
-std::string TextEncoding::EncodeWithGaps(int page, std::string_view text) const {
-  if (const std::optional<std::string> whole = EncodePage(page, text)) return *whole;
-  std::string bytes;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t length = CodePointAt(text, at).bytes;
-    bytes += EncodePage(page, text.substr(at, length)).value_or(std::string(1, kGap));
-    at += length;
-  }
-  return bytes;
 }
 
 }  // namespace veldrin

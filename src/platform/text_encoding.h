@@ -1,13 +1,22 @@
-// The rule for texts on the disk. In memory texts are UTF-8; on the disk they are in the system's code page.
+// The rule for texts on the disk. In memory texts are UTF-8; on the disk they are in the system's code page,
+// or in UTF-8 where they were read so or where the page cannot hold them.
 //
 //   system's page   a file is read as                                   and written in
-//   932, 1252, ...  that page                                           that page, "?" for what does not fit
+//   932, 1252, ...  UTF-8 where it is valid, else that page; plain      UTF-8 when it was read as such; else
+//                   ASCII counts as that page                           that page, when the text reads back
+//                                                                       the same, else UTF-8
 //   65001 (UTF-8)   UTF-8 where it is valid, else as code page 932      the page it was read in, when the
 //                   on a Japanese system and 1252 elsewhere             text reads back the same, else UTF-8
 //
-// So files from Windows machines open everywhere and go back as they came. A file that its page cannot
-// decode is read as 1252, in which every byte is a character. Files are told apart by their paths, which
-// should come as the machine spells them; a path that was not read is written in the system's page.
+// So files open everywhere and go back as they came: a plan from Linux stays one that Linux reads, and what
+// is new on a Windows machine stands in its page, which every program there reads, as long as the page has
+// the characters. Where it has not, UTF-8 loses nothing, while a question mark would. Text of a page hardly
+// ever happens to be valid UTF-8 (in 932 nothing but pairs of half-width katakana, such as C2 B1, is within
+// reach); where it would, it is not written in the page.
+//
+// A file that its page cannot decode is read as 1252, in which every byte is a character. Files are told
+// apart by their paths, which should come as the machine spells them; one that was not read counts as plain
+// ASCII.
 #pragma once
 
 #include <functional>
@@ -50,8 +59,7 @@ class TextEncoding {
  public:
   explicit TextEncoding(CodePages pages) : pages_(std::move(pages)) {}
 
-  /// The text of a file, and keeps for Encode how its bytes were read. Where the system's page is UTF-8, a
-  /// byte order mark is dropped.
+  /// The text of a file, and keeps for Encode how its bytes were read. A byte order mark is dropped.
   std::string Decode(const std::string& path, std::string_view bytes);
 
   /// The bytes for a file of this text. A byte order mark that was dropped stands again at its front.
@@ -66,7 +74,6 @@ class TextEncoding {
 
   Form FormOf(std::string_view bytes) const;
   std::optional<std::string> EncodePage(int page, std::string_view text) const;
-  std::string EncodeWithGaps(int page, std::string_view text) const;
 
   CodePages pages_;
   std::map<std::string, Form> forms_;  // by path, the case of its letters aside

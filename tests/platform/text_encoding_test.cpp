@@ -5,7 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <iconv.h>
+#include <iterator>
+#include <random>
 #include <string>
+#include <utility>
 
 namespace veldrin {
 namespace {
@@ -178,21 +181,85 @@ TEST(TextEncoding, SystemsPageServesForBoth) {
   TextEncoding japanese(Pages(kJapanesePage, true));
   EXPECT_EQ(japanese.Decode(kPath, kRainBytes), kRain);
   EXPECT_EQ(japanese.Encode(kPath, kRain), kRainBytes);
-  // Bytes that are valid UTF-8 as well are read in the page all the same.
-  EXPECT_EQ(japanese.Decode(kPath, "\xC2\xB1"), "ﾂｱ");
-  EXPECT_EQ(japanese.Encode(kPath, "ﾂｱ"), "\xC2\xB1");
 
   TextEncoding western(Pages(kWesternPage, false));
-  EXPECT_EQ(western.Decode(kPath, "\xC3\xA9"), "Ã©");
-  EXPECT_EQ(western.Encode(kPath, "Ã©"), "\xC3\xA9");
-  EXPECT_EQ(western.Decode(kPath, "\xEF\xBB\xBF"), "ï»¿");
+  EXPECT_EQ(western.Decode(kPath, "caf\xE9"), "café");
+  EXPECT_EQ(western.Encode(kPath, "café"), "caf\xE9");
 }
 
-TEST(TextEncoding, SystemsPageWritesAQuestionMarkForWhatDoesNotFit) {
-  EXPECT_EQ(TextEncoding(Pages(kWesternPage, false)).Encode(kPath, "é雨a"), "\xE9?a");
-  EXPECT_EQ(TextEncoding(Pages(kJapanesePage, true)).Encode(kPath, "é雨a"),
-            "?\x89\x4A"
-            "a");
+TEST(TextEncoding, Utf8FromAnotherSystemIsKnownBeforeTheSystemsPage) {
+  for (const int page : {kJapanesePage, kWesternPage}) {
+    TextEncoding encoding(Pages(page, page == kJapanesePage));
+    EXPECT_EQ(encoding.Decode(kPath, kRain), kRain) << page;
+    EXPECT_EQ(encoding.Encode(kPath, kRain), kRain) << page << ": it goes back as it came";
+    EXPECT_EQ(encoding.Encode(kPath, "雨 é"), "雨 é") << page;
+    const std::string marked = "\xEF\xBB\xBF";
+    EXPECT_EQ(encoding.Decode(kPath, marked + "LIST\r\n"), "LIST\r\n") << page;
+    EXPECT_EQ(encoding.Encode(kPath, "LIST\r\n"), marked + "LIST\r\n") << page;
+  }
+}
+
+TEST(TextEncoding, PlainLettersBelongToTheSystemsPage) {
+  TextEncoding encoding(Pages(kJapanesePage, true));
+  EXPECT_EQ(encoding.Decode(kPath, "FROM:NX4.RAT\r\n"), "FROM:NX4.RAT\r\n");
+  EXPECT_EQ(encoding.Encode(kPath, kRain), kRainBytes);
+}
+
+TEST(TextEncoding, ByteThatSpoilsUtf8LeadsToTheSystemsPage) {
+  // The letters of kRain in UTF-8, cut in the middle of the last one, are no UTF-8 any more.
+  const std::string cut = std::string("雨").substr(0, 2);
+  TextEncoding encoding(Pages(kWesternPage, false));
+  EXPECT_EQ(encoding.Decode(kPath, cut), "é›");
+  EXPECT_EQ(encoding.Encode(kPath, "é›"), cut);
+}
+
+TEST(TextEncoding, WhatDoesNotFitTheSystemsPageIsWrittenAsUtf8) {
+  TextEncoding western(Pages(kWesternPage, false));
+  TextEncoding japanese(Pages(kJapanesePage, true));
+  for (TextEncoding* encoding : {&western, &japanese}) {
+    EXPECT_EQ(encoding->Encode(kPath, "é雨a"), "é雨a");
+    EXPECT_EQ(encoding->Decode(kPath, "é雨a"), "é雨a") << "and reads back the same";
+  }
+  japanese.Decode(kPath, kRainBytes);
+  EXPECT_EQ(japanese.Encode(kPath, "雨 é"), "雨 é");
+  EXPECT_EQ(japanese.Encode(kPath, kRain), kRainBytes) << "without it, the page serves again";
+}
+
+TEST(TextEncoding, SystemsPageThatWouldPassForUtf8IsNotWritten) {
+  // "ﾂｱ" in 932 and "Ã©" in 1252 are C2 B1 and C3 A9, which read as "±" and "é".
+  TextEncoding japanese(Pages(kJapanesePage, true));
+  EXPECT_EQ(japanese.Decode(kPath, "\xC2\xB1"), "±");
+  TextEncoding fresh(Pages(kJapanesePage, true));
+  EXPECT_EQ(fresh.Encode(kPath, "ﾂｱ"), "ﾂｱ");
+  EXPECT_EQ(fresh.Decode(kPath, "ﾂｱ"), "ﾂｱ");
+  TextEncoding western(Pages(kWesternPage, false));
+  EXPECT_EQ(western.Encode(kPath, "Ã©"), "Ã©");
+  EXPECT_EQ(western.Decode(kPath, "Ã©"), "Ã©");
+}
+
+/// Characters of the kinds that remarks are written in: kana and kanji.
+std::string AnyRemark(std::mt19937& chance) {
+  constexpr std::pair<char32_t, char32_t> kKinds[] = {{0x3041, 0x3093}, {0x30A1, 0x30F6}, {0x4E00, 0x9FA0}};
+  std::string text;
+  while (text.size() < 3 * 12) {
+    const auto& [first, last] = kKinds[chance() % std::size(kKinds)];
+    std::string character;
+    AppendCodePoint(character, static_cast<char32_t>(first + chance() % (last - first + 1)));
+    if (Convert("CP932", "UTF-8", character)) text += character;
+  }
+  return text;
+}
+
+TEST(TextEncoding, JapaneseRemarksInTheirPageDoNotPassForUtf8) {
+  std::mt19937 chance(4);
+  for (int i = 0; i < 5000; ++i) {
+    const std::string text = AnyRemark(chance);
+    const std::string bytes = Convert("CP932", "UTF-8", text).value_or("");
+    TextEncoding encoding(Pages(kJapanesePage, true));
+    ASSERT_EQ(encoding.Decode(kPath, bytes), text);
+    ASSERT_EQ(encoding.Encode(kPath, text), bytes);
+    ASSERT_EQ(encoding.Decode(kPath, text), text);
+  }
 }
 
 TEST(TextEncoding, BytesThatThePageCannotHoldAreReadByteForByte) {
