@@ -1,6 +1,7 @@
 #include "machine/real_command_line.h"
 
 #include "machine/files/real_path.h"
+#include "platform/disk.h"
 #include "runtime/fault.h"
 
 #include <QCoreApplication>
@@ -29,7 +30,7 @@ std::vector<std::string> CommandLineWords(int count, const char* const* argument
 std::string PathOfWord(const std::string& word) {
   std::string path = word;
   // A name that the system refuses is told when it is opened.
-  Guarded([&] { path = PathText(WholePath(NativePath(word))); });
+  Guarded([&] { path = TextOfPath(WholePath(NativePath(word))); });
   return path;
 }
 

@@ -1,8 +1,7 @@
 #include "plan/system_country.h"
 
+#include "platform/process_texts.h"
 #include "runtime/text.h"
-
-#include <cstdlib>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -30,10 +29,7 @@ bool IsJapaneseSystem() {
     return std::wstring(number) == L"81";
   }
 #endif
-  return IsJapaneseLocale([](const char* name) {
-    const char* const value = std::getenv(name);
-    return std::string(value == nullptr ? "" : value);
-  });
+  return IsJapaneseLocale(VariableText);
 }
 
 }  // namespace veldrin

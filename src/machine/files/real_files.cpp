@@ -4,6 +4,7 @@
 #include "machine/files/real_fault.h"
 #include "machine/files/real_path.h"
 #include "machine/files/real_writer.h"
+#include "platform/disk.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
 
@@ -34,13 +35,12 @@ int ReadFault() {
 /// The place of a file that is there. Raises 53, 70, 75 and 76.
 fs::path FileAt(const std::string& text) {
   fs::path path = PathOnDisk(text);
-  CheckDrive(PathText(path));
+  CheckDrive(TextOfPath(path));
   std::error_code failure;
-  const fs::file_status status = fs::status(path, failure);
+  const fs::file_status status = StatusOnDisk(path, failure);
   if (status.type() == fs::file_type::none) Raise(FaultFor(failure, FileTask::Read));
   if (!fs::exists(status)) {
-    const bool inFolder = fs::is_directory(fs::status(path.parent_path(), failure));
-    Raise(inFolder ? kFaultFileNotFound : kFaultPathNotFound);
+    Raise(IsFolderOnDisk(path.parent_path()) ? kFaultFileNotFound : kFaultPathNotFound);
   }
   if (!fs::is_regular_file(status)) Raise(kFaultPathAccess);
   return path;
@@ -49,12 +49,12 @@ fs::path FileAt(const std::string& text) {
 /// The place of a folder that can be listed. Raises 68, 70, 71, 75 and 76.
 fs::path FolderAt(const std::string& text) {
   fs::path path = PathOnDisk(text);
-  CheckDrive(PathText(path));
+  CheckDrive(TextOfPath(path));
   std::error_code failure;
-  const fs::file_status status = fs::status(path, failure);
+  const fs::file_status status = StatusOnDisk(path, failure);
   if (status.type() == fs::file_type::none) Raise(FaultFor(failure, FileTask::UseFolder));
   if (!fs::is_directory(status)) Raise(kFaultPathNotFound);
-  fs::directory_iterator(path, failure);
+  EntriesOnDisk(path, failure);
   if (failure) Raise(FaultFor(failure, FileTask::UseFolder));
   return path;
 }
@@ -62,8 +62,8 @@ fs::path FolderAt(const std::string& text) {
 /// The place of a file to be written.
 fs::path TargetAt(const std::string& text) {
   fs::path path = PathOnDisk(text);
-  if (HasWildcard(PathText(path.filename()))) Raise(kFaultBadFileName);
-  CheckDrive(PathText(path));
+  if (HasWildcard(TextOfPath(path.filename()))) Raise(kFaultBadFileName);
+  CheckDrive(TextOfPath(path));
   return path;
 }
 
@@ -71,7 +71,7 @@ fs::file_type TypeOf(const std::string& text) {
   fs::file_type type = fs::file_type::none;
   Guarded([&] {
     std::error_code failure;
-    type = fs::status(PathOnDisk(text), failure).type();
+    type = StatusOnDisk(PathOnDisk(text), failure).type();
   });
   return type;
 }
@@ -92,10 +92,9 @@ template <class Wanted>
 std::vector<std::string> NamesIn(const fs::path& folder, Wanted wanted) {
   std::vector<std::pair<std::string, std::string>> found;
   std::error_code failure;
-  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end;
-       entry.increment(failure)) {
-    const std::string name = PathText(entry->path().filename());
-    if (wanted(*entry, name) && !IsHidden(entry->path())) found.emplace_back(LowerCase(name), name);
+  for (const FolderEntry& entry : EntriesOnDisk(folder, failure)) {
+    const std::string name = TextOfPath(entry.name);
+    if (!entry.isHidden && wanted(entry, name)) found.emplace_back(LowerCase(name), name);
   }
   std::sort(found.begin(), found.end());
   std::vector<std::string> names;
@@ -119,15 +118,15 @@ PathRules RealFiles::Rules() const {
 std::string RealFiles::ReadText(const std::string& path) {
   const fs::path place = FileAt(path);
   std::error_code failure;
-  const std::uintmax_t size = fs::file_size(place, failure);
+  const std::uintmax_t size = SizeOnDisk(place, failure);
   if (failure) Raise(FaultFor(failure, FileTask::Read));
   if (size > kLargestText) Raise(kFaultPathAccess);
   errno = 0;
-  std::ifstream file(place, std::ios::binary);
+  std::ifstream file(OpenablePath(place), std::ios::binary);
   if (!file) Raise(ReadFault());
   const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   if (file.bad()) Raise(ReadFault());
-  return encoding_->Decode(PathText(place), bytes);
+  return encoding_->Decode(TextOfPath(place), bytes);
 }
 
 std::unique_ptr<FileWriter> RealFiles::OpenForWriting(const std::string& path) {
@@ -143,9 +142,9 @@ void RealFiles::WriteBytes(const std::string& path, std::string_view bytes) {
 void RealFiles::Delete(const std::string& path) {
   const fs::path place = FileAt(path);
   std::error_code failure;
-  const fs::perms permissions = fs::status(place, failure).permissions();
+  const fs::perms permissions = StatusOnDisk(place, failure).permissions();
   if ((permissions & fs::perms::owner_write) == fs::perms::none) Raise(kFaultPermissionDenied);
-  fs::remove(place, failure);
+  RemoveOnDisk(place, failure);
   if (failure) Raise(FaultFor(failure, FileTask::Write));
 }
 
@@ -154,13 +153,13 @@ void RealFiles::Respell(const std::string& path) {
   const fs::path wanted = place.parent_path() / NativePath(path).filename();
   if (place == wanted) return;
   std::error_code failure;
-  fs::rename(place, wanted, failure);
+  RenameOnDisk(place, wanted, failure);
   if (failure) Raise(FaultFor(failure, FileTask::Write));
 }
 
 std::int64_t RealFiles::Size(const std::string& path) {
   std::error_code failure;
-  const std::uintmax_t size = fs::file_size(FileAt(path), failure);
+  const std::uintmax_t size = SizeOnDisk(FileAt(path), failure);
   if (failure) Raise(FaultFor(failure, FileTask::Read));
   return static_cast<std::int64_t>(size);
 }
@@ -189,32 +188,28 @@ std::string RealFiles::LongName(const std::string& path) const {
   Guarded([&] {
     const fs::path place = PathOnDisk(path);
     std::error_code failure;
-    if (!fs::exists(place, failure)) return;
+    if (!fs::exists(StatusOnDisk(place, failure))) return;
     // A system that tells no case of letters takes the name as it came, but lists it as it was made.
-    name = PathText(ListedName(place.parent_path(), place.filename()).value_or(place.filename()));
+    name = TextOfPath(ListedName(place.parent_path(), place.filename()).value_or(place.filename()));
   });
   return name;
 }
 
 std::vector<std::string> RealFiles::FileNames(const std::string& folder, const std::string& pattern) const {
   const std::vector<std::string> patterns = SplitPatterns(pattern);
-  return NamesIn(FolderAt(folder), [&](const fs::directory_entry& entry, const std::string& name) {
-    std::error_code failure;
-    return std::any_of(patterns.begin(), patterns.end(),
-                       [&](const std::string& one) { return MatchesPattern(name, one); }) &&
-           !entry.is_directory(failure);
+  return NamesIn(FolderAt(folder), [&](const FolderEntry& entry, const std::string& name) {
+    return !entry.isFolder && std::any_of(patterns.begin(), patterns.end(),
+                                          [&](const std::string& one) { return MatchesPattern(name, one); });
   });
 }
 
 std::vector<std::string> RealFiles::FolderNames(const std::string& folder) const {
-  return NamesIn(FolderAt(folder), [](const fs::directory_entry& entry, const std::string& /*name*/) {
-    std::error_code failure;
-    return entry.is_directory(failure);
-  });
+  return NamesIn(FolderAt(folder),
+                 [](const FolderEntry& entry, const std::string& /*name*/) { return entry.isFolder; });
 }
 
 std::string RealFiles::ResolveFolder(const std::string& path) const {
-  return PathText(FolderAt(path));
+  return TextOfPath(FolderAt(path));
 }
 
 std::vector<std::string> RealFiles::Drives() const {
@@ -223,7 +218,7 @@ std::vector<std::string> RealFiles::Drives() const {
 
 std::string RealFiles::DriveOf(const std::string& path) const {
   std::string drive;
-  Guarded([&] { drive = DriveAround(SystemDrives(), PathText(PathOnDisk(path))); });
+  Guarded([&] { drive = DriveAround(SystemDrives(), TextOfPath(PathOnDisk(path))); });
   return drive;
 }
 
@@ -231,7 +226,7 @@ std::string RealFiles::CurrentFolder() const {
   std::error_code failure;
   const fs::path folder = fs::current_path(failure);
   // A folder that is gone is nobody's.
-  return failure ? PathText(fs::path(std::string(1, '/')).make_preferred()) : PathText(folder);
+  return failure ? TextOfPath(fs::path(std::string(1, '/')).make_preferred()) : TextOfPath(folder);
 }
 
 void RealFiles::SetCurrentFolder(const std::string& path) {

@@ -1,6 +1,7 @@
 #include "machine/files/real_made_folder.h"
 
 #include "machine/files/real_fault.h"
+#include "platform/disk.h"
 #include "runtime/fault.h"
 
 #include <system_error>
@@ -16,12 +17,12 @@ namespace fs = std::filesystem;
 
 void MakeFolder(const fs::path& folder) {
   std::error_code failure;
-  if (folder.empty() || fs::is_directory(folder, failure)) return;
+  if (folder.empty() || IsFolderOnDisk(folder)) return;
   const fs::path above = folder.parent_path();
   if (above != folder) MakeFolder(above);
-  fs::create_directory(folder, failure);
+  MakeFolderOnDisk(folder, failure);
   // Another copy of the program may have been faster.
-  if (failure && !fs::is_directory(folder)) Raise(FaultFor(failure, FileTask::Write));
+  if (failure && !IsFolderOnDisk(folder)) Raise(FaultFor(failure, FileTask::Write));
   KeepNames(above);
 }
 

@@ -1,5 +1,6 @@
 #include "machine/files/real_path.h"
 
+#include "platform/disk.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
 
@@ -60,18 +61,8 @@ fs::path NativePath(const std::string& text) {
   constexpr std::size_t kDrive = 2;  // characters of a letter and its colon
   const bool refused = text.find_first_of("<>|\"*?") != std::string::npos;
   if (refused || text.find(':', kDrive) != std::string::npos) Raise(kFaultBadFileName);
-  return QString::fromStdString(text).toStdWString();
-#else
-  return text;
 #endif
-}
-
-std::string PathText(const fs::path& path) {
-#ifdef _WIN32
-  return QString::fromStdWString(path.wstring()).toStdString();
-#else
-  return path.string();
-#endif
+  return PathOfText(text);
 }
 
 QString PathString(const fs::path& path) {
@@ -122,7 +113,7 @@ fs::path PathOnDisk(const std::string& text) {
   std::error_code failure;
   const fs::path wanted = fs::absolute(NativePath(text), failure);
   if (failure) Raise(kFaultBadFileName);
-  return Walked(wanted, NativePath(UpperCase(PathText(wanted.root_path()))), Entry);
+  return Walked(wanted, PathOfText(UpperCase(TextOfPath(wanted.root_path()))), Entry);
 }
 
 #ifdef _WIN32
@@ -131,16 +122,10 @@ std::optional<fs::path> ListedName(const fs::path& folder, const fs::path& name)
   // Wildcards would find something else.
   if (name.wstring().find_first_of(L"*?") != std::wstring::npos) return std::nullopt;
   WIN32_FIND_DATAW found;
-  const HANDLE search = FindFirstFileW((folder / name).c_str(), &found);
+  const HANDLE search = FindFirstFileW(OpenablePath(folder / name).c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return std::nullopt;
   FindClose(search);
   return fs::path(found.cFileName);
-}
-
-bool IsHidden(const fs::path& path) {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES &&
-         (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
 }
 
 #else
@@ -149,17 +134,11 @@ std::optional<fs::path> ListedName(const fs::path& folder, const fs::path& name)
   const std::string wanted = LowerCase(name.string());
   std::optional<fs::path> best;
   std::error_code failure;
-  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end;
-       entry.increment(failure)) {
-    fs::path listed = entry->path().filename();
-    if (listed == name) return listed;
-    if (LowerCase(listed.string()) == wanted && (!best || listed < *best)) best = std::move(listed);
+  for (const FolderEntry& entry : EntriesOnDisk(folder, failure)) {
+    if (entry.name == name) return entry.name;
+    if (LowerCase(entry.name.string()) == wanted && (!best || entry.name < *best)) best = entry.name;
   }
   return best;
-}
-
-bool IsHidden(const fs::path& path) {
-  return path.filename().string().starts_with('.');
 }
 
 #endif

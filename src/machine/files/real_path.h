@@ -14,7 +14,6 @@ namespace veldrin {
 
 /// Raises fault 52 for the empty path and for one with a character that the system refuses in names.
 std::filesystem::path NativePath(const std::string& text);
-std::string PathText(const std::filesystem::path& path);
 /// For Qt's own files. Where names are bytes, those that are no UTF-8 are lost on the way.
 QString PathString(const std::filesystem::path& path);
 
@@ -36,9 +35,5 @@ std::filesystem::path PathOnDisk(const std::string& text);
 /// entry or cannot be listed. Of several the one as written comes first, then the one that sorts first.
 std::optional<std::filesystem::path> ListedName(const std::filesystem::path& folder,
                                                 const std::filesystem::path& name);
-
-/// Whether lists leave the entry out: a hidden or system file on Windows, a name with a dot in front
-/// elsewhere.
-bool IsHidden(const std::filesystem::path& path);
 
 }  // namespace veldrin

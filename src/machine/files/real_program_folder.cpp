@@ -2,6 +2,7 @@
 
 #include "machine/files/real_path.h"
 #include "machine/files/share_folders.h"
+#include "platform/disk.h"
 #include "runtime/fault.h"
 
 #include <QCoreApplication>
@@ -11,8 +12,6 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QStringList>
-
-#include <system_error>
 
 namespace veldrin {
 
@@ -70,9 +69,8 @@ fs::path NamedFolder() {
 #endif
   fs::path folder;
   Guarded([&] {
-    std::error_code failure;
     const fs::path path = WholePath(NativePath(named));
-    if (fs::is_directory(path, failure)) folder = path;
+    if (IsFolderOnDisk(path)) folder = path;
   });
   return folder;
 }

@@ -3,6 +3,7 @@
 #include "machine/files/real_fault.h"
 #include "machine/files/real_made_folder.h"
 #include "machine/files/real_path.h"
+#include "platform/disk.h"
 #include "runtime/fault.h"
 
 #include <cerrno>
@@ -39,10 +40,10 @@ bool IsReadOnly(const fs::path& path, fs::perms permissions) {
 
 void CheckTarget(const fs::path& path) {
   std::error_code failure;
-  const fs::file_status folder = fs::status(path.parent_path(), failure);
+  const fs::file_status folder = StatusOnDisk(path.parent_path(), failure);
   if (folder.type() == fs::file_type::none) Raise(FaultFor(failure, FileTask::Write));
   if (!fs::is_directory(folder)) Raise(kFaultPathNotFound);
-  const fs::file_status file = fs::status(path, failure);
+  const fs::file_status file = StatusOnDisk(path, failure);
   if (file.type() == fs::file_type::none) Raise(FaultFor(failure, FileTask::Write));
   if (!fs::exists(file)) return;
   if (!fs::is_regular_file(file)) Raise(kFaultPathAccess);

@@ -1,6 +1,6 @@
 #include "machine/files/real_writer.h"
 
-#include "machine/files/real_path.h"
+#include "platform/disk.h"
 #include "runtime/fault.h"
 
 #include <utility>
@@ -10,7 +10,7 @@ namespace veldrin {
 namespace fs = std::filesystem;
 
 RealWriter::RealWriter(std::shared_ptr<TextEncoding> encoding, const fs::path& path)
-    : encoding_(std::move(encoding)), path_(PathText(path)), file_(std::make_unique<ReplacingFile>(path)) {}
+    : encoding_(std::move(encoding)), path_(TextOfPath(path)), file_(std::make_unique<ReplacingFile>(path)) {}
 
 void RealWriter::Write(const std::string& text) {
   if (!file_) Raise(kFaultBadFileName);

@@ -5,8 +5,7 @@
 #include "plan/files/list_file.h"
 #include "plan/files/machine.h"
 #include "plan/present/list_finder.h"
-
-#include <filesystem>
+#include "platform/disk.h"
 
 namespace veldrin {
 
@@ -18,7 +17,7 @@ std::string TextOfFile(const Call& call, const std::string& path) {
 }
 
 ListRemarks RemarksOfList(const std::string& path, const std::string& text) {
-  return CheckList(text, std::filesystem::path(path).stem().string());
+  return CheckList(text, TextOfPath(PathOfText(path).stem()));
 }
 
 void WriteRemark(std::ostream& errors, const std::string& path, const ListRemark& remark) {

@@ -6,8 +6,7 @@
 #include "plan/csv/parts_csv.h"
 #include "plan/csv/written_files.h"
 #include "plan/files/bad_input.h"
-
-#include <filesystem>
+#include "platform/disk.h"
 
 namespace veldrin {
 
@@ -29,7 +28,7 @@ std::string Bytes(const Call& call, const std::string& path, const std::string& 
 }
 
 std::string CombinationPath(const std::string& listPath) {
-  return std::filesystem::path(listPath).replace_extension(".CMB").string();
+  return TextOfPath(PathOfText(listPath).replace_extension(".CMB"));
 }
 
 }  // namespace

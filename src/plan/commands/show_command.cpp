@@ -6,9 +6,8 @@
 #include "plan/sheet/plan_sheet.h"
 #include "plan/sheet/sheet_output.h"
 #include "plan/tyre/tyre_output.h"
+#include "platform/disk.h"
 #include "runtime/fault.h"
-
-#include <filesystem>
 
 namespace veldrin {
 
@@ -34,7 +33,7 @@ PlansMachine MachineOfPlans(const Call& call, const std::string& listPath, const
 PlanSheet SheetOfPlan(const PlansMachine& of, const PlanAtHand& plan) {
   PlanSheet sheet;
   const int fault = Guarded([&] {
-    sheet = SheetOf(plan.workspace, std::filesystem::path(plan.path).filename().string(),
+    sheet = SheetOf(plan.workspace, TextOfPath(PathOfText(plan.path).filename()),
                     of.combination ? &*of.combination : nullptr);
   });
   if (fault != 0) RefuseFile(plan.path, "a speed of 0 divides in its figures");

@@ -1,9 +1,9 @@
 #include "plan/files/list_file.h"
 
+#include "platform/disk.h"
+
 #include <array>
-#include <filesystem>
 #include <fstream>
-#include <system_error>
 
 namespace veldrin {
 
@@ -12,13 +12,12 @@ namespace {
 constexpr std::size_t kLargestList = 1 << 20;  // bytes; what is larger is no list
 
 std::optional<std::string> ReadBytes(const std::string& path, std::string& mistake) {
-  const std::filesystem::path place(path);
-  std::error_code ignored;
-  if (std::filesystem::is_directory(place, ignored)) {
+  const std::filesystem::path place = PathOfText(path);
+  if (IsFolderOnDisk(place)) {
     mistake = "is a folder";
     return {};
   }
-  std::ifstream file(place, std::ios::binary);
+  std::ifstream file(OpenablePath(place), std::ios::binary);
   std::string bytes;
   std::array<char, 16384> part;
   while (file && bytes.size() <= kLargestList) {

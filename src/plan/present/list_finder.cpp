@@ -1,9 +1,10 @@
 #include "plan/present/list_finder.h"
 
 #include "plan/files/bad_input.h"
+#include "platform/disk.h"
+#include "platform/process_texts.h"
 #include "runtime/text.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 #include <vector>
@@ -14,23 +15,28 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Variable(const char* name) {
-  const char* const value = std::getenv(name);
-  return value == nullptr ? "" : value;
-}
-
 /// The folder that holds LIST and DAT of the installed program, after the user's choice.
 fs::path ProgramFolder() {
-  if (const std::string named = Variable("VELDRIN_HOME"); !named.empty()) return named;
-  if (const std::string data = Variable("XDG_DATA_HOME"); !data.empty()) return fs::path(data) / "veldrin";
-  const std::string home = Variable("HOME");
+  if (const std::string named = VariableText("VELDRIN_HOME"); !named.empty()) return PathOfText(named);
+#ifdef _WIN32
+  const std::string data = VariableText("LOCALAPPDATA");
+  return data.empty() ? fs::path() : PathOfText(data) / "veldrin";
+#else
+  if (const std::string data = VariableText("XDG_DATA_HOME"); !data.empty())
+    return fs::path(data) / "veldrin";
+  const std::string home = VariableText("HOME");
   return home.empty() ? fs::path() : fs::path(home) / ".local" / "share" / "veldrin";
+#endif
+}
+
+fs::path FolderAround(const fs::path& file) {
+  return file.has_parent_path() ? file.parent_path() : fs::path(".");
 }
 
 std::string FileIn(const fs::path& folder, const std::string& name) {
   std::error_code ignored;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
-    if (EqualsIgnoringCase(entry.path().filename().string(), name)) return entry.path().string();
+  for (const FolderEntry& entry : EntriesOnDisk(folder, ignored)) {
+    if (EqualsIgnoringCase(TextOfPath(entry.name), name)) return TextOfPath(folder / entry.name);
   }
   return "";
 }
@@ -38,14 +44,13 @@ std::string FileIn(const fs::path& folder, const std::string& name) {
 /// A folder inside another, whatever the case of its name.
 fs::path FolderIn(const fs::path& folder, const std::string& name) {
   const std::string found = FileIn(folder, name);
-  return found.empty() ? folder / name : fs::path(found);
+  return found.empty() ? folder / name : PathOfText(found);
 }
 
 }  // namespace
 
 std::string FindListOf(const std::string& planPath, const std::string& machine) {
-  const fs::path folder =
-      fs::path(planPath).has_parent_path() ? fs::path(planPath).parent_path() : fs::path(".");
+  const fs::path folder = FolderAround(PathOfText(planPath));
   std::vector<fs::path> folders = {folder, FolderIn(folder / "..", "LIST")};
   if (const fs::path program = ProgramFolder(); !program.empty())
     folders.push_back(FolderIn(program, "LIST"));
@@ -57,9 +62,8 @@ std::string FindListOf(const std::string& planPath, const std::string& machine) 
 }
 
 std::string FileBeside(const std::string& path, const std::string& extension) {
-  const fs::path place(path);
-  const fs::path folder = place.has_parent_path() ? place.parent_path() : fs::path(".");
-  return FileIn(folder, place.stem().string() + extension);
+  const fs::path place = PathOfText(path);
+  return FileIn(FolderAround(place), TextOfPath(place.stem()) + extension);
 }
 
 }  // namespace veldrin
