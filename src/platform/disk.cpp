@@ -38,16 +38,25 @@ std::string TextOfPath(const fs::path& path) {
   return {text.begin(), text.end()};
 }
 
+fs::path WholeOnDisk(const fs::path& path, std::error_code& failure) {
+  // The library's own takes the name of a machine in the network for a folder.
+  std::wstring whole;
+  DWORD size = MAX_PATH;
+  while (size > whole.size()) {
+    whole.resize(size);
+    size = GetFullPathNameW(path.c_str(), size, whole.data(), nullptr);
+  }
+  Tell(size != 0, failure);
+  whole.resize(size);
+  return whole;
+}
+
 fs::path OpenablePath(const fs::path& path) {
   std::error_code failure;
-  const fs::path whole = fs::absolute(path, failure).lexically_normal().make_preferred();
-  const std::wstring text = whole.wstring();
-  if (failure || text.size() <= kLongestPlain || text.starts_with(L"\\\\?\\") ||
-      text.starts_with(L"\\\\.\\")) {
-    return path;
-  }
-  const bool network = text.starts_with(L"\\\\");
-  return network ? L"\\\\?\\UNC" + text.substr(1) : L"\\\\?\\" + text;
+  const std::wstring text = WholeOnDisk(path, failure).wstring();
+  const bool openable = text.starts_with(L"\\\\?\\") || text.starts_with(L"\\\\.\\");
+  if (failure || text.size() <= kLongestPlain || openable) return path;
+  return text.starts_with(L"\\\\") ? L"\\\\?\\UNC" + text.substr(1) : L"\\\\?\\" + text;
 }
 
 fs::file_status StatusOnDisk(const fs::path& path, std::error_code& failure) {
@@ -120,6 +129,10 @@ fs::path PathOfText(const std::string& text) {
 
 std::string TextOfPath(const fs::path& path) {
   return path.string();
+}
+
+fs::path WholeOnDisk(const fs::path& path, std::error_code& failure) {
+  return fs::absolute(path, failure);
 }
 
 fs::path OpenablePath(const fs::path& path) {

@@ -17,6 +17,9 @@ namespace veldrin {
 std::filesystem::path PathOfText(const std::string& text);
 std::string TextOfPath(const std::filesystem::path& path);
 
+/// The path from its root on: behind the current folder where it had none.
+std::filesystem::path WholeOnDisk(const std::filesystem::path& path, std::error_code& failure);
+
 /// The path as the system opens it, whatever its length. Only for calls of the system: it is not for people,
 /// and nothing may be joined to it.
 std::filesystem::path OpenablePath(const std::filesystem::path& path);

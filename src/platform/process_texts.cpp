@@ -3,7 +3,6 @@
 #ifdef _WIN32
 #include "platform/disk.h"
 
-#include <shellapi.h>
 #include <windows.h>
 #else
 #include <cstdlib>

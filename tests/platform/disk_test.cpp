@@ -120,6 +120,8 @@ TEST(OpenablePath, LongOnesGetTheFormWithoutABound) {
   EXPECT_EQ(TextOfPath(OpenablePath(PathOfText("C:/b/./c/../" + name))), "\\\\?\\C:\\b\\" + name);
   EXPECT_EQ(TextOfPath(OpenablePath(PathOfText("\\\\box\\share\\" + name))),
             "\\\\?\\UNC\\box\\share\\" + name);
+  std::error_code failure;
+  EXPECT_EQ(TextOfPath(WholeOnDisk("\\\\box\\share\\a", failure)), "\\\\box\\share\\a");
   const fs::path done = OpenablePath(PathOfText("C:\\" + name));
   EXPECT_EQ(OpenablePath(done), done);
 }

@@ -1,10 +1,10 @@
 #include "platform/text_encoding.h"
 
+#include "platform/system_code_pages.h"
 #include "runtime/utf8.h"
 
 #include <gtest/gtest.h>
 
-#include <iconv.h>
 #include <iterator>
 #include <random>
 #include <string>
@@ -13,33 +13,24 @@
 namespace veldrin {
 namespace {
 
-/// `text` from one code of the C library to another; nothing when it is no text of the first or does not fit
-/// the second.
-std::optional<std::string> Convert(const char* to, const char* from, std::string_view text) {
-  const iconv_t converter = iconv_open(to, from);
-  if (converter == reinterpret_cast<iconv_t>(-1)) return std::nullopt;
-  std::string input(text);
-  std::string output(text.size() * 4 + 16, '\0');
-  char* in = input.data();
-  char* out = output.data();
-  std::size_t inLeft = input.size();
-  std::size_t outLeft = output.size();
-  const std::size_t irreversible = iconv(converter, &in, &inLeft, &out, &outLeft);
-  iconv_close(converter);
-  if (irreversible != 0) return std::nullopt;
-  output.resize(output.size() - outLeft);
-  return output;
+/// The system's own conversions.
+std::optional<std::string> Decoded(int page, std::string_view bytes) {
+  return SystemCodePages(false).decode(page, bytes);
+}
+std::optional<std::string> Encoded(int page, std::string_view text) {
+  return SystemCodePages(false).encode(page, text);
 }
 
+/// A machine that knows code page 932 beside what is built in.
 CodePages Pages(int systemPage, bool japanese) {
   CodePages pages;
   pages.systemPage = systemPage;
   pages.japanese = japanese;
   pages.decode = [](int page, std::string_view bytes) {
-    return page == kJapanesePage ? Convert("UTF-8", "CP932", bytes) : std::nullopt;
+    return page == kJapanesePage ? Decoded(page, bytes) : std::nullopt;
   };
   pages.encode = [](int page, std::string_view text) {
-    return page == kJapanesePage ? Convert("CP932", "UTF-8", text) : std::nullopt;
+    return page == kJapanesePage ? Encoded(page, text) : std::nullopt;
   };
   return pages;
 }
@@ -55,8 +46,8 @@ TEST(Western, EveryByteGoesThereAndBack) {
     const std::string text = DecodeWestern(bytes);
     EXPECT_TRUE(IsValidUtf8(text)) << byte;
     EXPECT_EQ(EncodeWestern(text), bytes) << byte;
-    // The C library knows all but the five bytes without a character.
-    const std::optional<std::string> known = Convert("UTF-8", "CP1252", bytes);
+    // The system knows all but, perhaps, the five bytes without a character.
+    const std::optional<std::string> known = Decoded(kWesternPage, bytes);
     if (known) {
       EXPECT_EQ(text, *known) << byte;
     }
@@ -245,7 +236,7 @@ std::string AnyRemark(std::mt19937& chance) {
     const auto& [first, last] = kKinds[chance() % std::size(kKinds)];
     std::string character;
     AppendCodePoint(character, static_cast<char32_t>(first + chance() % (last - first + 1)));
-    if (Convert("CP932", "UTF-8", character)) text += character;
+    if (Encoded(kJapanesePage, character)) text += character;
   }
   return text;
 }
@@ -254,7 +245,7 @@ TEST(TextEncoding, JapaneseRemarksInTheirPageDoNotPassForUtf8) {
   std::mt19937 chance(4);
   for (int i = 0; i < 5000; ++i) {
     const std::string text = AnyRemark(chance);
-    const std::string bytes = Convert("CP932", "UTF-8", text).value_or("");
+    const std::string bytes = Encoded(kJapanesePage, text).value_or("");
     TextEncoding encoding(Pages(kJapanesePage, true));
     ASSERT_EQ(encoding.Decode(kPath, bytes), text);
     ASSERT_EQ(encoding.Encode(kPath, text), bytes);

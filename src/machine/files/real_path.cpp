@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QSysInfo>
 
+#include <algorithm>
 #include <system_error>
 
 #ifdef _WIN32
@@ -41,12 +42,34 @@ fs::path Around(const fs::path& folder) {
   return folder.parent_path();
 }
 
-/// A whole path part by part from `root` on, without "." and ".."; `name` tells how a part of a folder is
-/// called.
+/// A whole path cut behind its root.
+struct CutPath {
+  fs::path root;
+  fs::path rest;
+};
+
+#ifdef _WIN32
+CutPath CutRoot(const fs::path& whole) {
+  const std::wstring text = whole.wstring();
+  // A share of a machine in the network, which the library takes for two folders.
+  if (!text.starts_with(L"\\\\")) {
+    return {PathOfText(UpperCase(TextOfPath(whole.root_path()))), whole.relative_path()};
+  }
+  const std::size_t share = std::min(text.find(L'\\', 2), text.size() - 1) + 1;
+  const std::size_t end = std::min(text.find(L'\\', share), text.size() - 1) + 1;
+  return {text.substr(0, end), text.substr(end)};
+}
+#else
+CutPath CutRoot(const fs::path& whole) {
+  return {whole.root_path(), whole.relative_path()};
+}
+#endif
+
+/// A whole path part by part, without "." and ".."; `name` tells how a part of a folder is called.
 template <class Name>
-fs::path Walked(const fs::path& path, const fs::path& root, Name name) {
-  fs::path found = root;
-  for (const fs::path& part : path.relative_path()) {
+fs::path Walked(const CutPath& path, Name name) {
+  fs::path found = path.root;
+  for (const fs::path& part : path.rest) {
     if (part.empty() || part == ".") continue;
     found = part == ".." ? Around(found) : found / name(found, part);
   }
@@ -103,17 +126,17 @@ QUrl LocalFileUrl(const std::string& path) {
 
 fs::path WholePath(const fs::path& path) {
   std::error_code failure;
-  const fs::path wanted = fs::absolute(path, failure);
+  const fs::path wanted = WholeOnDisk(path, failure);
   if (failure) return path;
   const auto asWritten = [](const fs::path& /*folder*/, const fs::path& part) { return part; };
-  return Walked(wanted, wanted.root_path(), asWritten).make_preferred();
+  return Walked(CutRoot(wanted), asWritten).make_preferred();
 }
 
 fs::path PathOnDisk(const std::string& text) {
   std::error_code failure;
-  const fs::path wanted = fs::absolute(NativePath(text), failure);
+  const fs::path wanted = WholeOnDisk(NativePath(text), failure);
   if (failure) Raise(kFaultBadFileName);
-  return Walked(wanted, PathOfText(UpperCase(TextOfPath(wanted.root_path()))), Entry);
+  return Walked(CutRoot(wanted), Entry);
 }
 
 #ifdef _WIN32
