@@ -97,11 +97,12 @@ DesktopProgram::DesktopProgram() {
     });
   };
   kept_ = std::make_unique<KeptPlans>(*program, keepFolder_, runEvent, TakeWantedPlan());
+  netLooks = [this] { kept_->EventEnded(); };
   windows.eventComes = [this](const Control& control, const Event& event) { HearEvent(control, event); };
   stage.input.afterEvent = [this, settle = std::exchange(stage.input.afterEvent, {})] {
     settle();
     LayOutForPlan();
-    kept_->EventEnded();
+    if (netLooks) netLooks();
   };
   startAgain = StartAnew;
   stage.input.Serve(program.get());

@@ -60,6 +60,9 @@ class DesktopProgram {
   /// has ended by a fault and its user wants to go on.
   std::function<void(const std::string& keptId, const std::string& file)> startAgain;
 
+  /// The net's part of an event's end; empty, the program runs without it.
+  std::function<void()> netLooks;
+
  private:
   void TakeStoredZoom();
   void TakeZoom();

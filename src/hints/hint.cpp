@@ -7,6 +7,7 @@
 #include "workspace/language.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace veldrin {
@@ -57,6 +58,21 @@ std::string FirstLines(const Program& program, const Control& control, bool inJa
   return ofState.empty() ? TableHint(control, inJapanese) : ofState;
 }
 
+/// Whether a hint begins with what the control shows, as that of a heading does.
+bool NamesValue(std::string_view hint, std::string_view value) {
+  if (!hint.starts_with(value)) return false;
+  const std::string_view rest = hint.substr(value.size());
+  return rest.starts_with(':') || rest.starts_with("：") || rest.starts_with(' ');
+}
+
+/// A first line without the mark by which its sentence goes on, or ends.
+std::string_view WithoutStop(std::string_view line) {
+  for (const std::string_view stop : {";", "。"}) {
+    if (line.ends_with(stop)) line.remove_suffix(stop.size());
+  }
+  return line;
+}
+
 std::string WithReason(std::string hint, const Program& program, const Control& control, bool inJapanese) {
   const std::string reason = hint.empty() ? "" : Reason(program, control).In(inJapanese);
   return reason.empty() ? hint : hint + "\n" + reason;
@@ -88,8 +104,11 @@ std::string HintWithValue(const Program& program, const Control& control, const 
   const bool inJapanese = SpeaksJapanese(program.workspace);
   std::string hint = FirstLines(program, control, inJapanese);
   if (hint.empty()) return value;
-  const std::size_t end = std::min(hint.find('\n'), hint.size());
-  if (!value.empty()) hint.insert(end, (inJapanese ? "：" : ": ") + value);
+  if (!value.empty() && !NamesValue(hint, value)) {
+    const std::size_t end = std::min(hint.find('\n'), hint.size());
+    const std::string_view first = WithoutStop(std::string_view(hint).substr(0, end));
+    hint = std::string(first) + (inJapanese ? "：" : ": ") + value + hint.substr(end);
+  }
   return WithReason(std::move(hint), program, control, inJapanese);
 }
 

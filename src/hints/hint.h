@@ -16,8 +16,8 @@ std::string Hint(const Program& program, const Control& control);
 /// The value that a control shows by itself: a text, a number; empty for none. Raises nothing.
 std::string ValueOf(const Control& control);
 
-/// The hint with a value behind its first line, ": 98.4"; the value alone where there is no hint. Raises
-/// nothing.
+/// The hint with a value behind its first line, ": 98.4", unless it begins with the value as the hint of a
+/// heading does; the value alone where there is no hint. Raises nothing.
 std::string HintWithValue(const Program& program, const Control& control, const std::string& value);
 
 }  // namespace veldrin

@@ -139,6 +139,12 @@ TEST_F(HintsTest, ScreenReadersHearTheHintWithGearAndValue) {
   EXPECT_EQ(Heard(form2().Picture28), HintOf(form2().Picture28));
 }
 
+TEST_F(HintsTest, PictureThatIsPressedIsCalledByWhatItShows) {
+  EXPECT_EQ(Heard(form2().Picture21, QAccessible::Name),
+            "Speed of each gear by revolutions, and the saw-tooth of changing up");
+  EXPECT_EQ(Heard(form2().Picture28, QAccessible::Name), "Print");
+}
+
 TEST_F(HintsTest, WhatIsHeardFollowsTheStateOfTheProgram) {
   EXPECT_EQ(Heard(form2().Command2), "Mode: on to entering speeds; right button: by revolutions");
   Do([&] { form2().Command2.MouseUp(kLeftButton); });

@@ -167,5 +167,29 @@ TEST(HintWithValue, ValueStandsBehindTheFirstLineAndBeforeTheReason) {
   EXPECT_EQ(spoken(program.form2.Label9[3]), "シフト回転数での 3 速の速度（km/h）：98.4");
 }
 
+TEST(HintWithValue, ValueReadsOnWhereTheFirstLineEndsInTheMiddleOfASentence) {
+  SimulatedMachine simulated;
+  Program program(simulated.machine);
+  program.workspace.Language = "ENGLISH";
+  const Control& pair = program.form2.Label12[2];
+  EXPECT_EQ(HintWithValue(program, pair, "17.26"),
+            "Gear pair of the 2nd gear; a click lists all: 17.26\n"
+            "yellow: the speed does not rise to the next gear");
+  program.workspace.Language = "JP";
+  EXPECT_EQ(HintWithValue(program, pair, "17.26"),
+            "2 速のギヤ。クリックで一覧：17.26\n黄：隣のギヤへ速度が上がりません");
+}
+
+TEST(HintWithValue, HeadingsAreNotSaidTwice) {
+  SimulatedMachine simulated;
+  Program program(simulated.machine);
+  program.workspace.Language = "ENGLISH";
+  EXPECT_EQ(HintWithValue(program, program.form2.Label12[0], "PLAN"),
+            "PLAN: the gear pair chosen for each gear");
+  // A number that a hint begins with by chance is still told.
+  EXPECT_EQ(HintWithValue(program, program.form2.Label11[1], "1"),
+            "1st gear: the shift revolutions themselves, rev/min: 1");
+}
+
 }  // namespace
 }  // namespace veldrin

@@ -122,11 +122,23 @@ class AccessibleLabel : public AccessibleView {
   }
 };
 
-/// A label or picture that is pressed like a button. Where only the second click does something, both are one
-/// press; what the right button may do there is asked for like a menu.
+/// What a hint says before it goes on to more.
+QString FirstWords(const QString& hint) {
+  static const QRegularExpression kGoesOn(QStringLiteral("[;\n。]"));
+  return hint.section(kGoesOn, 0, 0).trimmed();
+}
+
+/// A label or picture that is pressed like a button; one without any text is called by what it shows. Where
+/// only the second click does something, both are one press; what the right button may do there is asked for
+/// like a menu.
 class AccessiblePress : public AccessibleLabel {
  public:
   AccessiblePress(QWidget& widget, PlacedView& view) : AccessibleLabel(widget, view, QAccessible::Button) {}
+
+  QString text(QAccessible::Text what) const override {
+    const QString text = AccessibleLabel::text(what);
+    return what == QAccessible::Name && text.isEmpty() ? FirstWords(view_->SpokenHint()) : text;
+  }
 
   QStringList actionNames() const override {
     if (view_->Shows() == nullptr || !widget()->isEnabled()) return {};

@@ -106,6 +106,17 @@ QString OwnCaption(const Control& control) {
   }
 }
 
+/// Whether a control needs its number, the gear's, beside its name. The first place of a row holds what is
+/// meant for all gears, and a box with a head of its own is told by that.
+bool NeedsNumber(const Control& control, const QString& head) {
+  if (control.index <= 0) return false;
+  if (head.isEmpty()) return true;
+  const auto& controls = control.window.controls;
+  return std::any_of(controls.begin(), controls.end(), [&](const Control* other) {
+    return other != &control && other->name == control.name && HeadOf(*other) == head;
+  });
+}
+
 /// Panels hold what has names.
 bool HasName(const Control& control) {
   return control.kind != ControlKind::Window && control.kind != ControlKind::Label &&
@@ -117,10 +128,10 @@ bool HasName(const Control& control) {
 QString AccessibleName(const Control& control) {
   if (control.kind != ControlKind::Label && *control.look.spoken != '\0') return control.look.spoken;
   if (!HasName(control)) return {};
-  QString name = OwnCaption(control).trimmed();
-  if (name.isEmpty()) name = HeadOf(control);
-  if (control.index != Control::kNoIndex) name += QStringLiteral(" %1").arg(control.index);
-  return name.trimmed();
+  const QString caption = OwnCaption(control).trimmed();
+  const QString head = caption.isEmpty() ? HeadOf(control) : QString();
+  const QString number = NeedsNumber(control, head) ? QStringLiteral(" %1").arg(control.index) : QString();
+  return (caption + head + number).trimmed();
 }
 
 QString AccessibleValue(const Control& control) {

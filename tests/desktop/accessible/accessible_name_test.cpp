@@ -29,7 +29,9 @@ TEST(AccessibleName, EveryControlOfTheMainWindowSaysWhatItIsFor) {
                                                            {form2.HScroll1, "Shift Ne"},
                                                            {form2.HScroll2, "Check Ne"},
                                                            {form2.Text6, "Remark"},
-                                                           {form2.Option1[0], "None 0"},
+                                                           {form2.Option1[0], "None"},
+                                                           {form2.Option1[2], "Pri 2"},
+                                                           {form2.Command1[0], "FULL AUTO"},
                                                            {form2.Label5, ""},
                                                            {form2.Picture21, ""}};
   for (const auto& [control, name] : kNames) {
@@ -51,7 +53,7 @@ TEST(AccessibleName, BoxesOfTheSettingsAreNamedByTheirCaptions) {
   SimulatedMachine simulated;
   Desk desk(simulated.machine);
   Form7 form7(desk);
-  EXPECT_EQ(AccessibleName(form7.Text1[1]).toStdString(), "チェック　　回転数 1");
+  EXPECT_EQ(AccessibleName(form7.Text1[1]).toStdString(), "チェック　　回転数");
 }
 
 }  // namespace
