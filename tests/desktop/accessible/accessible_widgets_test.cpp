@@ -255,7 +255,7 @@ TEST_F(AccessibleProgramTest, WidgetsOfTheMainWindowSayWhatTheyAreFor) {
   EXPECT_EQ(Name(form2.Spin4), "Primary");
   EXPECT_EQ(Name(form2.Spin1[2]), "- 2");
   EXPECT_EQ(Name(form2.HScroll1), "Shift Ne");
-  EXPECT_EQ(Name(form2.Option1[0]), "None 0");
+  EXPECT_EQ(Name(form2.Option1[0]), "None");
   form2.Command1[3].Caption = "MANUAL";
   EXPECT_EQ(Name(form2.Command1[3]), "MANUAL 3");
 }
