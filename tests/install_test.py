@@ -85,8 +85,9 @@ class Moved(unittest.TestCase):
         """A user's first day."""
         kept = {name: value for name, value in os.environ.items() if not name.startswith(("XDG_", "VELDRIN_"))}
         (home / "session").mkdir(parents=True, mode=0o700)
-        return {**kept, "HOME": str(home), "XDG_RUNTIME_DIR": str(home / "session"),
-                "XDG_DATA_DIRS": str(home / "none"), "QT_QPA_PLATFORM": "offscreen", **more}
+        # What a sanitizer would say of memory at the end is the other tests' matter.
+        return {**kept, "ASAN_OPTIONS": kept.get("ASAN_OPTIONS", "") + ":detect_leaks=0", "HOME": str(home), "XDG_RUNTIME_DIR": str(home / "session"), "XDG_DATA_DIRS": str(home / "none"),
+                "QT_QPA_PLATFORM": "offscreen", **more}
 
 
 class Installed(Moved):
@@ -154,7 +155,8 @@ class OnTheDesktop(Moved):
         self.assertIn("\nIcon=veldrin\n", words)
 
     def test_the_metainfo_is_valid(self):
-        done = run(self.tool("appstreamcli"), "validate", "--no-net", self.share / "metainfo" / WINDOWS[3].split("/")[-1])
+        metainfo = self.share / "metainfo/example.veldrin.veldrin.metainfo.xml"
+        done = run(self.tool("appstreamcli"), "validate", "--no-net", metainfo)
         self.assertEqual(done.returncode, 0, done.stdout)
         self.assertNotRegex(done.stdout, r"(?m)^[WE]: ")
 

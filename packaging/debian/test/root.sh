@@ -1,5 +1,5 @@
-# What the administrator of a fresh Debian does with the packages; scripts/test-package runs it inside. The log of apt is
-# shown only where something fails.
+# What the administrator of a fresh Debian does with the packages; scripts/test-package runs it inside. The log of apt
+# is shown only where something fails.
 set -euo pipefail
 cd /test
 
@@ -42,7 +42,7 @@ say "upgraded; the user's files are as they were"
 
 # What is recommended comes along where somebody installs the package without asking for less.
 read -r -a recommended < <(dpkg-query -W -f '${Recommends}\n' veldrin | sed 's/([^)]*)//g; s/,//g')
-quiet apt-get install -y --no-install-recommends "${recommended[@]}" libglib2.0-bin procps xauth xdotool xvfb
+quiet apt-get install -y --no-install-recommends "${recommended[@]}" file libglib2.0-bin procps xauth xdotool xvfb
 as rider /test/session.sh
 say "a window comes up; files are known and open; the guide opens; scripts run"
 as second /test/first_start.sh

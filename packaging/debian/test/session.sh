@@ -70,6 +70,30 @@ press_help() {
 }
 during=press_help opens "NX4" veldrin
 
+# Option, Regist Extention, its entry: the user ties the plans of NX4 to the program that is installed, and unties them.
+# The information behind it is answered by Enter.
+own=$HOME/.local/share
+press_entry() {
+  xdotool search --onlyvisible --name "NX4" windowfocus --sync
+  for key in alt+o Up Right Return Return; do
+    sleep 1
+    xdotool key $key
+  done
+}
+tie() {
+  press_entry
+  await grep -qs '^application/x-veldrin-plan=veldrin.desktop$' .config/mimeapps.list
+  await grep -qs 'application/x-veldrin-plan:\*.nx4' "$own/mime/globs2"
+  [ ! -e "$own/applications/veldrin-plan.desktop" ] || fail "the user got an entry beside the installed one"
+}
+untie() {
+  press_entry
+  await test ! -e "$own/mime/packages/veldrin-nx4.xml"
+}
+during=tie opens "NX4" veldrin
+is "the tied plan's kind" "$(kind plan.nx4)" application/x-veldrin-plan
+during=untie opens "NX4" veldrin
+
 # The console, its completion and the tools.
 veldrin-plan $samples/LIST/NX4.RAT --speed 104,134,163,185,204,216 | grep -q 216
 bash -c '. /usr/share/bash-completion/completions/veldrin-plan && complete -p veldrin-plan' >/dev/null
