@@ -48,7 +48,7 @@ RealInstances::RealInstances(QString locks) : locks_(std::move(locks)) {
   const Gate gate(locks_);
   for (int number = 0; number < kMostInstances; ++number) {
     auto lock = NewLock(LockName(number));
-    if (lock->tryLock(0)) {
+    if (TryLock(*lock)) {
       own_ = std::move(lock);
       number_ = number;
       return;
@@ -66,7 +66,7 @@ int RealInstances::Others() const {
     if (number_ >= 0 && found.fileName() == QFileInfo(LockName(number_)).fileName()) continue;
     const auto lock = NewLock(found.filePath());
     // One that can be had was left behind by a crash, and goes.
-    if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) ++others;
+    if (!TryLock(*lock) && lock->error() == QLockFile::LockFailedError) ++others;
   }
   return others;
 }

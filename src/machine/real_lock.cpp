@@ -1,7 +1,15 @@
 #include "machine/real_lock.h"
 
 #include <QElapsedTimer>
+#include <QFile>
+#include <QSysInfo>
 #include <QThread>
+
+#ifndef _WIN32
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+#endif
 
 namespace veldrin {
 
@@ -9,12 +17,49 @@ namespace {
 
 constexpr int kBetween = 5;  // ms
 
+#ifdef _WIN32
+
+/// Who has the lock has the file open, and lets nobody delete it.
+bool RemoveUnheld(const QString& path) {
+  return QFile::remove(path);
+}
+
+#else
+
+/// Who has the lock has the file locked for the system as well, from before its first byte on.
+bool RemoveUnheld(const QString& path) {
+  const QByteArray name = QFile::encodeName(path);
+  const int file = open(name.constData(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return false;
+  char byte = 0;
+  const bool unheld = flock(file, LOCK_EX | LOCK_NB) == 0 && read(file, &byte, 1) == 1;
+  const bool removed = unheld && unlink(name.constData()) == 0;
+  close(file);
+  return removed;
+}
+
+#endif
+
+/// Takes away what a crash on this machine left behind. False where it is held, or nobody can tell.
+bool RemoveAbandoned(const QLockFile& lock) {
+  qint64 process = 0;
+  QString machine;
+  QString program;
+  if (!lock.getLockInfo(&process, &machine, &program)) return false;
+  return machine == QSysInfo::machineHostName() && RemoveUnheld(lock.fileName());
+}
+
 }  // namespace
+
+bool TryLock(QLockFile& lock) {
+  if (lock.tryLock(0)) return true;
+  return lock.error() == QLockFile::LockFailedError && RemoveAbandoned(lock) && lock.tryLock(0);
+}
 
 bool TakeLock(QLockFile& lock, int patience) {
   QElapsedTimer timer;
   timer.start();
-  while (!lock.tryLock(0)) {
+  while (!TryLock(lock)) {
     if (lock.error() != QLockFile::LockFailedError || timer.elapsed() >= patience) return false;
     QThread::msleep(kBetween);
   }

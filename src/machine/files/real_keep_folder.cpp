@@ -3,6 +3,7 @@
 #include "machine/files/real_made_folder.h"
 #include "machine/files/real_path.h"
 #include "machine/files/real_replacing_file.h"
+#include "machine/real_lock.h"
 #include "runtime/fault.h"
 
 #include <QDateTime>
@@ -65,7 +66,7 @@ std::string RealKeepFolder::Now() const {
 std::unique_ptr<KeepClaim> RealKeepFolder::Claim(const std::string& id) {
   if (!IsPlain(id) || Guarded([&] { MakeFolder(NativePath(folder_.toStdString())); }) != 0) return nullptr;
   auto claim = std::make_unique<LockClaim>(folder_ + "/" + QString::fromStdString(id) + ".lock");
-  if (!claim->lock.tryLock(0)) return nullptr;
+  if (!TryLock(claim->lock)) return nullptr;
   return claim;
 }
 
