@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -88,16 +89,16 @@ int main(int count, char** arguments) {
   QApplication application(count, arguments);
   veldrin::SetUpLook(application);
   const std::vector<std::string> words = veldrin::CommandLineWords(count, arguments);
-  if (words.size() > 1) {
+  const std::optional<std::string> path = veldrin::PathOfWords(words);
+  if (!path) {
     std::fputs(kHelp, stderr);
     return EXIT_FAILURE;
   }
-  const std::string path = words.empty() ? "" : veldrin::PathOfWord(words.front());
   std::error_code failure;
   std::filesystem::current_path(veldrin::ProgramFolder(), failure);
   veldrin::DesktopProgram program;
   running = &program;
-  const int status = program.Run(path);
+  const int status = program.Run(*path);
   running = nullptr;
   return status;
 }

@@ -1,6 +1,7 @@
 // What stands on the command line, in the system's own bytes: names of files need not be UTF-8.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,5 +13,10 @@ std::vector<std::string> CommandLineWords(int count, const char* const* argument
 /// The path that a word names, whole: the program goes into its own folder before it reads it. The empty word
 /// stays empty.
 std::string PathOfWord(const std::string& word);
+
+/// The path that the words name: the empty path without any, one word as PathOfWord takes it, several where
+/// together, with blanks between them, they name a file that is there. Somebody has passed that on without
+/// quotes. Nothing for other words.
+std::optional<std::string> PathOfWords(const std::vector<std::string>& words);
 
 }  // namespace veldrin

@@ -19,15 +19,17 @@ constexpr int kBetween = 5;  // ms
 
 #ifdef _WIN32
 
-/// Who has the lock has the file open, and lets nobody delete it.
-bool RemoveUnheld(const QString& path) {
+/// Who has the lock has the file open, and lets nobody delete it, wherever on the network that is.
+bool RemoveUnheld(const QString& path, const QString& /*machine*/) {
   return QFile::remove(path);
 }
 
 #else
 
-/// Who has the lock has the file locked for the system as well, from before its first byte on.
-bool RemoveUnheld(const QString& path) {
+/// Who has the lock has the file locked for the system as well, from before its first byte on. Not every
+/// network tells others of it.
+bool RemoveUnheld(const QString& path, const QString& machine) {
+  if (machine != QSysInfo::machineHostName()) return false;
   const QByteArray name = QFile::encodeName(path);
   const int file = open(name.constData(), O_RDONLY | O_CLOEXEC);
   if (file < 0) return false;
@@ -40,13 +42,13 @@ bool RemoveUnheld(const QString& path) {
 
 #endif
 
-/// Takes away what a crash on this machine left behind. False where it is held, or nobody can tell.
+/// Takes away what a crash left behind. False where it is held, or nobody can tell.
 bool RemoveAbandoned(const QLockFile& lock) {
   qint64 process = 0;
   QString machine;
   QString program;
   if (!lock.getLockInfo(&process, &machine, &program)) return false;
-  return machine == QSysInfo::machineHostName() && RemoveUnheld(lock.fileName());
+  return RemoveUnheld(lock.fileName(), machine);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #ifdef _WIN32
 
+#include "machine/registry/real_windows_registry.h"
+
 #include <shlobj.h>
 #include <windows.h>
 
@@ -16,6 +18,7 @@ void TellDesktop() {
 }  // namespace
 
 void AssociateOnDesktop(const QString& /*extension*/) {
+  WindowsRegistry::TieFileType();
   TellDesktop();
 }
 

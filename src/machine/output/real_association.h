@@ -10,7 +10,8 @@
 // from the other.
 //
 // The desktop's own tools take them in, a moment after the functions have returned; where they are not
-// installed, nothing happens at all. Windows has its registry for this and is only told that it changed.
+// installed, nothing happens at all. Windows has its registry for this: there the extension stands already,
+// its type gets a program that is there, and the desktop is told that something changed.
 #pragma once
 
 #include <QString>

@@ -3,8 +3,12 @@
 #ifdef _WIN32
 
 #include "machine/files/real_fault.h"
+#include "machine/registry/real_file_type.h"
+#include "platform/disk.h"
 #include "runtime/text.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QString>
 
 #include <system_error>
@@ -52,7 +56,8 @@ std::optional<std::string> ReadValue(const Place& place, const std::string& valu
       ERROR_SUCCESS) {
     return std::nullopt;
   }
-  std::vector<wchar_t> text(size / sizeof(wchar_t) + 1, L'\0');
+  // Room for the end that a damaged text lacks, and for the other half of its last character.
+  std::vector<wchar_t> text(size / sizeof(wchar_t) + 2, L'\0');
   size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
   if (RegGetValueW(place.root, place.key.c_str(), name.c_str(), kStrings, nullptr, text.data(), &size) !=
       ERROR_SUCCESS) {
@@ -74,11 +79,43 @@ LSTATUS WriteValue(const Place& place, const std::string& value, const std::stri
   return written;
 }
 
+/// A value as the user sees it. The user's own classes come first in the root; not every system that runs
+/// programs of Windows shows them there.
+std::optional<std::string> ReadSeen(RegistryRoot root, const std::string& key, const std::string& value) {
+  std::optional<std::string> text;
+  if (root == RegistryRoot::ClassesRoot) text = ReadValue(WritePlace(root, key), value);
+  return text ? text : ReadValue(ReadPlace(root, key), value);
+}
+
+std::string RunningProgram() {
+  return QDir::toNativeSeparators(QCoreApplication::applicationFilePath()).toStdString();
+}
+
+/// Whether what opens files of the type is a program that is there.
+bool HasOpener() {
+  const auto command = ReadSeen(RegistryRoot::ClassesRoot, kFileTypeCommand, "");
+  const std::string program = ProgramOfCommand(command.value_or(""));
+  std::error_code failure;
+  return !program.empty() && std::filesystem::is_regular_file(StatusOnDisk(PathOfText(program), failure));
+}
+
 }  // namespace
+
+void WindowsRegistry::Check() {
+  const auto command = ReadSeen(RegistryRoot::ClassesRoot, kFileTypeCommand, "");
+  if (command) TieFileType();
+}
+
+void WindowsRegistry::TieFileType() {
+  if (HasOpener()) return;
+  for (const char* key : {kFileTypeIcon, kFileTypeCommand}) {
+    WriteValue(WritePlace(RegistryRoot::ClassesRoot, key), "", FileTypeText(key, "", RunningProgram()));
+  }
+}
 
 std::optional<std::string> WindowsRegistry::Read(RegistryRoot root, const std::string& key,
                                                  const std::string& value) const {
-  std::optional<std::string> text = ReadValue(ReadPlace(root, key), value);
+  std::optional<std::string> text = ReadSeen(root, key, value);
   if (!text && root == RegistryRoot::LocalMachine && EqualsIgnoringCase(value, "CPU")) {
     text = ReadValue(ReadPlace(root, kProcessorKey), "ProcessorNameString");
   }
@@ -88,8 +125,10 @@ std::optional<std::string> WindowsRegistry::Read(RegistryRoot root, const std::s
 bool WindowsRegistry::Write(RegistryRoot root, const std::string& key, const std::string& value,
                             const std::string& text) {
   if (root == RegistryRoot::LocalMachine) return false;
-  const Place place = WritePlace(root, key);
-  const LSTATUS status = WriteValue(place, value, text);
+  const bool ofType = root == RegistryRoot::ClassesRoot && value.empty() && BelongsToFileType(key);
+  if (ofType && HasOpener()) return true;
+  const std::string written = ofType ? FileTypeText(key, text, RunningProgram()) : text;
+  const LSTATUS status = WriteValue(WritePlace(root, key), value, written);
   if (status != ERROR_SUCCESS && troubled && !std::exchange(failureTold_, true)) {
     troubled(
         {PlaceOf(key), FaultFor({static_cast<int>(status), std::system_category()}, FileTask::Write), {}});
