@@ -47,7 +47,7 @@ build() {
 }
 
 # source_date: when the source was made, in seconds since 1970: the commit's time; in an unpacked source archive the time
-# that all of its files bear.
+# that all of its files bear. The folder may be somebody else's, as where a container looks at it.
 source_date() {
-  if [ -e .git ]; then git log -1 --format=%ct; else stat -c %Y CHANGELOG.md; fi
+  if [ -e .git ]; then git -c safe.directory='*' log -1 --format=%ct; else stat -c %Y CHANGELOG.md; fi
 }

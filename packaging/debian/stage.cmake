@@ -1,6 +1,5 @@
 # What Debian wants otherwise than cmake --install puts it, done where cpack has gathered the files of each package:
-# changelogs in Debian's form, and what is compressed.
-cmake_policy(SET CMP0057 NEW) # if(IN_LIST)
+# changelogs in Debian's form, the guide's place among the documents, and what is compressed.
 
 function(run)
   execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
@@ -23,3 +22,7 @@ foreach(package IN LISTS CPACK_COMPONENTS_ALL)
     endif()
   endforeach()
 endforeach()
+
+set(documents "${CPACK_TEMPORARY_DIRECTORY}/veldrin/usr/share/doc-base")
+file(MAKE_DIRECTORY "${documents}")
+configure_file("${CPACK_VELDRIN_SOURCE}/packaging/debian/doc-base" "${documents}/veldrin.veldrin-guide" COPYONLY)
