@@ -1,6 +1,8 @@
 // What every test with Qt stands in: an application, and a session of its own.
 #pragma once
 
+#include "tests/own_user.h"
+
 #include <QApplication>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -18,10 +20,12 @@ class Surroundings : public ::testing::Environment {
     qputenv("XDG_RUNTIME_DIR", session_->path().toUtf8());
     qputenv("XDG_STATE_HOME", (session_->path() + "/state").toUtf8());
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    user_ = std::make_unique<OwnUser>();
     application_ = std::make_unique<QApplication>(count_, arguments_);
   }
   void TearDown() override {
     application_.reset();
+    user_.reset();
     session_.reset();
   }
 
@@ -30,6 +34,7 @@ class Surroundings : public ::testing::Environment {
   char name_[8] = "test-qt";
   char* arguments_[2] = {name_, nullptr};
   std::unique_ptr<QTemporaryDir> session_;
+  std::unique_ptr<OwnUser> user_;
   std::unique_ptr<QApplication> application_;
 };
 

@@ -1,44 +1,12 @@
-#include "program/event_boundary.h"
-#include "tests/desktop/running_program.h"
+#include "tests/desktop/ended_program.h"
 
 #include <QFontInfo>
 
-#include <csignal>
 #include <optional>
 #include <string>
 
 namespace veldrin {
 namespace {
-
-constexpr char kHistory[] = "Software\\Tarn Ridge\\Veldrin\\Ext\\Sub";
-
-class DesktopProgramTest : public RunningProgramTest {
- protected:
-  void SetChanged(const char* word) {
-    RunEvent(Main(), [&] { Main().workspace.DataChanged = word; });
-  }
-
-  void MoveTo(float left, float top) {
-    RunEvent(Main(), [&] {
-      Main().form2.Left = left;
-      Main().form2.Top = top;
-    });
-  }
-
-  std::optional<std::string> Setting(const char* key, const char* value) {
-    return Desktop().machine.registry.Read(RegistryRoot::CurrentUser, key, value);
-  }
-
-  /// What the unload leaves behind when the plan was the only one.
-  void ExpectStoredAndTidy() {
-    EXPECT_TRUE(Main().ended);
-    EXPECT_EQ(TempFiles(), QStringList());
-    EXPECT_EQ(Setting(kHistory, "0"), "1");
-    EXPECT_EQ(Setting(kHistory, "1"), PlanFile());
-    EXPECT_EQ(Setting(kSettings, "Last Left"), "1500");
-    EXPECT_EQ(Setting(kSettings, "Last Top"), "900");
-  }
-};
 
 TEST_F(DesktopProgramTest, RunsFromTheSplashToTheEndOfTheMainWindow) {
   const int status = Run("", [&] {
@@ -65,34 +33,9 @@ TEST_F(DesktopProgramTest, AFaultEndsItWithAStatusOfItsOwn) {
   EXPECT_EQ(Main().endFault, 11);
 }
 
-TEST_F(DesktopProgramTest, ASignalEndsItAsTheEndOfTheSessionDoes) {
-  for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
-    const int status = Run(PlanFile(), [&] {
-      SetChanged(dirty::kNo);
-      MoveTo(1500, 900);
-      raise(signal);
-    });
-    EXPECT_EQ(status, 0) << signal;
-    ExpectStoredAndTidy();
-    TearDown();
-    SetUp();
-  }
-}
-
-TEST_F(DesktopProgramTest, ASignalLosesWhatNobodyCanBeAskedAboutAndNoMore) {
-  const int status = Run(PlanFile(), [&] {
-    SetChanged(dirty::kYes);
-    MoveTo(1500, 900);
-    raise(SIGTERM);
-    raise(SIGHUP);
-  });
-  EXPECT_EQ(status, 0);
-  ExpectStoredAndTidy();
-}
-
-TEST_F(DesktopProgramTest, ASignalEndsItBehindAnOpenBoxToo) {
+TEST_F(DesktopProgramTest, EndedBehindAnOpenBoxItGoesOnWithNothing) {
   bool wentOn = false;
-  When([] { return OpenBox() != nullptr; }, [] { raise(SIGTERM); });
+  When([] { return OpenBox() != nullptr; }, [this] { Desktop().EndAtOnce(); });
   const int status = Run(PlanFile(), [&] {
     SetChanged(dirty::kYes);
     MoveTo(1500, 900);
@@ -107,21 +50,6 @@ TEST_F(DesktopProgramTest, ASignalEndsItBehindAnOpenBoxToo) {
   ExpectStoredAndTidy();
 }
 
-TEST_F(DesktopProgramTest, ASignalClosesTheBoxOfAFault) {
-  When([] { return OpenBox() != nullptr; }, [] { raise(SIGTERM); });
-  const int status = Run("", [&] { Desktop().stage.input.Do([]() -> bool { throw RuntimeFault{11}; }); });
-  EXPECT_EQ(status, 1);
-}
-
-TEST_F(DesktopProgramTest, ASignalDuringTheSplashLeavesTheStoredHistoryAlone) {
-  Desktop().machine.registry.Write(RegistryRoot::CurrentUser, kHistory, "0", "7");
-  When([this] { return !TempFiles().isEmpty() && !Main().form2.loaded; }, [] { raise(SIGTERM); });
-  EXPECT_EQ(Finish(""), 0);
-  EXPECT_TRUE(Main().ended);
-  EXPECT_EQ(TempFiles(), QStringList());
-  EXPECT_EQ(Setting(kHistory, "0"), "7");
-}
-
 TEST_F(DesktopProgramTest, WhatItHadStillToDoGoesWithIt) {
   When([] { return true; }, [] { QCoreApplication::exit(); });
   Finish("");
@@ -131,24 +59,6 @@ TEST_F(DesktopProgramTest, WhatItHadStillToDoGoesWithIt) {
   QTimer::singleShot(200, qApp, [] { QCoreApplication::exit(); });
   QApplication::exec();
   EXPECT_FALSE(Main().ended);
-}
-
-TEST_F(DesktopProgramTest, WhatWasIgnoredStaysIgnored) {
-  TearDown();
-  signal(SIGHUP, SIG_IGN);
-  SetUp();
-  bool wentOn = false;
-  Run("", [&] {
-    raise(SIGHUP);
-    When([] { return true; },
-         [&] {
-           wentOn = !Main().ended;
-           raise(SIGTERM);
-         });
-  });
-  EXPECT_TRUE(wentOn);
-  TearDown();  // which puts back what it found
-  signal(SIGHUP, SIG_DFL);
 }
 
 TEST_F(DesktopProgramTest, AProcessWhoseDisplayIsGoneLeavesNothingBehind) {

@@ -1,11 +1,8 @@
 // For each way of ending that does not ask: edit, end, start, Open. All that was on the screen is there
 // again.
 #include "program/event_boundary.h"
+#include "tests/desktop/other_half.h"
 #include "tests/desktop/running_program.h"
-
-#include <QProcess>
-
-#include <csignal>
 
 namespace veldrin {
 namespace {
@@ -19,7 +16,7 @@ void Edit(DesktopProgram& desktop) {
 
 class KeptPlansTest : public RunningProgramTest {
  protected:
-  QStringList KeptFiles() const { return QDir(In("state/veldrin")).entryList({"*.kept"}, QDir::Files); }
+  QStringList KeptFiles() const { return InKeepFolder("*.kept"); }
 
   /// Runs the program, edits, and lets it end by `end` once the edit has been seen.
   int EditAndEnd(const std::string& file, const std::function<void()>& end) {
@@ -59,7 +56,7 @@ class KeptPlansTest : public RunningProgramTest {
            EXPECT_EQ(Main().form2.Text6.Text, "wet\r\ncold");
            EXPECT_EQ(workspace.DataChanged, dirty::kYes);
            EXPECT_EQ(workspace.DataFile, PlanFile());
-           raise(SIGTERM);
+           Desktop().EndAtOnce();
          });
     Finish("");
     EXPECT_EQ(KeptFiles().size(), 1) << "it was not saved this time either";
@@ -76,8 +73,8 @@ TEST_F(KeptPlansTest, Fault) {
   ExpectAllBack();
 }
 
-TEST_F(KeptPlansTest, Signal) {
-  EditAndEnd(PlanFile(), [] { raise(SIGTERM); });
+TEST_F(KeptPlansTest, EndWithoutAQuestion) {
+  EditAndEnd(PlanFile(), [this] { Desktop().EndAtOnce(); });
   ExpectAllBack();
 }
 
@@ -103,15 +100,10 @@ TEST_F(KeptPlansTest, CloseThatHasNothingToAsk) {
 }
 
 TEST_F(KeptPlansTest, CrashAfterTwoSeconds) {
-  QProcess victim;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert("VELDRIN_TEST_STATE", qEnvironmentVariable("XDG_STATE_HOME"));
-  environment.insert("VELDRIN_TEST_PLAN", QString::fromStdString(PlanFile()));
-  victim.setProcessEnvironment(environment);
-  victim.start(QCoreApplication::applicationFilePath(),
-               {"--gtest_also_run_disabled_tests", "--gtest_filter=DISABLED_KeptPlansVictim.*"});
-  ASSERT_TRUE(victim.waitForFinished(60000));
-  EXPECT_EQ(victim.exitStatus(), QProcess::CrashExit);
+  OtherHalf victim("DISABLED_KeptPlansVictim.EditsAndIsKilled",
+                   {qEnvironmentVariable("XDG_STATE_HOME"), QString::fromStdString(PlanFile())});
+  victim.AwaitEnd();
+  EXPECT_TRUE(victim.Died());
   ExpectAllBack();
 }
 
@@ -119,11 +111,12 @@ TEST_F(KeptPlansTest, CrashAfterTwoSeconds) {
 class DISABLED_KeptPlansVictim : public ::testing::Test {};
 
 TEST_F(DISABLED_KeptPlansVictim, EditsAndIsKilled) {
-  qputenv("XDG_STATE_HOME", qgetenv("VELDRIN_TEST_STATE"));
+  const QStringList words = OtherHalf::Words();
+  qputenv("XDG_STATE_HOME", words[0].toUtf8());
   DesktopProgram desktop;
   const auto edit = [&] {
     Edit(desktop);
-    QTimer::singleShot(2000, qApp, [] { raise(SIGKILL); });
+    QTimer::singleShot(2000, qApp, [] { DieAtOnce(); });
   };
   QTimer polling;
   QObject::connect(&polling, &QTimer::timeout, [&] {
@@ -132,7 +125,7 @@ TEST_F(DISABLED_KeptPlansVictim, EditsAndIsKilled) {
     edit();
   });
   polling.start(5);
-  desktop.Run(qgetenv("VELDRIN_TEST_PLAN").toStdString());
+  desktop.Run(words[1].toStdString());
 }
 
 TEST_F(KeptPlansTest, QuitWithTheUsersWordKeepsNothing) {
@@ -145,7 +138,7 @@ TEST_F(KeptPlansTest, QuitWithTheUsersWordKeepsNothing) {
 }
 
 TEST_F(KeptPlansTest, PlanThatWasOnlyLoadedIsNotKept) {
-  Run(PlanFile(), [] { raise(SIGTERM); });
+  Run(PlanFile(), [this] { Desktop().EndAtOnce(); });
   EXPECT_EQ(KeptFiles(), QStringList());
 }
 
@@ -173,7 +166,7 @@ TEST_F(KeptPlansTest, StartAgainNamesTheKeptPlan) {
          [this] {
            EXPECT_EQ(Main().form2.Text6.Text, "wet\r\ncold");
            EXPECT_EQ(Offered(), nullptr);
-           raise(SIGTERM);
+           Desktop().EndAtOnce();
          });
   });
 }

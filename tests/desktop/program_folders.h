@@ -1,8 +1,10 @@
 // Folders for a program on the real disk, with a list, a plan of it and a user's settings.
 #pragma once
 
+#include "machine/files/real_keep_folder.h"
 #include "tests/desktop/sample_files.h"
 #include "tests/desktop/scratch_folder.h"
+#include "tests/own_user.h"
 
 #include <string>
 
@@ -22,6 +24,7 @@ class ProgramFolders : public ScratchFolder {
     qputenv("XDG_STATE_HOME", In("state").toUtf8());
     qputenv("TEMP", In("temp").toUtf8());
     QDir::setCurrent(In("program"));
+    OwnUser::Forget();
   }
   ProgramFolders(const ProgramFolders&) = delete;
   ProgramFolders& operator=(const ProgramFolders&) = delete;
@@ -31,6 +34,10 @@ class ProgramFolders : public ScratchFolder {
     qputenv("XDG_STATE_HOME", stateBefore_);
   }
 
+  /// The files of this pattern in the folder of kept plans.
+  QStringList InKeepFolder(const QString& pattern) const {
+    return QDir(RealKeepFolder::UsersFolder()).entryList({pattern}, QDir::Files);
+  }
   QStringList TempFiles() const { return QDir(In("temp")).entryList(QDir::Files); }
   std::string PlanFile() const { return PathOf("program/DAT/Dry.nx4"); }
 

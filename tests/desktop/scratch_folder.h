@@ -7,16 +7,21 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
-#include <sys/stat.h>
 
 namespace veldrin {
 
 class ScratchFolder {
  public:
   QString In(const QString& name) const { return folder.path() + "/" + name; }
-  /// The same, byte for byte.
-  std::string PathOf(const std::string& name) const { return folder.path().toStdString() + "/" + name; }
+  /// The same as the program writes it: byte for byte, with the system's separators.
+  std::string PathOf(const std::string& name) const {
+    std::string path = folder.path().toStdString() + "/" + name;
+    const char separator = QDir::separator().toLatin1();
+    if (separator != '/') std::replace(path.begin(), path.end(), '/', separator);
+    return path;
+  }
 
   /// Writes a file, and makes the folders on the way to it.
   void Put(const QString& name, const QByteArray& bytes) const {
@@ -29,7 +34,8 @@ class ScratchFolder {
   /// Writes a program that does this work in the shell.
   void PutProgram(const QString& name, const QByteArray& work) const {
     Put(name, "#!/bin/sh\n" + work);
-    chmod(QFile::encodeName(In(name)).constData(), 0755);
+    QFile::setPermissions(In(name), QFile::permissions(In(name)) | QFileDevice::ExeOwner |
+                                        QFileDevice::ExeUser | QFileDevice::ExeGroup | QFileDevice::ExeOther);
   }
 
   QByteArray Bytes(const QString& name) const {

@@ -4,7 +4,6 @@
 #include "machine/files/real_files.h"
 #include "platform/system_code_pages.h"
 #include "runtime/fault.h"
-#include "tests/desktop/child_process.h"
 #include "tests/desktop/scratch_folder.h"
 
 #include <QDir>
@@ -12,13 +11,9 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
-#include <unistd.h>
 
 namespace veldrin {
-
-inline constexpr uid_t kNobody = 65534;
 
 /// A folder of its own for each test, which the files make nothing outside of.
 class RealFilesTest : public ::testing::Test, protected ScratchFolder {
@@ -37,13 +32,5 @@ class RealFilesTest : public ::testing::Test, protected ScratchFolder {
 
   RealFiles files{SystemCodePages(false)};
 };
-
-/// What `work` returns in a process of its own that has no rights beyond those of a plain user.
-inline int AsPlainUser(const std::function<int()>& work) {
-  return WaitForChild(StartChild([&] {
-    const bool plain = geteuid() != 0 || setuid(kNobody) == 0;
-    return plain ? work() : 255;
-  }));
-}
 
 }  // namespace veldrin

@@ -14,15 +14,6 @@ class RealKeepFolderTest : public ::testing::Test, protected ScratchFolder {
   RealKeepFolder kept{In("state/veldrin")};
 };
 
-TEST_F(RealKeepFolderTest, StandsInTheStateFolder) {
-  const QByteArray before = qgetenv("XDG_STATE_HOME");
-  qputenv("XDG_STATE_HOME", "/some/state");
-  EXPECT_EQ(RealKeepFolder::UsersFolder(), "/some/state/veldrin");
-  qputenv("XDG_STATE_HOME", "relative");
-  EXPECT_EQ(RealKeepFolder::UsersFolder(), QDir::homePath() + "/.local/state/veldrin");
-  qputenv("XDG_STATE_HOME", before);
-}
-
 TEST_F(RealKeepFolderTest, WhatIsReplacedIsRead) {
   EXPECT_TRUE(kept.KeptNames().empty());
   EXPECT_FALSE(kept.Read("a.kept"));

@@ -1,130 +1,15 @@
-#include "machine/files/real_replacing_file.h"
+#include "tests/desktop/other_half.h"
+#include "tests/machine/files/replaced_file.h"
 
-#include "runtime/fault.h"
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
-#include <cerrno>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <sys/stat.h>
-#include <sys/syscall.h>
-#include <unistd.h>
-
-namespace {
-
-/// What the disk answers when it is told to keep a file; 0 for its own answer.
-int diskAnswer = 0;
-
-}  // namespace
-
-// Stands before the system's own for everything in this test.
-extern "C" int fsync(int file) {
-  if (diskAnswer == 0) return static_cast<int>(syscall(SYS_fsync, file));
-  errno = diskAnswer;
-  return -1;
-}
-extern "C" int fdatasync(int file) {
-  return fsync(file);
-}
+#include <chrono>
+#include <random>
+#include <thread>
 
 namespace veldrin {
 namespace {
 
-namespace fs = std::filesystem;
-
-class ReplacingFileTest : public ::testing::Test {
- protected:
-  void TearDown() override { diskAnswer = 0; }
-
-  fs::path In(const std::string& name) const { return fs::path(folder.path().toStdString()) / name; }
-
-  void Put(const std::string& name, const std::string& bytes) const { std::ofstream(In(name)) << bytes; }
-
-  std::string Bytes(const std::string& name) const {
-    std::ifstream file(In(name));
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  }
-
-  struct stat StatusOf(const std::string& name) const {
-    struct stat status = {};
-    lstat(In(name).c_str(), &status);
-    return status;
-  }
-
-  QStringList Names() const {
-    return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-  }
-
-  int Replace(const std::string& name, const std::string& bytes) const {
-    return Guarded([&] {
-      ReplacingFile file(In(name));
-      file.Append(bytes);
-      file.Commit();
-    });
-  }
-
-  QTemporaryDir folder;
-};
-
-TEST_F(ReplacingFileTest, WhatTheDiskDoesNotTakeIsAFaultAndLeavesTheOldFile) {
-  Put("plan.nx4", "old");
-  const struct {
-    int answer;
-    int fault;
-  } cases[] = {{EIO, kFaultDriveNotReady}, {ENOSPC, kFaultDiskFull}, {EDQUOT, kFaultDiskFull}};
-  for (const auto& [answer, fault] : cases) {
-    diskAnswer = answer;
-    EXPECT_EQ(Replace("plan.nx4", "new"), fault) << answer;
-    EXPECT_EQ(Bytes("plan.nx4"), "old") << answer;
-    EXPECT_EQ(Names(), QStringList("plan.nx4")) << answer;
-  }
-}
-
-TEST_F(ReplacingFileTest, AFileSystemThatKnowsNoSuchOrderServesAllTheSame) {
-  for (const int answer : {EINVAL, ENOTSUP}) {
-    diskAnswer = answer;
-    EXPECT_EQ(Replace("plan.nx4", "new"), 0) << answer;
-    EXPECT_EQ(Bytes("plan.nx4"), "new") << answer;
-    fs::remove(In("plan.nx4"));
-  }
-}
-
-TEST_F(ReplacingFileTest, LinksAreFollowedToTheirEnd) {
-  fs::create_directory(In("far"));
-  fs::create_symlink("far/plan.nx4", In("second"));
-  fs::create_symlink(In("second"), In("first"));
-  EXPECT_EQ(Replace("first", "new"), 0);
-  EXPECT_EQ(Bytes("far/plan.nx4"), "new");
-  EXPECT_TRUE(S_ISLNK(StatusOf("first").st_mode));
-  EXPECT_TRUE(S_ISLNK(StatusOf("second").st_mode));
-  EXPECT_EQ(QDir(folder.path() + "/far").entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-            QStringList("plan.nx4"));
-}
-
-TEST_F(ReplacingFileTest, ALinkThatLeadsNowhereIsAFault) {
-  fs::create_symlink("none/plan.nx4", In("away"));
-  fs::create_symlink("round", In("round"));
-  EXPECT_EQ(Replace("away", "new"), kFaultPathNotFound);
-  EXPECT_EQ(Replace("round", "new"), kFaultPathAccess);
-}
-
-TEST_F(ReplacingFileTest, TheFileStaysItsOwners) {
-  if (geteuid() != 0) GTEST_SKIP() << "only the administrator writes files of others";
-  constexpr uid_t kOwner = 1234;
-  constexpr gid_t kGroup = 2345;
-  Put("plan.nx4", "old");
-  ASSERT_EQ(chown(In("plan.nx4").c_str(), kOwner, kGroup), 0);
-  ASSERT_EQ(chmod(In("plan.nx4").c_str(), 0660), 0);
-  EXPECT_EQ(Replace("plan.nx4", "new"), 0);
-  const struct stat status = StatusOf("plan.nx4");
-  EXPECT_EQ(status.st_uid, kOwner);
-  EXPECT_EQ(status.st_gid, kGroup);
-  EXPECT_EQ(status.st_mode & 0777, 0660U);
-}
+constexpr int kParts = 16;
+constexpr int kPart = 4096;  // bytes
 
 TEST_F(ReplacingFileTest, TheLongestNameIsWritten) {
   const std::string name(255, 'n');
@@ -142,6 +27,31 @@ TEST_F(ReplacingFileTest, WhatWasDroppedDoesNotComeBack) {
   }
   EXPECT_EQ(Bytes("plan.nx4"), "short");
   EXPECT_EQ(Names(), QStringList("plan.nx4"));
+}
+
+TEST(DISABLED_ReplacingFileWriter, WritesOnAndOn) {
+  const fs::path path = OtherHalf::Words().front().toStdString();
+  OtherHalf::TellReady();
+  for (char sign = 'a';; sign = sign == 'z' ? 'a' : static_cast<char>(sign + 1)) {
+    ReplacingFile file(path);
+    for (int part = 0; part < kParts; ++part) file.Append(std::string(kPart, sign));
+    file.Commit();
+  }
+}
+
+TEST_F(ReplacingFileTest, AKillAtAnyMomentLeavesAWholeFile) {
+  std::mt19937 chance(1);
+  for (int kills = 0; kills < 8; ++kills) {
+    OtherHalf writer("DISABLED_ReplacingFileWriter.WritesOnAndOn", {folder.path() + "/plan.nx4"});
+    ASSERT_TRUE(writer.AwaitReady());
+    std::this_thread::sleep_for(std::chrono::milliseconds(5 + chance() % 50));
+    writer.Kill();
+    if (!fs::exists(In("plan.nx4"))) continue;
+    const std::string bytes = Bytes("plan.nx4");
+    ASSERT_EQ(bytes.size(), static_cast<std::size_t>(kParts * kPart));
+    EXPECT_EQ(bytes, std::string(bytes.size(), bytes.front()));
+  }
+  EXPECT_TRUE(fs::exists(In("plan.nx4")));
 }
 
 }  // namespace

@@ -1,32 +1,12 @@
 // What is written to the disk: whole or not at all.
 #include "platform/system_code_pages.h"
+#include "tests/desktop/other_half.h"
 #include "tests/machine/files/files_in_folder.h"
 
-#include <csignal>
-#include <fstream>
-#include <functional>
 #include <string>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <vector>
 
 namespace veldrin {
 namespace {
-
-TEST_F(RealFilesTest, NamesThatAreNoUtf8AreReadAndWritten) {
-  const std::string name = "\x8a\x43.nx4";
-  std::ofstream(PathOf(name)) << "a";
-  EXPECT_EQ(files.FileNames(PathOf(""), "*.nx4"), std::vector<std::string>{name});
-  EXPECT_EQ(files.ReadText(PathOf(name)), "a");
-  Save(name, "b");
-  EXPECT_EQ(files.ReadText(PathOf(name)), "b");
-  files.Delete(PathOf(name));
-  EXPECT_FALSE(files.FileExists(PathOf(name)));
-  const std::string fresh = "\x8a\x44.nx4";
-  Save(fresh, "c");
-  EXPECT_EQ(files.FileNames(PathOf(""), "*"), std::vector<std::string>{fresh});
-  files.Delete(PathOf(fresh));
-}
 
 TEST_F(RealFilesTest, WhatIsWrittenStandsAfterCloseOnly) {
   Put("plan.nx4", "old");
@@ -41,24 +21,6 @@ TEST_F(RealFilesTest, WhatIsWrittenStandsAfterCloseOnly) {
   EXPECT_EQ(Names(), QStringList("plan.nx4"));
 }
 
-TEST_F(RealFilesTest, RightsAndLinksStayAsTheyWere) {
-  Put("plan.nx4", "old");
-  ASSERT_EQ(chmod(PathOf("plan.nx4").c_str(), 0640), 0);
-  ASSERT_EQ(symlink("plan.nx4", PathOf("link.nx4").c_str()), 0);
-  Save("link.nx4", "new");
-  EXPECT_EQ(Bytes("plan.nx4"), "new");
-  struct stat status = {};
-  ASSERT_EQ(lstat(PathOf("link.nx4").c_str(), &status), 0);
-  EXPECT_TRUE(S_ISLNK(status.st_mode));
-  ASSERT_EQ(stat(PathOf("plan.nx4").c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 0777, 0640U);
-  Save("new.nx4", "new");
-  const mode_t mask = umask(0);
-  umask(mask);
-  ASSERT_EQ(stat(PathOf("new.nx4").c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 0777, 0666 & ~mask);
-}
-
 TEST_F(RealFilesTest, AWriterThatIsDroppedLeavesTheFileAndNothingElse) {
   Put("plan.nx4", "old");
   files.OpenForWriting(PathOf("plan.nx4"))->Write("new");
@@ -69,69 +31,26 @@ TEST_F(RealFilesTest, AWriterThatIsDroppedLeavesTheFileAndNothingElse) {
 
 TEST_F(RealFilesTest, AProcessThatDiesWhileWritingLeavesTheOldFileWhole) {
   Put("plan.nx4", "old");
-  const pid_t child = StartChild([&] {
-    const auto writer = files.OpenForWriting(PathOf("plan.nx4"));
-    writer->Write("half of a pl");
-    return raise(SIGKILL);
-  });
-  ASSERT_EQ(WaitForChild(child), -SIGKILL);
+  OtherHalf writer("DISABLED_RealFilesWriter.DiesWhileWriting", {In("plan.nx4")});
+  writer.AwaitEnd();
+  EXPECT_TRUE(writer.Died());
   EXPECT_EQ(Bytes("plan.nx4"), "old");
 }
 
-TEST_F(RealFilesTest, AFullDiskIsFault61AndLeavesTheOldFileWhole) {
-  Put("plan.nx4", "old");
-  int written = 0;
-  int closed = 0;
-  // A limit on the size of files stands for the end of the disk.
-  signal(SIGXFSZ, SIG_IGN);
-  rlimit before = {};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit full = {4096, before.rlim_max};
-  {
-    const auto writer = files.OpenForWriting(PathOf("plan.nx4"));
-    setrlimit(RLIMIT_FSIZE, &full);
-    written = Guarded([&] { writer->Write(std::string(100000, 'x')); });
-    closed = Guarded([&] { writer->Close(); });
-    setrlimit(RLIMIT_FSIZE, &before);
-  }
-  EXPECT_EQ(written, kFaultDiskFull);
-  EXPECT_EQ(closed, kFaultDiskFull);
-  EXPECT_EQ(Bytes("plan.nx4"), "old");
-  EXPECT_EQ(Names(), QStringList("plan.nx4"));
+TEST(DISABLED_RealFilesWriter, DiesWhileWriting) {
+  RealFiles files{SystemCodePages(false)};
+  const auto writer = files.OpenForWriting(OtherHalf::Words().front().toStdString());
+  writer->Write("half of a pl");
+  DieAtOnce();
 }
 
 TEST_F(RealFilesTest, AReadOnlyFileIsNeitherReplacedNorDeleted) {
   Put("plan.nx4", "old");
-  ASSERT_EQ(chmod(PathOf("plan.nx4").c_str(), 0444), 0);
+  ASSERT_TRUE(QFile::setPermissions(In("plan.nx4"), QFileDevice::ReadOwner | QFileDevice::ReadUser));
   EXPECT_EQ(Guarded([&] { files.OpenForWriting(PathOf("PLAN.nx4")); }), kFaultPermissionDenied);
   EXPECT_EQ(Guarded([&] { files.Delete(PathOf("plan.nx4")); }), kFaultPermissionDenied);
   EXPECT_EQ(Bytes("plan.nx4"), "old");
-}
-
-TEST_F(RealFilesTest, AFolderThatDeniesWritingIsFault70) {
-  Put("plan.nx4", "old");
-  ASSERT_EQ(chmod(folder.path().toLocal8Bit().constData(), 0555), 0);
-  const auto fault = [&](const std::function<void()>& operation) {
-    return AsPlainUser([&] { return Guarded(operation); });
-  };
-  EXPECT_EQ(fault([&] { files.OpenForWriting(PathOf("new.nx4")); }), kFaultPermissionDenied);
-  EXPECT_EQ(fault([&] { files.OpenForWriting(PathOf("plan.nx4")); }), kFaultPermissionDenied);
-  EXPECT_EQ(fault([&] { files.Delete(PathOf("plan.nx4")); }), kFaultPermissionDenied);
-  EXPECT_EQ(Bytes("plan.nx4"), "old");
-  chmod(folder.path().toLocal8Bit().constData(), 0700);
-}
-
-TEST_F(RealFilesTest, WhatMayNotBeReadIsFault70) {
-  Put("plan.nx4", "old");
-  MakeFolder("closed");
-  chmod(folder.path().toLocal8Bit().constData(), 0755);
-  chmod(PathOf("plan.nx4").c_str(), 0000);
-  chmod(PathOf("closed").c_str(), 0000);
-  EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ReadText(PathOf("plan.nx4")); }); }),
-            kFaultPermissionDenied);
-  EXPECT_EQ(AsPlainUser([&] { return Guarded([&] { files.ResolveFolder(PathOf("closed")); }); }),
-            kFaultPermissionDenied);
-  EXPECT_EQ(AsPlainUser([&] { return files.FileExists(PathOf("closed/x")) ? 1 : 0; }), 0);
+  QFile::setPermissions(In("plan.nx4"), QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// The tools of a Linux desktop, which take in what was tied. Windows is told by a message and has none.
 #include "machine/output/real_association.h"
 #include "tests/desktop/inherited_pipe.h"
 #include "tests/desktop/scratch_folder.h"

@@ -1,6 +1,7 @@
-#include "machine/output/real_sound.h"
-
+// Linux has no player of its own: the program looks for one, and here the test puts it there. Windows plays
+// by itself.
 #include "machine/files/real_files.h"
+#include "machine/output/real_sound.h"
 #include "platform/system_code_pages.h"
 #include "tests/desktop/scratch_folder.h"
 

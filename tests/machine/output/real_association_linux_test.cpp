@@ -1,5 +1,5 @@
+// How extensions are tied by the files and tools of a Linux desktop. Windows ties them by its registry alone.
 #include "machine/output/real_association.h"
-
 #include "tests/desktop/inherited_pipe.h"
 
 #include <QCoreApplication>
