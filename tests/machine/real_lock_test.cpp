@@ -5,6 +5,7 @@
 #include "machine/real_instances.h"
 #include "tests/desktop/scratch_folder.h"
 
+#include <QDateTime>
 #include <gtest/gtest.h>
 
 namespace veldrin {
@@ -20,6 +21,15 @@ class RealLockTest : public ::testing::Test, protected ScratchFolder {
     ASSERT_FALSE(bytes.isEmpty());
     lock.unlock();
     Put(name, bytes);
+    SetBack(name);
+  }
+
+  /// The time of a file is that of a crash before this process began.
+  void SetBack(const QString& name) {
+    QFile file(In(name));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(
+        file.setFileTime(QDateTime::currentDateTime().addDays(-1), QFileDevice::FileModificationTime));
   }
 
   bool TakesAnew(const QString& name) {
@@ -31,7 +41,9 @@ class RealLockTest : public ::testing::Test, protected ScratchFolder {
 
 TEST_F(RealLockTest, OneThatNobodyHoldsIsTaken) {
   PutLeftLock("a.lock");
-  EXPECT_FALSE(QLockFile(In("a.lock")).tryLock(0)) << "by its number and name alone it would be held";
+  QLockFile qts(In("a.lock"));
+  qts.setStaleLockTime(0);
+  EXPECT_FALSE(qts.tryLock(0)) << "by its number and name alone it would be held";
   EXPECT_TRUE(TakesAnew("a.lock"));
 }
 
@@ -46,6 +58,18 @@ TEST_F(RealLockTest, OneThatIsHeldStays) {
 }
 
 #ifndef _WIN32
+// Its owner may be about to delete it, and would delete what somebody else has put in its place. On Windows
+// nobody deletes what another has open.
+TEST_F(RealLockTest, OneThatIsBeingGivenBackIsLeftToItsOwner) {
+  QLockFile lock(In("a.lock"));
+  ASSERT_TRUE(lock.tryLock(0));
+  const QByteArray bytes = Bytes("a.lock");
+  lock.unlock();
+  Put("a.lock", bytes);
+  EXPECT_FALSE(TakesAnew("a.lock"));
+  EXPECT_EQ(Bytes("a.lock"), bytes);
+}
+
 // There the system knows of all machines.
 TEST_F(RealLockTest, OneOfAnotherMachineStays) {
   PutLeftLock("a.lock");
@@ -53,6 +77,7 @@ TEST_F(RealLockTest, OneOfAnotherMachineStays) {
   lines[2] = "another-machine";
   if (lines.size() > 3) lines[3] = "0123456789abcdef";
   Put("a.lock", lines.join('\n'));
+  SetBack("a.lock");
   EXPECT_FALSE(TakesAnew("a.lock"));
 }
 #endif
