@@ -114,13 +114,28 @@ std::optional<std::string> EncodePage(int /*page*/, std::string_view /*text*/) {
 
 #endif
 
-int SystemPage() {
 #ifdef _WIN32
-  return static_cast<int>(GetACP());
-#else
-  return kUtf8Page;
-#endif
+
+/// A process may have UTF-8 for its page while the others of the system do not, for whom its files are, too.
+int SystemPage() {
+  const int own = static_cast<int>(GetACP());
+  if (own != kUtf8Page) return own;
+  wchar_t text[8] = {};
+  DWORD size = sizeof text;
+  const LSTATUS status =
+      RegGetValueW(HKEY_LOCAL_MACHINE, L"SYSTEM\\CurrentControlSet\\Control\\Nls\\CodePage", L"ACP",
+                   RRF_RT_REG_SZ, nullptr, text, &size);
+  const int page = status == ERROR_SUCCESS ? _wtoi(text) : 0;
+  return page > 0 ? page : own;
 }
+
+#else
+
+int SystemPage() {
+  return kUtf8Page;
+}
+
+#endif
 
 }  // namespace
 
