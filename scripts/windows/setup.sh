@@ -18,7 +18,18 @@ find_qt_windows() {
   return 1
 }
 
-# need_qt_windows: the same, and ends the script where there is none.
+# why_not_windows: what keeps scripts/windows/test from running here without anything being installed; empty for nothing.
+why_not_windows() {
+  if ! (find_qt_windows); then
+    echo "no Qt for Windows (VELDRIN_QT_WINDOWS)"
+  elif ! command -v wine >/dev/null || ! command -v Xvfb >/dev/null; then
+    echo "Wine or Xvfb is not installed"
+  elif ! command -v x86_64-w64-mingw32-g++-posix >/dev/null; then
+    echo "g++-mingw-w64-x86-64-posix is not installed"
+  fi
+}
+
+# need_qt_windows: find_qt_windows, and ends the script where there is none.
 need_qt_windows() {
   find_qt_windows && return
   if [ -n "${VELDRIN_QT_WINDOWS:-}" ]; then

@@ -11,6 +11,12 @@ start_wine() {
   rm -rf "$WINEPREFIX"
   mkdir -p "$WINEPREFIX"
   start_display
+  # Without a screen Qt takes fonts from one folder only. Wine keeps what begins with QT_ to itself, and hands on what
+  # begins with WINEQT_.
+  mkdir -p "$WINEPREFIX.fonts"
+  ln -sf /usr/share/fonts/truetype/liberation*/LiberationSans-*.ttf /usr/share/fonts/opentype/noto/NotoSansCJK-*.ttc \
+    "$WINEPREFIX.fonts"
+  export WINEQT_QPA_FONTDIR=Z:$WINEPREFIX.fonts
   timeout 300 wineboot --init >"$WINEPREFIX.log" 2>&1 || {
     echo "Wine does not start ($WINEPREFIX.log)" >&2
     exit 1

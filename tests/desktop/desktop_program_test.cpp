@@ -143,7 +143,7 @@ TEST_F(DesktopProgramTest, BoxesAndDialogsFollowTheZoom) {
            width = OpenBox()->width();
            OpenBox()->accept();
          });
-    Desktop().machine.boxes.Message(BoxIcon::None, "", std::string(40, 'x'), BoxButtons::Ok);
+    Desktop().machine.boxes.Message(BoxIcon::None, "", std::string(24, 'x'), BoxButtons::Ok);
     return width;
   };
   const int width = widthOfBox();

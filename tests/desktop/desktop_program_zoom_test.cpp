@@ -1,4 +1,5 @@
 #include "desktop/desktop_program.h"
+#include "machine/registry/real_registry.h"
 #include "tests/desktop/program_folders.h"
 
 #include <QApplication>
@@ -15,7 +16,7 @@ namespace {
 class DesktopProgramZoomTest : public ::testing::Test, protected ProgramFolders {
  protected:
   static std::optional<std::string> Stored() {
-    return SettingsRegistry().Read(RegistryRoot::CurrentUser, kSettings, "Zoom");
+    return RealRegistry().Read(RegistryRoot::CurrentUser, kSettings, "Zoom");
   }
 
   static double FittingHere() {
@@ -54,7 +55,7 @@ TEST_F(DesktopProgramZoomTest, StoredTextIsReadWithinTheEnds) {
                {"300", 3},          {"9999", Zoom::kMost},   {"0", FittingHere()}, {"-100", FittingHere()},
                {"", FittingHere()}, {"large", FittingHere()}};
   for (const auto& one : cases) {
-    SettingsRegistry().Write(RegistryRoot::CurrentUser, kSettings, "Zoom", one.text);
+    RealRegistry().Write(RegistryRoot::CurrentUser, kSettings, "Zoom", one.text);
     const DesktopProgram program;
     EXPECT_EQ(program.stage.zoom.Factor(), one.factor) << one.text;
     EXPECT_EQ(Stored(), one.text);

@@ -38,8 +38,8 @@ TEST_F(GuideRoadTest, HelpShowsTheSectionInTheLanguageInForce) {
     PressHelp();
     Desktop().EndAtOnce();
   });
-  EXPECT_EQ(links.opened, (QStringList{"file://" + Beside() + "/en/at/header.html",
-                                       "file://" + Beside() + "/ja/at/header.html"}));
+  EXPECT_EQ(links.opened, (QStringList{QUrl::fromLocalFile(Beside() + "/en/at/header.html").toString(),
+                                       QUrl::fromLocalFile(Beside() + "/ja/at/header.html").toString()}));
 }
 
 }  // namespace

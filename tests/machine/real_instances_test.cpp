@@ -74,13 +74,6 @@ TEST_F(RealInstancesTest, ACopyThatEndsIsGone) {
   EXPECT_EQ(instances.Others(), 0);
 }
 
-TEST_F(RealInstancesTest, LocksStandInTheFolderOfTheSession) {
-  const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
-  qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
-  EXPECT_EQ(RealInstances::UsersLocks(), folder.path() + "/veldrin-");
-  before.isEmpty() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", before);
-}
-
 TEST_F(RealInstancesTest, WhereNoLockCanBeTheProgramGoesOnAlone) {
   const RealInstances instances(folder.path() + "/none/");
   EXPECT_EQ(instances.Others(), 0);

@@ -43,15 +43,14 @@ TEST_F(RealMachineTest, TheFirstRunTakesTheCurrentFolderAndReadsTheDefaultList) 
   Start("");
   EXPECT_EQ(program->endFault, 0);
   EXPECT_TRUE(program->form2.Visible);
-  EXPECT_EQ(program->workspace.AppPath, In("program").toStdString());
+  EXPECT_EQ(program->workspace.AppPath, PathOf("program"));
   EXPECT_EQ(program->workspace.MachineName, "NX4");
-  EXPECT_EQ(real->registry.Read(RegistryRoot::CurrentUser, kSettings, "App Path"),
-            In("program").toStdString());
+  EXPECT_EQ(real->registry.Read(RegistryRoot::CurrentUser, kSettings, "App Path"), PathOf("program"));
   EXPECT_EQ(TempFiles(), QStringList("VELD000.TMP"));
 }
 
 TEST_F(RealMachineTest, APlanOfTheCommandLineIsInTheHistoryAfterwards) {
-  Start(In("PROGRAM/dat/DRY.NX4"));
+  Start(QString::fromStdString(PathOf("PROGRAM/dat/DRY.NX4")));
   EXPECT_EQ(program->workspace.CommandFile, PlanFile());
   EXPECT_EQ(program->workspace.DataFile, PlanFile());
   EXPECT_EQ(program->form2.Text6.Text, "remark");

@@ -70,7 +70,7 @@ TEST_F(DropTest, FileIsOpenedBehindTheDrop) {
   ASSERT_TRUE(Drop(*file));
   EXPECT_EQ(opened, Paths{});
   QCoreApplication::processEvents();
-  EXPECT_EQ(opened, Paths{"/tmp/a.nx4"});
+  EXPECT_EQ(opened, Paths{QDir::toNativeSeparators("/tmp/a.nx4").toStdString()});
 }
 
 TEST_F(DropTest, SeveralFilesAndOtherThingsAreNotTaken) {

@@ -79,7 +79,9 @@ TEST(OriginOfScreens, PrimaryScreenMayBeginAnywhere) {
   screens.close();
   QProcess again;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert("QT_QPA_PLATFORM", "offscreen:configfile=" + name);
+  // By its name alone: behind a colon, as in a path with a drive, Qt reads another option.
+  environment.insert("QT_QPA_PLATFORM", "offscreen:configfile=" + QFileInfo(name).fileName());
+  again.setWorkingDirectory(folder.path());
   again.setProcessEnvironment(environment);
   again.setProcessChannelMode(QProcess::MergedChannels);
   again.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=OriginTest.*"});

@@ -24,8 +24,15 @@ class RealFilesPagesTest : public ::testing::Test, protected ScratchFolder {
     writer->Close();
   }
 
-  RealFiles files{SystemCodePages(false)};
-  RealFiles japanese{SystemCodePages(true)};
+  /// A system of UTF-8, whatever this one's page is.
+  static CodePages Pages(bool japanese) {
+    CodePages pages = SystemCodePages(japanese);
+    pages.systemPage = kUtf8Page;
+    return pages;
+  }
+
+  RealFiles files{Pages(false)};
+  RealFiles japanese{Pages(true)};
 };
 
 TEST_F(RealFilesPagesTest, AJapaneseRemarkGoesBackByteForByte) {

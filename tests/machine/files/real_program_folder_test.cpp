@@ -1,35 +1,7 @@
-#include "machine/files/real_program_folder.h"
-
-#include "machine/files/real_path.h"
-#include "tests/desktop/scratch_folder.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <string>
+#include "tests/machine/files/installed_samples.h"
 
 namespace veldrin {
 namespace {
-
-class RealProgramFolderTest : public ::testing::Test, protected ScratchFolder {
- protected:
-  void SetUp() override {
-    Put("installed/LIST/NX4.RAT", "list");
-    Put("installed/LIST/NX4.CMB", "records");
-    Put("installed/LIST/Extra/README", "deep");
-    Put("installed/DAT/Sample.nx4", "plan");
-    Put("installed/rollup.wav", "sound");
-    Put("installed/veldrin", "the program itself");
-  }
-  void TearDown() override {
-    qunsetenv("VELDRIN_HOME");
-    for (const char* name : {"XDG_DATA_HOME", "XDG_DATA_DIRS"}) qunsetenv(name);
-  }
-};
 
 TEST_F(RealProgramFolderTest, TheFirstRunCopiesWhatWasInstalled) {
   QFile::setPermissions(In("installed/LIST/NX4.RAT"), QFileDevice::ReadOwner | QFileDevice::ReadOther);
@@ -95,13 +67,6 @@ TEST_F(RealProgramFolderTest, SamplesAreFoundWhereverTheProgramWasPut) {
   EXPECT_EQ(InstalledFolder(In("prefix/build/release/bin")), In("prefix/share/veldrin"));
 }
 
-TEST_F(RealProgramFolderTest, SamplesAreFoundInTheSystemsDataFolders) {
-  Put("elsewhere/bin/veldrin", "");
-  Put("second/veldrin/LIST/A.RAT", "");
-  qputenv("XDG_DATA_DIRS", (In("first") + ":" + In("second")).toUtf8());
-  EXPECT_EQ(InstalledFolder(In("elsewhere/bin")), In("second/veldrin"));
-}
-
 TEST_F(RealProgramFolderTest, AFolderThatCannotBeMadeIsToldAsSuch) {
   EXPECT_FALSE(FillProgramFolder(In("installed/rollup.wav/own"), In("installed")));
 }
@@ -111,26 +76,6 @@ TEST_F(RealProgramFolderTest, TheVariableGoesFirst) {
   EXPECT_EQ(PathString(ProgramFolder()), In("installed"));
   qputenv("VELDRIN_HOME", In("none/../installed/").toUtf8());
   EXPECT_EQ(PathString(ProgramFolder()), In("installed"));
-}
-
-TEST_F(RealProgramFolderTest, TheVariablesBytesGoThrough) {
-  const std::filesystem::path odd = std::filesystem::path(folder.path().toStdString()) / "\x8a\x43";
-  std::filesystem::create_directory(odd);
-  qputenv("VELDRIN_HOME", odd.c_str());
-  EXPECT_EQ(ProgramFolder(), odd);
-  std::filesystem::remove(odd);
-}
-
-TEST_F(RealProgramFolderTest, AVariableThatNamesNoFolderIsPassedOver) {
-  qputenv("VELDRIN_HOME", In("none").toUtf8());
-  qputenv("XDG_DATA_HOME", In("data").toUtf8());
-  EXPECT_EQ(PathString(ProgramFolder()), In("data/veldrin"));
-  EXPECT_TRUE(QFileInfo(In("data/veldrin/DAT")).isDir());
-}
-
-TEST_F(RealProgramFolderTest, WhereTheUsersOwnCannotBeMadeAnotherFolderServes) {
-  qputenv("XDG_DATA_HOME", In("installed/rollup.wav").toUtf8());
-  EXPECT_TRUE(std::filesystem::is_directory(ProgramFolder()));
 }
 
 }  // namespace

@@ -12,7 +12,12 @@ constexpr int kParts = 16;
 constexpr int kPart = 4096;  // bytes
 
 TEST_F(ReplacingFileTest, TheLongestNameIsWritten) {
-  const std::string name(255, 'n');
+#ifdef _WIN32
+  constexpr int kLongest = 245;  // there the neighbour's name is a little longer
+#else
+  constexpr int kLongest = 255;
+#endif
+  const std::string name(kLongest, 'n');
   EXPECT_EQ(Replace(name, "new"), 0);
   EXPECT_EQ(Bytes(name), "new");
 }

@@ -1,43 +1,8 @@
-#include "machine/output/real_boxes.h"
-
 #include "machine/output/fault_text.h"
-
-#include <QApplication>
-#include <QColorDialog>
-#include <QMessageBox>
-#include <QPrintDialog>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSpinBox>
-#include <QTimer>
-#include <gtest/gtest.h>
+#include "tests/machine/output/answered_boxes.h"
 
 namespace veldrin {
 namespace {
-
-struct NoMetrics : TextMetrics {
-  TextSize Measure(const Font& /*font*/, const std::string& /*text*/) const override { return {0, 0}; }
-};
-
-/// Calls `answer` with the dialog that comes up; it has to close it.
-template <class Dialog>
-void WhenShown(const std::function<void(Dialog&)>& answer) {
-  QTimer::singleShot(0, qApp, [answer] {
-    auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr) {
-      WhenShown(answer);
-    } else {
-      answer(*dialog);
-    }
-  });
-}
-
-class RealBoxesTest : public ::testing::Test {
- protected:
-  NoMetrics metrics;
-  RealPrinter printer{metrics};
-  RealBoxes boxes{printer};
-};
 
 TEST_F(RealBoxesTest, AMessageShowsItsTextsAsTheyStand) {
   QString text;
@@ -105,51 +70,6 @@ TEST_F(RealBoxesTest, WhatAnEventLeftIsThrownWhenTheBoxHasClosed) {
   boxes.closed = [] { throw Ended{}; };
   WhenShown<QMessageBox>([&](QMessageBox& box) { box.accept(); });
   EXPECT_THROW(boxes.Message(BoxIcon::None, "", "text", BoxButtons::Ok), Ended);
-}
-
-TEST_F(RealBoxesTest, TheColourDialogOpensOnTheColourAndGivesTheChosenOne) {
-  WhenShown<QColorDialog>([&](QColorDialog& dialog) {
-    EXPECT_EQ(dialog.currentColor(), QColor(1, 2, 3));
-    dialog.setCurrentColor(QColor(30, 20, 10));
-    dialog.accept();
-  });
-  EXPECT_EQ(boxes.ChooseColour(Rgb(1, 2, 3)), Rgb(30, 20, 10));
-  WhenShown<QColorDialog>([&](QColorDialog& dialog) {
-    dialog.setCurrentColor(QColor(30, 20, 10));
-    dialog.reject();
-  });
-  EXPECT_EQ(boxes.ChooseColour(Rgb(1, 2, 3)), Rgb(1, 2, 3));
-}
-
-TEST_F(RealBoxesTest, ThePrinterDialogTellsCancelAndCopies) {
-  WhenShown<QPrintDialog>([&](QPrintDialog& dialog) { dialog.reject(); });
-  EXPECT_EQ(boxes.ChoosePrinter().error, 32755);
-  printer.Device().setOutputFormat(QPrinter::PdfFormat);
-  printer.SetCopies(2);
-  WhenShown<QPrintDialog>([&](QPrintDialog& dialog) { dialog.done(QDialog::Accepted); });
-  const PrintChoice choice = boxes.ChoosePrinter();
-  EXPECT_EQ(choice.error, 0);
-  EXPECT_EQ(choice.copies, 2);
-}
-
-TEST_F(RealBoxesTest, ThePrinterDialogOffersNeitherPagesNorASelection) {
-  printer.Device().setOutputFormat(QPrinter::PdfFormat);
-  WhenShown<QPrintDialog>([&](QPrintDialog& dialog) {
-    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
-      if (button->isCheckable() || button->text().contains("Options")) button->click();
-    }
-    QCoreApplication::processEvents();
-    const auto copies = dialog.findChildren<QSpinBox*>("copies");
-    ASSERT_EQ(copies.size(), 1);
-    EXPECT_TRUE(copies.front()->isVisible()) << "the page of options is not open";
-    int choices = 0;
-    for (const QRadioButton* choice : dialog.findChildren<QRadioButton*>()) {
-      choices += choice->isVisible() ? 1 : 0;
-    }
-    EXPECT_EQ(choices, 0);
-    dialog.reject();
-  });
-  boxes.ChoosePrinter();
 }
 
 }  // namespace

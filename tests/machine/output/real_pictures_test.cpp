@@ -71,8 +71,7 @@ TEST_F(RealPicturesTest, AnExistingBitmapIsReplaced) {
 }
 
 TEST_F(RealPicturesTest, APictureThatCannotBeSavedIsAFault) {
-  // The name that a whole path behind a folder gives.
-  const std::string path = folder.path().toStdString() + "/" + folder.path().toStdString() + "/plan.BMP";
+  const std::string path = folder.path().toStdString() + "/none/none/plan.BMP";
   EXPECT_EQ(Guarded([&] { pictures.SaveBitmap(path, surface, 12, 10); }), kFaultPathNotFound);
   EXPECT_EQ(Guarded([&] { pictures.SaveBitmap(folder.path().toStdString(), surface, 12, 10); }),
             kFaultPathAccess);

@@ -1,83 +1,14 @@
-#include "machine/output/real_printer.h"
-
 #include "machine/output/real_boxes.h"
+#include "tests/machine/output/printed_page.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QStandardPaths>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
 namespace veldrin {
 namespace {
-
-/// Sizes that hang on no font: 10 twips a point and character, lines of 24.
-struct PlainMetrics : TextMetrics {
-  TextSize Measure(const Font& font, const std::string& text) const override {
-    return {font.size * 10.0 * static_cast<double>(text.size()), font.size * 24.0};
-  }
-};
-
-class RealPrinterTest : public ::testing::Test {
- protected:
-  void SetUp() override {
-    printer.Device().setOutputFormat(QPrinter::PdfFormat);
-    printer.Device().setOutputFileName(pdf);
-    printer.Device().setPageSize(QPageSize(QPageSize::A4));
-  }
-
-  static void DrawReport(Surface& page) {
-    page.font = {"Arial", 12, false, false};
-    page.Print(4860, 500, "Machine");
-    page.font.name = "ＭＳ ゴシック";
-    page.Print(4860, 4700, "すずか ﾃｽﾄ");
-    page.SetScale({-0.15 * 1500, 370, 4500, -3 * 340});
-    page.drawWidth = 2;
-    page.Line(0, 0, 1500, 0, kBlack);
-    page.Line(0, 0, 1500, 340, kRed);
-  }
-
-  QByteArray Bytes() const {
-    QFile file(pdf);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-
-  /// Pages as the document itself counts them.
-  int Pages() const {
-    static const QRegularExpression kCount("/Type /Pages.*?/Count (\\d+)",
-                                           QRegularExpression::DotMatchesEverythingOption);
-    return kCount.match(QString::fromLatin1(Bytes())).captured(1).toInt();
-  }
-
-  /// The words of the document, each with its box in points.
-  QString Words() const {
-    const QString tool = QStandardPaths::findExecutable("pdftotext");
-    if (tool.isEmpty()) ADD_FAILURE() << "pdftotext is missing";
-    QProcess process;
-    process.start(tool, {"-bbox", pdf, "-"});
-    EXPECT_TRUE(process.waitForFinished());
-    return QString::fromUtf8(process.readAllStandardOutput());
-  }
-
-  /// The left top corner of a word on the paper.
-  QPointF PlaceOf(const QString& word) const {
-    const QRegularExpression boxed("xMin=\"([\\d.]+)\" yMin=\"([\\d.]+)\"[^>]*>" + word + "<");
-    const QRegularExpressionMatch match = boxed.match(Words());
-    EXPECT_TRUE(match.hasMatch()) << Words().toStdString();
-    return {match.captured(1).toDouble(), match.captured(2).toDouble()};
-  }
-
-  QTemporaryDir folder;
-  QString pdf = folder.path() + "/page.pdf";
-  PlainMetrics metrics;
-  RealPrinter printer{metrics};
-};
 
 TEST_F(RealPrinterTest, ThePageIsThePrintableAreaInTwips) {
   const QRectF inPoints = printer.Device().pageLayout().paintRect(QPageLayout::Point);
@@ -112,28 +43,6 @@ TEST_F(RealPrinterTest, TheNextPageBeginsEmptyWithoutAScale) {
   EXPECT_TRUE(page.Drawing().empty());
   EXPECT_EQ(page.UserScale(), (Scale{0, 0, page.PhysicalWidth(), page.PhysicalHeight()}));
   EXPECT_EQ(page.drawWidth, 1);
-}
-
-TEST_F(RealPrinterTest, TextsStandAtTheirPlacesOnThePaper) {
-  DrawReport(printer.Page());
-  printer.EndDocument();
-  const QPointF corner = PlaceOf("Machine");
-  const QRectF area = printer.Device().pageLayout().paintRect(QPageLayout::Point);
-  EXPECT_NEAR(corner.x(), area.left() + 4860 / 20.0, 1.5);
-  EXPECT_NEAR(corner.y(), area.top() + 500 / 20.0, 2.5);
-  EXPECT_TRUE(Words().contains("すずか")) << Words().toStdString();
-}
-
-TEST_F(RealPrinterTest, ALandscapePageShowsTheReportScaledToFit) {
-  printer.Device().setPageOrientation(QPageLayout::Landscape);
-  DrawReport(printer.Page());
-  const QRectF area = printer.Device().pageLayout().paintRect(QPageLayout::Point);
-  const double factor = area.height() * 20 / printer.Page().PhysicalHeight();
-  EXPECT_LT(factor, 1);
-  printer.EndDocument();
-  const QPointF corner = PlaceOf("Machine");
-  EXPECT_NEAR(corner.x(), area.left() + factor * 4860 / 20, 1.5);
-  EXPECT_NEAR(corner.y(), area.top() + factor * 500 / 20, 2.5);
 }
 
 TEST_F(RealPrinterTest, CopiesAreAtLeastOne) {

@@ -1,11 +1,37 @@
-// The settings file in a folder that denies writing, which on Windows no attribute of a folder does.
+// The settings file among processes and folders that deny writing. On Windows settings stand in the registry,
+// which the system itself shares out.
+#include "tests/desktop/other_half.h"
 #include "tests/machine/plain_user.h"
 #include "tests/machine/registry/settings_file.h"
 
+#include <memory>
+#include <string>
 #include <sys/stat.h>
+#include <vector>
 
 namespace veldrin {
 namespace {
+
+constexpr int kWrites = 25;
+
+TEST_F(RealRegistryTest, ProcessesThatWriteAtTheSameTimeLoseNothing) {
+  constexpr int kWriters = 4;
+  std::vector<std::unique_ptr<OtherHalf>> writers;
+  for (int writer = 0; writer < kWriters; ++writer) {
+    const QStringList words = {file, QString::number(writer)};
+    writers.push_back(std::make_unique<OtherHalf>("DISABLED_RealRegistryWriter.Writes", words));
+  }
+  for (const auto& writer : writers) writer->AwaitEnd();
+  EXPECT_EQ(Text().count("=\"x\""), kWriters * kWrites);
+}
+
+TEST(DISABLED_RealRegistryWriter, Writes) {
+  const QStringList words = OtherHalf::Words();
+  SettingsRegistry own(words[0]);
+  for (int i = 0; i < kWrites; ++i) {
+    EXPECT_TRUE(own.Write(kUser, kKey, words[1].toStdString() + "/" + std::to_string(i), "x"));
+  }
+}
 
 TEST_F(RealRegistryTest, AFolderThatDeniesWritingIsNoHindrance) {
   registry.Write(kUser, kKey, "Language", "JP");

@@ -1,15 +1,10 @@
 #include "machine/real_processor.h"
-#include "tests/desktop/other_half.h"
 #include "tests/machine/registry/settings_file.h"
 
-#include <memory>
 #include <sstream>
-#include <vector>
 
 namespace veldrin {
 namespace {
-
-constexpr int kWrites = 25;
 
 TEST_F(RealRegistryTest, TellsWhatWasWritten) {
   EXPECT_EQ(registry.Read(kUser, kKey, "Language"), std::nullopt);
@@ -94,25 +89,6 @@ TEST_F(RealRegistryTest, CopiesOfTheProgramKeepEachOthersWrites) {
   registry.Write(kUser, kKey, "c", "3");
   EXPECT_EQ(other.Read(kUser, kKey, "c"), "3");
   EXPECT_EQ(registry.Read(kUser, kKey, "b"), "2");
-}
-
-TEST_F(RealRegistryTest, ProcessesThatWriteAtTheSameTimeLoseNothing) {
-  constexpr int kWriters = 4;
-  std::vector<std::unique_ptr<OtherHalf>> writers;
-  for (int writer = 0; writer < kWriters; ++writer) {
-    const QStringList words = {file, QString::number(writer)};
-    writers.push_back(std::make_unique<OtherHalf>("DISABLED_RealRegistryWriter.Writes", words));
-  }
-  for (const auto& writer : writers) writer->AwaitEnd();
-  EXPECT_EQ(Text().count("=\"x\""), kWriters * kWrites);
-}
-
-TEST(DISABLED_RealRegistryWriter, Writes) {
-  const QStringList words = OtherHalf::Words();
-  SettingsRegistry own(words[0]);
-  for (int i = 0; i < kWrites; ++i) {
-    EXPECT_TRUE(own.Write(kUser, kKey, words[1].toStdString() + "/" + std::to_string(i), "x"));
-  }
 }
 
 TEST_F(RealRegistryTest, WhatCannotBeStoredIsKeptForThisRun) {
