@@ -27,7 +27,7 @@ TEST_F(RoadTest, TheNextStartReadsWhatIsStored) {
     first.AwaitWindow("[NX4]");
     EXPECT_EQ(first.Close(), 0);
   }
-  StoreSetting("Zoom", "1");
+  StoreSetting("Zoom", "100");
   StoreSetting("Last Left", "1500");
   StoreSetting("Last Top", "900");
   RealProgram next;

@@ -8,10 +8,12 @@ namespace veldrin {
 namespace {
 
 TEST(RealGuide, IsFoundInTheSystemsDataFolders) {
-  Put("elsewhere/bin/veldrin", "");
-  Put("second/doc/veldrin/guide/en/index.html", "");
-  qputenv("XDG_DATA_DIRS", (In("first") + ":" + In("second")).toUtf8());
-  EXPECT_EQ(GuideFolder(In("elsewhere/bin")), In("second/doc/veldrin/guide"));
+  const ScratchFolder scratch;
+  scratch.Put("elsewhere/bin/veldrin", "");
+  scratch.Put("second/doc/veldrin/guide/en/index.html", "");
+  qputenv("XDG_DATA_DIRS", (scratch.In("first") + ":" + scratch.In("second")).toUtf8());
+  EXPECT_EQ(GuideFolder(scratch.In("elsewhere/bin")), scratch.In("second/doc/veldrin/guide"));
+  qunsetenv("XDG_DATA_DIRS");
 }
 
 }  // namespace
