@@ -90,12 +90,7 @@ DesktopProgram::DesktopProgram() {
   };
   machine.registry.Check();
   program = AssembleProgram(machine.machine);
-  const auto runEvent = [this](const std::function<void()>& event) {
-    stage.input.Do([&] {
-      event();
-      return true;
-    });
-  };
+  const auto runEvent = [this](const std::function<void()>& event) { stage.input.Run(event); };
   kept_ = std::make_unique<KeptPlans>(*program, keepFolder_, runEvent, TakeWantedPlan());
   netLooks = [this] { kept_->EventEnded(); };
   windows.eventComes = [this](const Control& control, const Event& event) { HearEvent(control, event); };
@@ -136,10 +131,7 @@ void DesktopProgram::LayOutForPlan() {
   const bool rests = !program->ended && program->eventDepth == 0;
   if (!layoutDue_ || !rests || workspace.ModeWord == mode::kBasing) return;
   layoutDue_ = false;
-  stage.input.Do([this] {
-    program->form2.Resize();
-    return true;
-  });
+  stage.input.Run([this] { program->form2.Resize(); });
 }
 
 /// The chooser has come up with nothing to choose.
@@ -206,10 +198,7 @@ bool DesktopProgram::EndSession(bool mayAsk) {
 }
 
 void DesktopProgram::EndAtOnce() {
-  stage.input.Do([this] {
-    CloseUnasked();
-    return true;
-  });
+  stage.input.Run([this] { CloseUnasked(); });
   // Also from the box of a fault that has ended the program already.
   QCoreApplication::exit();
 }

@@ -1,6 +1,7 @@
 #include "hints/main_window_reasons.h"
 
 #include "workspace/decision_panel/decision_panel_held.h"
+#include "workspace/notice_words.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -46,17 +47,6 @@ BothLanguages NoPlan(const Workspace& workspace) {
   }
   return {"There is no plan yet: Mode makes one, Load opens one",
           "プランがまだありません。Mode で作るか、Load で開きます"};
-}
-
-const std::string& PairOf(const Workspace& workspace, int gear) {
-  return workspace.GearTable(gear, workspace.PlanIndex[gear]);
-}
-
-BothLanguages ForbiddenPair(const Workspace& workspace) {
-  const std::string& third = PairOf(workspace, 3);
-  const std::string& fourth = PairOf(workspace, 4);
-  return {third + " and " + fourth + " cannot be fitted together",
-          third + " と " + fourth + " は同時に組めません"};
 }
 
 bool IsAuto(const Form2& form2, int gear) {
@@ -114,7 +104,7 @@ BothLanguages MainWindowReason(const Program& program, const Control& off) {
     return {"Speeds wanted are being entered: Mode leads back to the plan",
             "要求速度の入力中です。Mode でプランに戻ります"};
   }
-  if (IsOutput(form2, off) && form2.Label12[3].BackColor == kRed) return ForbiddenPair(workspace);
+  if (IsOutput(form2, off) && form2.Label12[3].BackColor == kRed) return ForbiddenPairWords(workspace);
   if (&off == &form2.f_calc) {
     return {"No speeds wanted are being entered: Mode begins that",
             "要求速度を入力していません。Mode で入力を始めます"};

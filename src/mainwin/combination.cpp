@@ -12,8 +12,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kThirdGear = 3;
-constexpr int kFourthGear = 4;
 constexpr int kLargestFontSize = 11;   // points
 constexpr double kJointPartRoom = 90;  // points times characters
 

@@ -9,6 +9,9 @@ namespace veldrin {
 // ---- How much the tables hold ----
 
 inline constexpr int kGears = 6;
+/// The two gears that may exclude each other, as they share a part.
+inline constexpr int kThirdGear = 3;
+inline constexpr int kFourthGear = 4;
 inline constexpr int kGearRowLimit = 10;     // rows of a gear that the tables hold
 inline constexpr int kPrimaryFileLimit = 8;  // primary rows that a list file can fill
 inline constexpr int kPrimaryLimit = 15;

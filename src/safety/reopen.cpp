@@ -25,8 +25,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kThirdGear = 3;
-
 /// The row of a table with this text, the one with the number first; 0 where there is none.
 template <class TextOf>
 std::int16_t FindRow(const ChosenRow& chosen, int count, TextOf textOf) {

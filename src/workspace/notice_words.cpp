@@ -37,6 +37,13 @@ void TellRefusedNumber(Program& program, const BothLanguages& name, const Limits
                    name.japanese + ": " + low + "～" + high + " " + unit});
 }
 
+BothLanguages ForbiddenPairWords(const Workspace& workspace) {
+  const std::string& third = workspace.GearTable(kThirdGear, workspace.PlanIndex[kThirdGear]);
+  const std::string& fourth = workspace.GearTable(kFourthGear, workspace.PlanIndex[kFourthGear]);
+  return {third + " and " + fourth + " cannot be fitted together",
+          third + " と " + fourth + " は同時に組み付けられません"};
+}
+
 const BothLanguages& ConditionName(int condition) {
   return kConditionWords[condition].name;
 }

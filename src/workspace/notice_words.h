@@ -22,6 +22,9 @@ inline constexpr int kTyreCondition = 0;
 inline constexpr int kCheckNeCondition = 1;
 inline constexpr int kShiftNeCondition = 2;
 
+/// That the 3rd and 4th gear of the plan on the screen exclude each other.
+BothLanguages ForbiddenPairWords(const Workspace& workspace);
+
 /// A file was written, or was not and why.
 void TellSaved(Program& program, const std::string& path);
 void TellNotSaved(Program& program, const std::string& path, int fault);

@@ -1,6 +1,7 @@
 #include "desktop/input/program_input.h"
 
 #include "program/event_boundary.h"
+#include "workspace/language.h"
 
 #include <utility>
 
@@ -18,6 +19,17 @@ bool ProgramInput::Do(const std::function<bool()>& gesture) {
   if (afterEvent) afterEvent();
   if (program_->ended && ended) ended();
   return done;
+}
+
+void ProgramInput::Run(const std::function<void()>& event) {
+  Do([&] {
+    event();
+    return true;
+  });
+}
+
+bool ProgramInput::InJapanese() const {
+  return program_ != nullptr && SpeaksJapanese(program_->workspace);
 }
 
 void ProgramInput::RethrowCaught() {

@@ -18,6 +18,11 @@ class ProgramInput {
   /// Runs a gesture of view/user_input.h as one event. Returns whether the user could do it; an event that
   /// ended the program was done. Does nothing after the program's end. Throws nothing.
   bool Do(const std::function<bool()>& gesture);
+  /// The same with what can always be done.
+  void Run(const std::function<void()>& event);
+
+  /// Whether what the desktop itself says is said in Japanese.
+  bool InJapanese() const;
 
   /// Whether the gesture that came last, or the one around it, was done; false after Forget until the next.
   bool LastDone() const { return lastDone_; }

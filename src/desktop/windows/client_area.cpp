@@ -2,7 +2,6 @@
 
 #include "desktop/windows/first_steps.h"
 #include "machine/painting/artwork.h"
-#include "workspace/language.h"
 
 #include <QPainter>
 
@@ -35,20 +34,15 @@ void ClientArea::paintEvent(QPaintEvent* /*event*/) {
   const double width = std::round(stage_->zoom.Pixels(fullSize_.width()));
   const double height = std::round(stage_->zoom.Pixels(fullSize_.height()));
   PaintWindowPicture(painter, {0, 0, width, height}, window_);
-  if (firstSteps_) PaintFirstSteps(painter, stage_->zoom.Factor(), InJapanese());
-}
-
-bool ClientArea::InJapanese() const {
-  const Program* const program = stage_->input.Served();
-  return program != nullptr && SpeaksJapanese(program->workspace);
+  if (firstSteps_) PaintFirstSteps(painter, stage_->zoom.Factor(), stage_->input.InJapanese());
 }
 
 void ClientArea::Follow() {
   const Program* const program = stage_->input.Served();
   const bool wanted = program != nullptr && window_ == program->form2.name && AwaitsFirstPlan(*program);
-  const bool same = wanted == firstSteps_ && (!wanted || InJapanese() == japanese_);
+  const bool same = wanted == firstSteps_ && (!wanted || stage_->input.InJapanese() == japanese_);
   firstSteps_ = wanted;
-  japanese_ = InJapanese();
+  japanese_ = stage_->input.InJapanese();
   if (!same) update();
 }
 

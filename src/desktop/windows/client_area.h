@@ -24,8 +24,6 @@ class ClientArea : public ControlWidget<QWidget> {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  bool InJapanese() const;
-
   const std::string window_;
   const QSizeF fullSize_;  // twips
   bool firstSteps_ = false;

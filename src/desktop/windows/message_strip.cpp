@@ -1,7 +1,6 @@
 #include "desktop/windows/message_strip.h"
 
 #include "machine/painting/fonts.h"
-#include "workspace/language.h"
 
 #include <QAccessible>
 #include <QFontMetrics>
@@ -67,13 +66,8 @@ MessageStrip::~MessageStrip() {
   stage_->notices.changed = nullptr;
 }
 
-bool MessageStrip::InJapanese() const {
-  const Program* const program = stage_->input.Served();
-  return program != nullptr && SpeaksJapanese(program->workspace);
-}
-
 void MessageStrip::Follow() {
-  const bool same = zoom_ == stage_->zoom.Factor() && japanese_ == InJapanese();
+  const bool same = zoom_ == stage_->zoom.Factor() && japanese_ == stage_->input.InJapanese();
   if (!same && stage_->notices.Shown() != nullptr) Show();
 }
 
@@ -94,11 +88,11 @@ void MessageStrip::Show() {
     hide();
   } else {
     const double pixel = zoom_ = stage_->zoom.Factor();
-    japanese_ = InJapanese();
+    japanese_ = stage_->input.InJapanese();
     const QFont font = FontFor({"Arial", kFontSize, false, false}, kPixelsPerInch * pixel);
     setFont(font);
     text_->setFont(font);
-    const QString words = QString::fromStdString(notice->text.In(InJapanese()));
+    const QString words = QString::fromStdString(notice->text.In(stage_->input.InJapanese()));
     const bool isNew = words != whole_;
     whole_ = words;
     MakeButtons();
@@ -129,11 +123,11 @@ void MessageStrip::MakeButtons() {
   }
   buttons_.clear();
   for (const NoticeAction& action : notice->actions) {
-    AddButton(QString::fromStdString(action.caption.In(InJapanese())), action.act);
+    AddButton(QString::fromStdString(action.caption.In(stage_->input.InJapanese())), action.act);
   }
   if (notice->actions.empty()) {
     QPushButton* const away = AddButton(QString(QChar(0x00D7)), nullptr);
-    away->setAccessibleName(InJapanese() ? "閉じる" : "Close");
+    away->setAccessibleName(stage_->input.InJapanese() ? "閉じる" : "Close");
     away->setToolTip(away->accessibleName());
   }
   if (reached >= 0) Reach(std::min(reached, static_cast<int>(buttons_.size()) - 1));
@@ -153,11 +147,7 @@ QPushButton* MessageStrip::AddButton(const QString& text, std::function<void()> 
 void MessageStrip::Press(const std::function<void()>& act) {
   const std::function<void()> action = act;
   stage_->notices.Drop();
-  if (!action) return;
-  stage_->input.Do([&] {
-    action();
-    return true;
-  });
+  if (action) stage_->input.Run(action);
 }
 
 void MessageStrip::resizeEvent(QResizeEvent* event) {

@@ -49,7 +49,6 @@ class MessageStrip : public QFrame {
   void Press(const std::function<void()>& act);
   void Reach(int place);
   void Arrange();
-  bool InJapanese() const;
   int TextLeft() const;
   int TextWidth(int whole) const;
   int Lines() const;

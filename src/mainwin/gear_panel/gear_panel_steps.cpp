@@ -12,9 +12,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kThirdGear = 3;
-constexpr int kFourthGear = 4;
-
 // ---- Primary and final ----
 
 /// Moves a row number by 1 within 1..`count`. False at an end.
@@ -109,10 +106,7 @@ void TestForbiddenPair(Program& program, int gear) {
   if (!forbidden) return;
   form2.Picture9.Visible = false;
   program.machine.sound.Beep();
-  const std::string& third = workspace.GearTable(kThirdGear, workspace.PlanIndex[kThirdGear]);
-  const std::string& fourth = workspace.GearTable(kFourthGear, workspace.PlanIndex[kFourthGear]);
-  Inform(program, {third + " and " + fourth + " cannot be fitted together",
-                   third + " と " + fourth + " は同時に組み付けられません"});
+  Inform(program, ForbiddenPairWords(workspace));
 }
 
 void AttachGearPanelSteps(Program& program) {
