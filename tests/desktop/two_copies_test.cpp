@@ -31,9 +31,20 @@ struct Ledger {
   std::atomic<int> opened;
   std::atomic<int> heldTwice;
   std::atomic<bool> kept[kMost];
-  std::atomic<bool> done[kMost];  // saved, or edited into another one
-  std::atomic<int> owner[kMost];  // by the id's hash
+  std::atomic<bool> done[kMost];   // saved, or edited into another one
+  std::atomic<int> owner[kMost];   // by the id's hash
+  std::atomic<bool> dying[kMost];  // by the process's number: what it held, it holds no more
 };
+
+std::size_t PlaceOf(int process) {
+  return static_cast<std::size_t>(process) % kMost;
+}
+
+/// Dies on the spot. The system frees what a dying process has locked before its number is nobody's.
+void Die(Ledger& ledger) {
+  ledger.dying[PlaceOf(OwnProcess())] = true;
+  DieAtOnce();
+}
 
 /// The ledger is a file that all copies have in their memory.
 class SharedLedger {
@@ -60,7 +71,8 @@ class WatchedFolder : public RealKeepFolder {
     if (!claim) return nullptr;
     std::atomic<int>& owner = ledger_->owner[std::hash<std::string>()(id) % kMost];
     const int before = owner.exchange(OwnProcess());
-    if (before != 0 && before != OwnProcess() && IsAlive(before)) ++ledger_->heldTwice;
+    const bool lives = before != 0 && !ledger_->dying[PlaceOf(before)] && IsAlive(before);
+    if (lives && before != OwnProcess()) ++ledger_->heldTwice;
     return std::make_unique<Watched>(std::move(claim), owner);
   }
 
@@ -82,6 +94,7 @@ int NumberOf(const std::string& remark) {
 /// One copy, from its start to whatever end it comes to.
 int RunCopy(const QString& folder, Ledger& ledger, unsigned seed) {
   std::mt19937 chance(seed);
+  ledger.dying[PlaceOf(OwnProcess())] = false;
   WatchedFolder keepFolder(folder, ledger);
   NettedProgram p(keepFolder, kPlanPath);
   p.offers->Begin();
@@ -94,12 +107,12 @@ int RunCopy(const QString& folder, Ledger& ledger, unsigned seed) {
     const int plan = ++ledger.plans;
     ledger.done[before] = true;
     p.Do([&] { user::EnterText(p.Main().Text6, std::to_string(plan)); });
-    if (chance() % 8 == 0) DieAtOnce();
+    if (chance() % 8 == 0) Die(ledger);
     p.net->Secure();
     ledger.kept[plan] = true;
   }
   const unsigned end = chance() % 4;
-  if (end == 0) DieAtOnce();
+  if (end == 0) Die(ledger);
   if (end == 1) {
     ledger.done[NumberOf(p.Main().Text6.Text)] = true;
     p.Do([&] { p.program->hooks.Saved(); });
