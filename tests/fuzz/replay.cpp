@@ -15,7 +15,7 @@ int main(int count, char** arguments) {
   for (int i = 1; i < count; ++i) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(arguments[i])) {
       if (!entry.is_regular_file()) continue;
-      std::printf("%s\n", entry.path().c_str());
+      std::printf("%s\n", entry.path().string().c_str());
       std::fflush(stdout);
       std::ifstream file(entry.path(), std::ios::binary);
       const std::vector<char> bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};

@@ -73,7 +73,7 @@ TEST_F(SavingRoadTest, AKilledProgramsPlanIsOfferedByTheNext) {
   next.Press("[NX4]", VK_SPACE);
   next.AwaitWindow("Changed");
   EXPECT_TRUE(next.Titles().contains("[DRY.nx4]")) << next.Titles().toStdString();
-  EXPECT_EQ(Kept().size(), 1);
+  EXPECT_TRUE(Await([] { return Kept().size() == 1; })) << "from now on it is the next one's";
 }
 
 }  // namespace
