@@ -52,6 +52,7 @@ TEST_F(Planner, JapaneseListsAreReadInTheSystemsPage) {
   const std::string path = File("ＰＬＡＩＮ.RAT", kJapaneseList);
   const std::string fine = path + ": fine: machine ＰＬＡＩＮ, 1 primary, 1 final and 1 gear rows\n";
   pages = SystemCodePages(true);
+  pages.systemPage = kUtf8Page;
   EXPECT_EQ(Run({"--check", path}), 0);
   EXPECT_EQ(out, fine);
   EXPECT_EQ(errors, "");

@@ -27,14 +27,21 @@ class Planner : public testing::Test {
   ~Planner() override { fs::remove_all(folder_); }
 
   std::string File(const std::string& name, const std::string& text) {
-    const fs::path path = folder_ / name;
+    const fs::path path = folder_ / PathOf(name);
     std::ofstream(path, std::ios::binary) << text;
-    return path.string();
+    return Utf8(path);
   }
   static std::string Sample(const char* name) { return (fs::path(VELDRIN_SHARE) / "LIST" / name).string(); }
   static std::string TextOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(PathOf(path), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+  /// The planner's texts are UTF-8; not every system's paths are.
+  static fs::path PathOf(const std::string& text) { return std::u8string(text.begin(), text.end()); }
+  static std::string Utf8(const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
   }
 
   /// Runs the planner; what it prints stands in `out` and `errors`.
