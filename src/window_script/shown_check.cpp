@@ -44,6 +44,11 @@ std::string FontText(const QFont& font) {
          (font.italic() ? " italic" : "");
 }
 
+bool LooksAlike(const QFont& a, const QFont& b) {
+  return a.family() == b.family() && a.pixelSize() == b.pixelSize() && a.bold() == b.bold() &&
+         a.italic() == b.italic();
+}
+
 class Checker {
  public:
   Checker(const Control& control, std::vector<Mismatch>& found) : control_(control), found_(found) {}
@@ -51,13 +56,14 @@ class Checker {
   /// What is shown, if the widget shows it, against the slot, if the control has it.
   template <class T, class S>
   void Compare(const char* name, const std::optional<S>& shown) {
+    if (!shown) return;
     const T* slot = ValueOf<T>(control_, name);
-    if (shown && slot != nullptr && !(*shown == *slot)) Tell(name, ValueText(*slot), ValueText(T(*shown)));
+    if (slot != nullptr && !(*shown == *slot)) Tell(name, ValueText(*slot), ValueText(T(*shown)));
   }
 
   void CompareText(const char* name, const std::optional<std::string>& shown) {
-    const std::string* slot = ValueOf<std::string>(control_, name);
-    if (!shown || slot == nullptr) return;
+    const std::string* slot = shown ? ValueOf<std::string>(control_, name) : nullptr;
+    if (slot == nullptr) return;
     const std::string wanted = ToSlotText(ToWidgetText(*slot));
     if (*shown != wanted) Tell(name, wanted, *shown);
   }
@@ -99,7 +105,7 @@ void CheckControl(const Control& control, const ControlView& view, const Stage& 
   if (shown.cells) checker.CompareShown("Cell", Joined(CellsOf(control)), Joined(*shown.cells));
   if (shown.font) {
     const QFont wanted = FontFor(static_cast<const PlacedControl&>(control), stage.zoom.Factor());
-    checker.CompareShown("Font", FontText(wanted), FontText(*shown.font));
+    if (!LooksAlike(wanted, *shown.font)) checker.Tell("Font", FontText(wanted), FontText(*shown.font));
   }
   if (control.kind == ControlKind::OptionButton) checker.Compare<bool>("Value", shown.chosen);
   if (control.kind == ControlKind::ScrollBar) {
