@@ -39,6 +39,27 @@ TEST_F(SavingRoadTest, APlanIsSavedUnderAJapaneseName) {
   EXPECT_EQ(program.Close(), 0);
 }
 
+TEST_F(SavingRoadTest, APlanBeyond260CharactersIsOpenedChangedAndSavedAgain) {
+  QString folder = InUsersFolder("DAT");
+  for (const char* part : {"a", "b", "c"}) folder += "/" + QString(part).repeated(90);
+  ASSERT_GT(folder.size(), 260);
+  ASSERT_TRUE(QDir().mkpath(folder));
+  const QString plan = folder + "/鈴鹿.nx4";
+  ASSERT_TRUE(QFile::copy(Plan(), plan));
+  const QByteArray before = Bytes(plan);
+  RealProgram program({QDir::toNativeSeparators(plan)});
+  program.AwaitWindow("[鈴鹿.nx4]");
+  program.ChangePlan();
+  program.Press("[NX4]", 'S', VK_CONTROL);
+  program.AwaitWindow("Save");
+  program.Type("Save", "鈴鹿");
+  program.Press("Save", VK_RETURN);
+  program.Press("Save", VK_RETURN);  // it may be written over
+  EXPECT_TRUE(Await([&] { return Bytes(plan) != before && Bytes(plan).startsWith("FROM:NX4.RAT\r\n"); }))
+      << program.Titles().toStdString();
+  EXPECT_EQ(program.Close(), 0);
+}
+
 TEST_F(SavingRoadTest, APageIsPrintedToAFile) {
   RealProgram program({Plan()});
   program.AwaitWindow("[DRY.nx4]");
