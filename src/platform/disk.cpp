@@ -27,6 +27,16 @@ bool IsMissing(const std::error_code& failure) {
   return failure.value() == ERROR_FILE_NOT_FOUND || failure.value() == ERROR_PATH_NOT_FOUND;
 }
 
+/// Begins to list a folder; INVALID_HANDLE_VALUE where it cannot be listed, or holds nothing.
+HANDLE FirstIn(const fs::path& folder, WIN32_FIND_DATAW& found, std::error_code& failure) {
+  // The star belongs to what may be too long.
+  const HANDLE search = FindFirstFileW(OpenablePath(folder / L"*").c_str(), &found);
+  Tell(search != INVALID_HANDLE_VALUE, failure);
+  // A drive's root without anything in it lists not even itself.
+  if (failure.value() == ERROR_FILE_NOT_FOUND && IsFolderOnDisk(folder)) failure.clear();
+  return search;
+}
+
 }  // namespace
 
 fs::path PathOfText(const std::string& text) {
@@ -84,14 +94,16 @@ std::uintmax_t SizeOnDisk(const fs::path& path, std::error_code& failure) {
   return static_cast<std::uintmax_t>(size.QuadPart);
 }
 
+void CheckFolderOnDisk(const fs::path& folder, std::error_code& failure) {
+  WIN32_FIND_DATAW found;
+  const HANDLE search = FirstIn(folder, found, failure);
+  if (search != INVALID_HANDLE_VALUE) FindClose(search);
+}
+
 std::vector<FolderEntry> EntriesOnDisk(const fs::path& folder, std::error_code& failure) {
   std::vector<FolderEntry> entries;
   WIN32_FIND_DATAW found;
-  // The star belongs to what may be too long.
-  const HANDLE search = FindFirstFileW(OpenablePath(folder / L"*").c_str(), &found);
-  Tell(search != INVALID_HANDLE_VALUE, failure);
-  // A drive's root without anything in it lists not even itself.
-  if (failure.value() == ERROR_FILE_NOT_FOUND && IsFolderOnDisk(folder)) failure.clear();
+  const HANDLE search = FirstIn(folder, found, failure);
   if (search == INVALID_HANDLE_VALUE) return entries;
   do {
     const fs::path name = found.cFileName;
@@ -145,6 +157,10 @@ fs::file_status StatusOnDisk(const fs::path& path, std::error_code& failure) {
 
 std::uintmax_t SizeOnDisk(const fs::path& path, std::error_code& failure) {
   return fs::file_size(path, failure);
+}
+
+void CheckFolderOnDisk(const fs::path& folder, std::error_code& failure) {
+  fs::directory_iterator(folder, failure);
 }
 
 std::vector<FolderEntry> EntriesOnDisk(const fs::path& folder, std::error_code& failure) {

@@ -39,6 +39,8 @@ struct FolderEntry {
   bool isHidden = false;
 };
 
+/// Begins to list a folder, for whoever wants to know only whether that fails.
+void CheckFolderOnDisk(const std::filesystem::path& folder, std::error_code& failure);
 /// All that a folder holds, in no order; what was found before a failure.
 std::vector<FolderEntry> EntriesOnDisk(const std::filesystem::path& folder, std::error_code& failure);
 

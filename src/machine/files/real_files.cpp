@@ -54,7 +54,7 @@ fs::path FolderAt(const std::string& text) {
   const fs::file_status status = StatusOnDisk(path, failure);
   if (status.type() == fs::file_type::none) Raise(FaultFor(failure, FileTask::UseFolder));
   if (!fs::is_directory(status)) Raise(kFaultPathNotFound);
-  EntriesOnDisk(path, failure);
+  CheckFolderOnDisk(path, failure);
   if (failure) Raise(FaultFor(failure, FileTask::UseFolder));
   return path;
 }
