@@ -2,6 +2,7 @@
 
 #include "machine/files/real_path.h"
 #include "platform/disk.h"
+#include "platform/process_texts.h"
 #include "runtime/fault.h"
 
 #include <QCoreApplication>
@@ -29,9 +30,7 @@ std::vector<std::string> CommandLineWords(int /*count*/, const char* const* /*ar
 #else
 
 std::vector<std::string> CommandLineWords(int count, const char* const* arguments) {
-  std::vector<std::string> words;
-  for (int i = 1; i < count; ++i) words.emplace_back(arguments[i]);
-  return words;
+  return ArgumentTexts(count, arguments);
 }
 
 #endif

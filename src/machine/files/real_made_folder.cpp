@@ -21,8 +21,7 @@ void MakeFolder(const fs::path& folder) {
   const fs::path above = folder.parent_path();
   if (above != folder) MakeFolder(above);
   MakeFolderOnDisk(folder, failure);
-  // Another copy of the program may have been faster.
-  if (failure && !IsFolderOnDisk(folder)) Raise(FaultFor(failure, FileTask::Write));
+  if (failure) Raise(FaultFor(failure, FileTask::Write));
   KeepNames(above);
 }
 
