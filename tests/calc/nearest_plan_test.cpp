@@ -1,8 +1,7 @@
 // What comes nearest and why nothing was found, on machines whose speeds can be worked out in the head.
 #include "calc/nearest_plan.h"
 
-#include "calc/plan_search.h"
-#include "tests/calc/search_tables.h"
+#include "tests/calc/plain_machine.h"
 
 #include <gtest/gtest.h>
 
@@ -11,36 +10,6 @@
 
 namespace veldrin {
 namespace {
-
-/// All gears are asked to run at 100 km/h and do so with their one row.
-Workspace OneRowAt100() {
-  Workspace workspace = HundredKmhMachine();
-  workspace.GearRows = 1;
-  for (int gear = 1; gear <= kGears; ++gear) {
-    ClearPairs(workspace, gear);
-    SetPair(workspace, gear, 1, "A", 1, 1);
-    workspace.SpeedRequest[gear] = 100;
-  }
-  return workspace;
-}
-
-void SetSpeeds(Workspace& workspace, int gear, const std::vector<int>& speeds) {
-  ClearPairs(workspace, gear);
-  int row = 1;
-  for (const int speed : speeds) {
-    SetPair(workspace, gear, row, std::to_string(row), speed, 100);
-    workspace.GearRows = std::max<std::int16_t>(workspace.GearRows, static_cast<std::int16_t>(row));
-    ++row;
-  }
-}
-
-/// Final rows at which a row of 1 to 1 runs at these speeds.
-void SetFinals(Workspace& workspace, const std::vector<int>& speeds) {
-  workspace.FinalDriveCount = 1;
-  workspace.FinalDrivenCount = static_cast<std::int16_t>(speeds.size());
-  int row = 0;
-  for (const int speed : speeds) SetRatio(workspace.FinalTable[++row], speed, 100);
-}
 
 using Gears = std::vector<int>;
 

@@ -33,20 +33,7 @@ TEST_F(DesktopProgramTest, ASignalLosesWhatNobodyCanBeAskedAboutAndNoMore) {
 }
 
 TEST_F(DesktopProgramTest, ASignalEndsItBehindAnOpenBoxToo) {
-  bool wentOn = false;
-  When([] { return OpenBox() != nullptr; }, [] { raise(SIGTERM); });
-  const int status = Run(PlanFile(), [&] {
-    SetChanged(dirty::kYes);
-    MoveTo(1500, 900);
-    Desktop().stage.input.Do([&] {
-      Desktop().machine.boxes.Message(BoxIcon::Question, "", "text", BoxButtons::OkCancel);
-      wentOn = true;
-      return true;
-    });
-  });
-  EXPECT_EQ(status, 0);
-  EXPECT_FALSE(wentOn);
-  ExpectStoredAndTidy();
+  ExpectEndBehindAnOpenBox([] { raise(SIGTERM); });
 }
 
 TEST_F(DesktopProgramTest, ASignalClosesTheBoxOfAFault) {

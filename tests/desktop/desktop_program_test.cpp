@@ -34,20 +34,7 @@ TEST_F(DesktopProgramTest, AFaultEndsItWithAStatusOfItsOwn) {
 }
 
 TEST_F(DesktopProgramTest, EndedBehindAnOpenBoxItGoesOnWithNothing) {
-  bool wentOn = false;
-  When([] { return OpenBox() != nullptr; }, [this] { Desktop().EndAtOnce(); });
-  const int status = Run(PlanFile(), [&] {
-    SetChanged(dirty::kYes);
-    MoveTo(1500, 900);
-    Desktop().stage.input.Do([&] {
-      Desktop().machine.boxes.Message(BoxIcon::Question, "", "text", BoxButtons::OkCancel);
-      wentOn = true;
-      return true;
-    });
-  });
-  EXPECT_EQ(status, 0);
-  EXPECT_FALSE(wentOn);
-  ExpectStoredAndTidy();
+  ExpectEndBehindAnOpenBox([this] { Desktop().EndAtOnce(); });
 }
 
 TEST_F(DesktopProgramTest, WhatItHadStillToDoGoesWithIt) {

@@ -4,6 +4,7 @@
 #include "program/event_boundary.h"
 #include "tests/desktop/running_program.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -26,6 +27,25 @@ class DesktopProgramTest : public RunningProgramTest {
 
   std::optional<std::string> Setting(const char* key, const char* value) {
     return Desktop().machine.registry.Read(RegistryRoot::CurrentUser, key, value);
+  }
+
+  /// Ends the running program by `end` while a question stands open behind a changed plan: it goes on with
+  /// nothing.
+  void ExpectEndBehindAnOpenBox(const std::function<void()>& end) {
+    bool wentOn = false;
+    When([] { return OpenBox() != nullptr; }, end);
+    const int status = Run(PlanFile(), [&] {
+      SetChanged(dirty::kYes);
+      MoveTo(1500, 900);
+      Desktop().stage.input.Do([&] {
+        Desktop().machine.boxes.Message(BoxIcon::Question, "", "text", BoxButtons::OkCancel);
+        wentOn = true;
+        return true;
+      });
+    });
+    EXPECT_EQ(status, 0);
+    EXPECT_FALSE(wentOn);
+    ExpectStoredAndTidy();
   }
 
   /// What the unload leaves behind when the plan was the only one.
