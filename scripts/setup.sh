@@ -2,7 +2,7 @@
 
 BUILD_PACKAGES=(g++ cmake ninja-build python3)
 DESKTOP_PACKAGES=(qt6-base-dev qt6-translations-l10n fonts-liberation fonts-noto-cjk)
-TEST_PACKAGES=(libgtest-dev mold clang-format git poppler-utils shared-mime-info xdg-utils desktop-file-utils
+TEST_PACKAGES=(libgtest-dev clang libclang-rt-dev mold clang-format git poppler-utils shared-mime-info xdg-utils desktop-file-utils
   appstream libglib2.0-bin mandoc)
 PACKAGE_PACKAGES=(dpkg-dev file git)
 
@@ -41,7 +41,7 @@ build() {
   local folder=build/$preset
   shift
   if [ ! -f "$folder/build.ninja" ] || [ CMakePresets.json -nt "$folder/build.ninja" ]; then
-    quietly "$folder/configure.log" cmake --preset "$preset"
+    quietly "$folder/configure.log" cmake --fresh --preset "$preset"
   fi
   quietly "$folder/build.log" cmake --build --preset "$preset" ${1:+--target "$@"}
 }

@@ -69,7 +69,7 @@ class Trial:
             return self.run(command, self.scratch.tree, limit, failure_in_script)
         if stage == "rest":
             units = "|".join(os.path.basename(name).removeprefix("test-") for name in self.units)
-            leave = OF_THE_TREE + (rf"|^script\.|^({units})\." if units else r"|^script\.")
+            leave = OF_THE_TREE + (rf"|^script\.|^({units})(\.|$)" if units else r"|^script\.")
             command = ["ctest", "-E", leave, "--stop-on-failure", "--no-tests=ignore"]
             return self.run(command, self.scratch.build, limit, failure_in_list)
         command = [self.path(stage), "--gtest_fail_fast", "--gtest_brief=1"]

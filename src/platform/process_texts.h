@@ -22,7 +22,7 @@ class ConsoleInUtf8 {
   ConsoleInUtf8& operator=(const ConsoleInUtf8&) = delete;
 
  private:
-  unsigned before_ = 0;  // the console's page; 0 for no console
+  [[maybe_unused]] unsigned before_ = 0;  // the console's page; 0 for no console
 };
 
 }  // namespace veldrin

@@ -90,10 +90,10 @@ class GuideKeysTest : public MainWindowTest {
     return form2.HScroll1.Value != kMiddle;
   }
 
-  bool Zooms(const char* keys) {
+  bool Zooms(const char* combination) {
     stage.zoom.Set(1.5);
     for (QShortcut* const shortcut : Widget().findChildren<QShortcut*>()) {
-      if (shortcut->key() == QKeySequence(keys)) Q_EMIT shortcut->activated();
+      if (shortcut->key() == QKeySequence(combination)) Q_EMIT shortcut->activated();
     }
     return stage.zoom.Factor() != 1.5;
   }

@@ -60,6 +60,7 @@ class EveryStepTest : public ::testing::Test, protected EditedPlan {
       cameThrough_ = process.Run([this] { return KeepAndSave(); });
       SCOPED_TRACE("step " + std::to_string(at) + (Came().kept ? ", kept" : "") +
                    (Came().saved ? ", saved" : ""));
+      EXPECT_FALSE(process.Fell());
       Judge(newText);
     }
     EXPECT_TRUE(cameThrough_);

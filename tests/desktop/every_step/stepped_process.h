@@ -11,7 +11,10 @@
 #include <cstddef>
 #include <functional>
 #include <map>
+#include <string>
 #include <sys/ptrace.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/types.h>
 #include <sys/user.h>
 #include <sys/wait.h>
@@ -45,6 +48,10 @@ class SteppedProcess {
     return Watch(child);
   }
 
+  /// Whether the last one was ended otherwise than by the work and by its fate: by a sanitizer, or a bad
+  /// access.
+  bool Fell() const { return fell_; }
+
  private:
   static constexpr int kCallStop = SIGTRAP | 0x80;
 
@@ -59,7 +66,7 @@ class SteppedProcess {
       if (thread < 0 && errno == EINTR) continue;
       if (thread < 0) return false;
       if (!WIFSTOPPED(status)) {
-        if (thread == child) return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        if (thread == child) return EndedWell(status);
         continue;
       }
       const int signal = WSTOPSIG(status);
@@ -73,23 +80,40 @@ class SteppedProcess {
     }
   }
 
+  bool EndedWell(int status) {
+    const bool ended = WIFEXITED(status) && (WEXITSTATUS(status) == 0 || WEXITSTATUS(status) == kChildThrew);
+    const bool killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+    fell_ = !ended && !killed;
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+  }
+
   /// A call begins or ends.
   void Meet(pid_t child, pid_t thread) {
     const auto refused = refused_.find(thread);
     bool& inside = inside_[thread];
     inside = !inside;
-    if (inside) {
+    if (inside && !WritesToPipe(thread)) {
       const Fate fate = fate_(Peek(thread, offsetof(user_regs_struct, orig_rax)));
       if (fate.dies) kill(child, SIGKILL);
       if (fate.error != 0) {
         Poke(thread, offsetof(user_regs_struct, orig_rax), -1);
         refused_[thread] = fate.error;
       }
-    } else if (refused != refused_.end()) {
+    } else if (!inside && refused != refused_.end()) {
       Poke(thread, offsetof(user_regs_struct, rax), -refused->second);
       refused_.erase(refused);
     }
     Resume(thread, 0);
+  }
+
+  /// Nothing of the program does: the sanitizers look through a pipe whether memory can be read, and would
+  /// end the process if that were refused.
+  static bool WritesToPipe(pid_t thread) {
+    if (Peek(thread, offsetof(user_regs_struct, orig_rax)) != SYS_write) return false;
+    const long file = Peek(thread, offsetof(user_regs_struct, rdi));
+    struct stat kind {};
+    const std::string path = "/proc/" + std::to_string(thread) + "/fd/" + std::to_string(file);
+    return stat(path.c_str(), &kind) == 0 && S_ISFIFO(kind.st_mode);
   }
 
   static long Peek(pid_t thread, std::size_t place) {
@@ -100,6 +124,7 @@ class SteppedProcess {
   }
 
   std::function<Fate(long call)> fate_;
+  bool fell_ = false;
   std::map<pid_t, bool> inside_;
   std::map<pid_t, int> refused_;
 };
