@@ -189,7 +189,7 @@ struct SlotWriter {
   void operator()(Slot<std::string>* slot) const { *slot = word; }
   void operator()(Slot<bool>* slot) const { *slot = TrueOrFalse(word); }
   void operator()(Slot<int>* slot) const {
-    const bool isState = IsWindowControl(control) && std::string(slot->Name()) == "WindowState";
+    const bool isState = IsWindowControl(control) && slot->Name() == "WindowState";
     *slot = isState ? StateNumber(word) : IntNumber(word);
   }
   void operator()(Slot<float>* slot) const { *slot = SingleNumber(word); }

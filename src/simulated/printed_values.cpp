@@ -37,8 +37,7 @@ std::string SlotText(const Control& control, const AnySlot& slot) {
         if constexpr (std::is_same_v<decltype(typed), const Slot<int>*>) {
           static constexpr const char* kStates[] = {"normal", "minimised", "maximised"};
           const int value = typed->get();
-          const bool isState =
-              control.kind == ControlKind::Window && std::string_view(typed->Name()) == "WindowState";
+          const bool isState = control.kind == ControlKind::Window && typed->Name() == "WindowState";
           if (isState && value >= 0 && value <= 2) return kStates[value];
         }
         return ValueText(typed->get());

@@ -50,14 +50,14 @@ class Slot {
 
   const T& get() const { return value_; }
   operator const T&() const { return value_; }
-  const char* Name() const { return name_; }
+  std::string_view Name() const { return name_; }
 
   /// Takes a value and tells it, without a reaction: for the control's own bookkeeping.
   bool Put(const T& value) {
     const bool changed = !(value == value_);
     if (changed) value_ = value;
     if (changed && keepUp_) keepUp_(*control_);
-    TellWritten(*control_, name_, changed);
+    TellWritten(*control_, name_.data(), changed);
     return changed;
   }
 
@@ -66,7 +66,7 @@ class Slot {
 
  private:
   Control* control_;
-  const char* name_;
+  std::string_view name_;  // of a literal, so it ends with a zero
   T value_;
   React react_;
   Hold hold_;
