@@ -2,8 +2,8 @@
 
 BUILD_PACKAGES=(g++ cmake ninja-build python3)
 DESKTOP_PACKAGES=(qt6-base-dev qt6-translations-l10n fonts-liberation fonts-noto-cjk)
-TEST_PACKAGES=(libgtest-dev clang libclang-rt-dev mold clang-format git poppler-utils shared-mime-info xdg-utils desktop-file-utils
-  appstream libglib2.0-bin mandoc)
+TEST_PACKAGES=(libgtest-dev clang libclang-rt-dev mold clang-format git poppler-utils shared-mime-info xdg-utils
+  desktop-file-utils appstream libglib2.0-bin mandoc)
 PACKAGE_PACKAGES=(dpkg-dev file git)
 
 # quietly LOG COMMAND...: the output goes to LOG and is shown only when the command fails, without the lines
