@@ -8,8 +8,9 @@ set(LIBRARY_HEADERS <algorithm> <array> <cmath> <filesystem> <functional> <map> 
 set(PROGRAM_HEADERS workspace/program.h)
 set(QT_HEADERS <QtWidgets>)
 
-# They serve the tests' builds. In an optimised one g++ 12 takes the library's headers for the program's own and warns of
-# copies in them that there are not; besides, sources that lack an include are found there.
+# They serve the tests' builds; targets take this over as they are made. In an optimised build g++ 12 takes the library's
+# headers for the program's own and warns of copies in them that there are not; besides, sources that lack an include are
+# found there.
 if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
   set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
 endif()
