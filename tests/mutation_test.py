@@ -104,6 +104,20 @@ class Mutants(unittest.TestCase):
         self.assertNotEqual(one.lot(1), one.lot(2))
 
 
+class JudgedOfTheTree(unittest.TestCase):
+    def test_every_block_is_about_a_mutant_that_is_made(self):
+        with open(os.path.join(ROOT, "tests", "mutants-judged.txt"), encoding="utf-8") as file:
+            judged = read_judged(file.read())
+        names = {judgement.file for judgement in judged.values()}
+        mutants = []
+        for folder, _, files in os.walk(os.path.join(ROOT, "src")):
+            for name in names.intersection(files):
+                with open(os.path.join(folder, name), encoding="utf-8") as file:
+                    mutants += mutants_of(os.path.relpath(os.path.join(folder, name), ROOT), file.read())
+        self.assertEqual(names - {mutant.file.rsplit("/", 1)[-1] for mutant in mutants}, set())
+        self.assertEqual([judgement.key for judgement in outdated(judged, mutants)], [])
+
+
 class Judged(unittest.TestCase):
     def test_a_block_is_found_by_the_lines_texts(self):
         (mutant,) = mutants_of("src/a/b.cpp", "  int x = a + b;")
