@@ -1,5 +1,6 @@
 """A copy of the tree under build/mutate, and its build. Mutants stand there alone, never in the working tree."""
 
+import atexit
 import hashlib
 import json
 import os
@@ -7,6 +8,7 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
 
 from judged import FILE as JUDGED
 
@@ -20,7 +22,10 @@ class Scratch:
         self.base = base
         self.tree = os.path.join(base, "tree")
         self.build = os.path.join(base, "build")
-        self.home = os.path.join(base, "home")
+        # Outside of the tree: tests look for the program's folders above their own.
+        outside = tempfile.TemporaryDirectory(prefix="veldrin-mutate-")
+        atexit.register(outside.cleanup)
+        self.home = outside.name
         self.definitions = definitions
         self.jobs = jobs
         self.original = None  # of the mutant that stands in the tree: its path, text and time
@@ -53,7 +58,6 @@ class Scratch:
                 path = os.path.join(folder, name)
                 if os.path.relpath(path, self.tree) not in known:
                     os.remove(path)
-        os.makedirs(self.home, exist_ok=True)
         return digest.hexdigest()
 
     def configure(self):
