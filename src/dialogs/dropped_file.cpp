@@ -20,7 +20,7 @@ namespace veldrin {
 namespace {
 
 bool AgreesToDiscard(Program& program) {
-  const std::string question = Message(program.workspace, kLoadWithChangesMessage) + "\r\n\r\n" +
+  const std::string question = Message(program.workspace, Question::LoadWithChanges) + "\r\n\r\n" +
                                Message(program.workspace, kLoadWithoutSavingMessage) + " ?";
   return program.machine.boxes.Message(BoxIcon::Question, "", question, BoxButtons::OkCancel) ==
          BoxAnswer::Ok;

@@ -66,4 +66,8 @@ const std::string& Message(const Workspace& workspace, int number) {
   return workspace.MessageTable[number];
 }
 
+const std::string& Message(const Workspace& workspace, Question question) {
+  return Message(workspace, static_cast<int>(question));
+}
+
 }  // namespace veldrin

@@ -32,13 +32,7 @@ inline constexpr int kReferencePromptMessage = 28;
 // The banner of the search:
 inline constexpr int kSearchingMessage = 11;
 inline constexpr int kFoundMessage = 12;
-// Questions of the decision panel:
-inline constexpr int kSpeedsDifferMessage = 13;
-inline constexpr int kNoPlanFoundMessage = 14;
-inline constexpr int kQuitWithChangesMessage = 15;
-inline constexpr int kLoadWithChangesMessage = 16;
-inline constexpr int kHistoryLoadWithChangesMessage = 17;
-// Its answers:
+// Questions of the decision panel, 13 to 17, are named by `Question`. Its answers:
 inline constexpr int kRecalculateBySpeedMessage = 18;
 inline constexpr int kRecalculateByFullAutoMessage = 19;
 inline constexpr int kSaveAndQuitMessage = 20;
@@ -63,5 +57,8 @@ bool SpeaksJapanese(const Workspace& workspace);
 
 /// Message `number` (1..30). Raises fault 9 outside.
 const std::string& Message(const Workspace& workspace, int number);
+
+/// The message that a question of the decision panel asks by. Raises fault 9 for none.
+const std::string& Message(const Workspace& workspace, Question question);
 
 }  // namespace veldrin

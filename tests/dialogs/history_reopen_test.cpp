@@ -25,7 +25,7 @@ struct Reopen : Startup {
 };
 
 TEST_F(Reopen, OutsideTheDataRoleTheFileBoxIsMovedWithoutTheGuard) {
-  form3.Caption = Message(workspace, 1);
+  form3.Caption = Message(workspace, kListTitleMessage);
   form2.menu_files[2].Click();
   EXPECT_EQ(form3.Caption.get(), "Load Data File Select");
   EXPECT_EQ(form3.File1.Path.get(), "C:\\VELDRIN\\DAT");
@@ -35,7 +35,7 @@ TEST_F(Reopen, OutsideTheDataRoleTheFileBoxIsMovedWithoutTheGuard) {
 }
 
 TEST_F(Reopen, OutsideTheDataRoleASelectedEntryFiresAllTheSame) {
-  form3.Caption = Message(workspace, 3);
+  form3.Caption = Message(workspace, kSaveTitleMessage);
   form3.File1.Path = "C:\\VELDRIN\\DAT";
   form3.File1.FileName = "B.nx4";
   doubleClicks.clear();
@@ -44,7 +44,7 @@ TEST_F(Reopen, OutsideTheDataRoleASelectedEntryFiresAllTheSame) {
 }
 
 TEST_F(Reopen, InTheDataRoleAnotherEntryIsOpenedUnderTheGuard) {
-  form3.Caption = Message(workspace, 2);
+  form3.Caption = Message(workspace, kDataTitleMessage);
   form2.menu_files[2].Click();
   EXPECT_EQ(doubleClicks, (std::vector<std::string>{"CLOSE_OPEN"}));
   EXPECT_EQ(form3.File1.FileName.get(), "B.nx4");
@@ -55,7 +55,7 @@ TEST_F(Reopen, InTheDataRoleAnotherEntryIsOpenedUnderTheGuard) {
 }
 
 TEST_F(Reopen, InTheDataRoleTheSelectedEntryIsOpenedDirectly) {
-  form3.Caption = Message(workspace, 2);
+  form3.Caption = Message(workspace, kDataTitleMessage);
   form3.File1.Path = "C:\\VELDRIN\\DAT";
   form3.File1.FileName = "A.nx4";
   doubleClicks.clear();
@@ -65,7 +65,7 @@ TEST_F(Reopen, InTheDataRoleTheSelectedEntryIsOpenedDirectly) {
 }
 
 TEST_F(Reopen, AVanishedEntryDropsOutAndShowsTheChooser) {
-  for (const int role : {2, 1}) {
+  for (const int role : {kDataTitleMessage, kListTitleMessage}) {
     AddPlan("C:\\VELDRIN\\DAT\\C.nx4", Plan("NX4"));
     AddToHistory(program, "C:\\VELDRIN\\DAT\\C.nx4");
     simulated.files.Remove("C:\\VELDRIN\\DAT\\C.nx4");
@@ -84,7 +84,7 @@ TEST_F(Reopen, AVanishedEntryDropsOutAndShowsTheChooser) {
 TEST_F(Reopen, AFileInTheRootIsFoundThere) {
   AddPlan("D:\\R.nx4", Plan("NX4"));
   AddToHistory(program, "D:\\R.nx4");
-  form3.Caption = Message(workspace, 2);
+  form3.Caption = Message(workspace, kDataTitleMessage);
   form2.menu_files[1].Click();
   EXPECT_EQ(form3.File1.Path.get(), "D:\\");
   EXPECT_EQ(workspace.DataFile, "D:\\R.nx4");
@@ -111,7 +111,7 @@ TEST_F(Reopen, UnsavedChangesAskFirst) {
 }
 
 TEST_F(Reopen, OtherWordsThanYesDoNotAsk) {
-  form3.Caption = Message(workspace, 2);
+  form3.Caption = Message(workspace, kDataTitleMessage);
   for (const char* word : {"NO", "0", "1"}) {
     workspace.DataFile.clear();
     workspace.DataChanged = word;
@@ -124,7 +124,7 @@ TEST_F(Reopen, OtherWordsThanYesDoNotAsk) {
 TEST_F(Reopen, QuickQuitDoesNotAsk) {
   workspace.QuickQuit = kYesWord;
   workspace.DataChanged = dirty::kYes;
-  form3.Caption = Message(workspace, 2);
+  form3.Caption = Message(workspace, kDataTitleMessage);
   form2.menu_files[2].Click();
   EXPECT_FALSE(form2.Picture20.Visible);
   EXPECT_EQ(workspace.DataFile, "C:\\VELDRIN\\DAT\\B.nx4");
@@ -133,7 +133,7 @@ TEST_F(Reopen, QuickQuitDoesNotAsk) {
 TEST_F(Reopen, AForbiddenPairOnShowDoesNotAsk) {
   workspace.DataChanged = dirty::kYes;
   form2.Label12[3].BackColor = kRed;
-  form3.Caption = Message(workspace, 2);
+  form3.Caption = Message(workspace, kDataTitleMessage);
   form2.menu_files[2].Click();
   EXPECT_EQ(workspace.DataFile, "C:\\VELDRIN\\DAT\\B.nx4");
 }

@@ -156,7 +156,7 @@ TEST_F(DecisionPanel, AFailedSearchTakesThePlaceOfOtherTextsOnly) {
     SetQuestionTexts(program, before);
     form2.Command9.Caption = "as it was";
     AskQuestion(program, Question::NoPlanFound, PanelTexts::KeepThoseOfSearch);
-    EXPECT_EQ(form2.Label17.Caption.get(), Message(workspace, kNoPlanFoundMessage));
+    EXPECT_EQ(form2.Label17.Caption.get(), Message(workspace, Question::NoPlanFound));
     EXPECT_EQ(form2.Command9.Caption.get(),
               before == Question::NoPlanFound ? "as it was" : "Re-Input request speed");
   }

@@ -62,10 +62,6 @@ const QuestionRow* RowOf(Question question) {
   return row == std::end(kQuestions) ? nullptr : row;
 }
 
-const std::string& TextOf(const Program& program, Question question) {
-  return Message(program.workspace, static_cast<int>(question));
-}
-
 bool TextsStay(const Program& program, PanelTexts texts) {
   const Question before = QuestionOnPanel(program);
   return texts == PanelTexts::KeepThoseOfSearch &&
@@ -91,7 +87,7 @@ void Command9_Click(Program& program) {
 
 Question QuestionOnPanel(const Program& program) {
   for (const QuestionRow& row : kQuestions) {
-    if (program.form2.Label17.Caption == TextOf(program, row.question)) return row.question;
+    if (program.form2.Label17.Caption == Message(program.workspace, row.question)) return row.question;
   }
   return Question::None;
 }
@@ -118,7 +114,7 @@ void AskQuestion(Program& program, Question question, PanelTexts texts) {
 void SetQuestionTexts(Program& program, Question question) {
   const QuestionRow& row = *RowOf(question);
   Form2& form2 = program.form2;
-  form2.Label17.Caption = TextOf(program, question);
+  form2.Label17.Caption = Message(program.workspace, question);
   form2.Command8.Caption = Message(program.workspace, row.left);
   form2.Command9.Caption = Message(program.workspace, row.right);
 }

@@ -9,7 +9,7 @@ namespace veldrin {
 
 struct Control;
 
-/// The panel's questions by their messages.
+/// The panel's questions, each by the number of its message, which is named here alone.
 enum class Question : int {
   None = 0,
   SpeedsDiffer = 13,
