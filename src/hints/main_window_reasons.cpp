@@ -1,5 +1,6 @@
 #include "hints/main_window_reasons.h"
 
+#include "workspace/control_states.h"
 #include "workspace/decision_panel/decision_panel_held.h"
 #include "workspace/notice_words.h"
 
@@ -16,19 +17,6 @@ bool IsOneOf(const Control& control, std::initializer_list<const Control*> some)
 
 bool IsIn(const Control& control, const Control& array) {
   return &control.window == &array.window && control.name == array.name;
-}
-
-/// What takes a plan out of the window; the printer's picture with it.
-bool IsOutput(const Form2& form2, const Control& control) {
-  return IsOneOf(control, {&form2.Command5, &form2.menu_save, &form2.menu_print, &form2.menu_comb,
-                           &form2.menu_edit, &form2.Picture28});
-}
-
-/// What a search takes away, to give it back with a plan or with the answer to its question.
-bool IsTakenBySearch(const Form2& form2, const Control& control) {
-  return IsOneOf(control,
-                 {&form2.Command2, &form2.Command3, &form2.Command4, &form2.Command5, &form2.Picture28,
-                  &form2.menu_file, &form2.menu_edit, &form2.menu_f, &form2.menu_opt});
 }
 
 bool WorksOnPlan(const Form2& form2, const Control& control) {
@@ -96,7 +84,7 @@ BothLanguages MainWindowReason(const Program& program, const Control& off) {
     return {"This size is larger than the screen", "画面より大きいサイズです"};
   }
   if (!HasPlan(workspace)) return NoPlan(workspace);
-  if (&off == &form2.Spin4 && workspace.PrimaryCount < 2) {
+  if (&off == &form2.Spin4 && !HasPrimariesToStep(workspace)) {
     return {"This machine has one primary reduction only", "この機種のプライマリーは 1 種類だけです"};
   }
   if (IsOneOf(off, {&form2.Command7, &form2.f_rest})) return RestoreReason(workspace);

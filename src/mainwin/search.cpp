@@ -100,9 +100,7 @@ void StartSearch(Program& program) {
   HideAll({&form2.Picture2, &form2.Picture3, &form2.Picture4, &form2.Picture12, &form2.Picture30});
   form2.Label23.Caption = Message(program.workspace, kSearchingMessage);
   form2.Label23.Visible = true;
-  DisableAll({&form2.Command2, &form2.Command3, &form2.Command4, &form2.Command5});
-  form2.Picture28.MousePointer = kPointerNoDrop;
-  DisableAll({&form2.menu_file, &form2.menu_edit, &form2.menu_f, &form2.menu_opt});
+  DisableForSearch(form2);
   program.workspace.ResultWord = AllGearsAuto(program) ? result::kFullAuto : result::kNone;
   form2.Picture1.Visible = false;
   form2.Timer1.Enabled = true;

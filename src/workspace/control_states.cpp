@@ -1,10 +1,45 @@
 #include "workspace/control_states.h"
 
+#include <algorithm>
+#include <type_traits>
+#include <vector>
+
 namespace veldrin {
 
 namespace {
 
 constexpr int kRowsToStep = 2;  // primary rows that make stepping worth its arrows
+
+/// Controls of a window that is written to, or of one that is only asked.
+template <class Form>
+using ControlsOf = std::vector<std::conditional_t<std::is_const_v<Form>, const Control*, Control*>>;
+
+template <class Form>
+ControlsOf<Form> Output(Form& form2) {
+  return {&form2.menu_save, &form2.Command5,  &form2.menu_print,
+          &form2.menu_comb, &form2.menu_edit, &form2.Picture28};
+}
+
+template <class Form>
+ControlsOf<Form> TakenBySearch(Form& form2) {
+  return {&form2.Command2,  &form2.Command3,  &form2.Command4, &form2.Command5, &form2.Picture28,
+          &form2.menu_file, &form2.menu_edit, &form2.menu_f,   &form2.menu_opt};
+}
+
+bool Holds(const std::vector<const Control*>& controls, const Control& control) {
+  return std::find(controls.begin(), controls.end(), &control) != controls.end();
+}
+
+/// The picture of the printer tells by its pointer whether it can be used.
+void Enable(Form2& form2, const std::vector<Control*>& controls, bool enabled) {
+  for (Control* control : controls) {
+    if (control == &form2.Picture28) {
+      form2.Picture28.MousePointer = enabled ? kPointerDefault : kPointerNoDrop;
+    } else {
+      control->Enabled = enabled;
+    }
+  }
+}
 
 }  // namespace
 
@@ -35,17 +70,27 @@ void DisableSpin(SpinButton& spin) {
 }
 
 void EnableOutput(Program& program, bool enabled) {
-  Form2& form2 = program.form2;
-  form2.menu_save.Enabled = enabled;
-  form2.Command5.Enabled = enabled;
-  form2.menu_print.Enabled = enabled;
-  form2.menu_comb.Enabled = enabled;
-  form2.menu_edit.Enabled = enabled;
-  form2.Picture28.MousePointer = enabled ? kPointerDefault : kPointerNoDrop;
+  Enable(program.form2, Output(program.form2), enabled);
+}
+
+bool IsOutput(const Form2& form2, const Control& control) {
+  return Holds(Output(form2), control);
+}
+
+void DisableForSearch(Form2& form2) {
+  Enable(form2, TakenBySearch(form2), false);
+}
+
+bool IsTakenBySearch(const Form2& form2, const Control& control) {
+  return Holds(TakenBySearch(form2), control);
+}
+
+bool HasPrimariesToStep(const Workspace& workspace) {
+  return workspace.PrimaryCount >= kRowsToStep;
 }
 
 void EnableRowSpins(Program& program) {
-  if (program.workspace.PrimaryCount >= kRowsToStep) EnableSpin(program.form2.Spin4);
+  if (HasPrimariesToStep(program.workspace)) EnableSpin(program.form2.Spin4);
   EnableSpin(program.form2.Spin5);
 }
 

@@ -19,9 +19,16 @@ void DisableSpin(SpinButton& spin);
 /// What takes a plan out of the main window: saving, printing, the combination and the picture export. The
 /// pointer over the printer tells whether printing is possible. Raises nothing.
 void EnableOutput(Program& program, bool enabled);
+bool IsOutput(const Form2& form2, const Control& control);
 
-/// The arrows of primary and final. A machine with a single primary row leaves nothing to step, so those of
-/// the primary stay as they are. Raises nothing.
+/// What a search takes away, to give it back with a plan or with the answer to its question.
+void DisableForSearch(Form2& form2);
+bool IsTakenBySearch(const Form2& form2, const Control& control);
+
+/// Whether there is more than one primary row: a machine with a single one leaves nothing to step.
+bool HasPrimariesToStep(const Workspace& workspace);
+
+/// The arrows of primary and final; those of a primary without rows to step stay as they are. Raises nothing.
 void EnableRowSpins(Program& program);
 
 /// What tells the gears apart on the main window takes a gear's colour.
