@@ -92,7 +92,7 @@ BothLanguages MainWindowReason(const Program& program, const Control& off) {
     return {"Speeds wanted are being entered: Mode leads back to the plan",
             "要求速度の入力中です。Mode でプランに戻ります"};
   }
-  if (IsOutput(form2, off) && form2.Label12[3].BackColor == kRed) return ForbiddenPairWords(workspace);
+  if (IsOutput(form2, off) && ShowsForbiddenPair(form2)) return ForbiddenPairWords(workspace);
   if (&off == &form2.f_calc) {
     return {"No speeds wanted are being entered: Mode begins that",
             "要求速度を入力していません。Mode で入力を始めます"};

@@ -77,6 +77,10 @@ bool IsOutput(const Form2& form2, const Control& control) {
   return Holds(Output(form2), control);
 }
 
+bool ShowsForbiddenPair(const Form2& form2) {
+  return form2.Label12[kThirdGear].BackColor == kRed;  // the 4th is red with it
+}
+
 void DisableForSearch(Form2& form2) {
   Enable(form2, TakenBySearch(form2), false);
 }

@@ -21,6 +21,11 @@ void DisableSpin(SpinButton& spin);
 void EnableOutput(Program& program, bool enabled);
 bool IsOutput(const Form2& form2, const Control& control);
 
+/// Whether the 3rd and 4th gear show that they exclude each other. The colour is the rule, and not the
+/// tables: the pair that a user has chosen is tested, and a plan that was read or found shows none. Raises
+/// nothing.
+bool ShowsForbiddenPair(const Form2& form2);
+
 /// What a search takes away, to give it back with a plan or with the answer to its question.
 void DisableForSearch(Form2& form2);
 bool IsTakenBySearch(const Form2& form2, const Control& control);

@@ -3,6 +3,7 @@
 #include "platform/paths.h"
 #include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/control_states.h"
 #include "workspace/decision_panel/decision_panel.h"
 #include "workspace/files/kept_machine.h"
 #include "workspace/files/machine_list.h"
@@ -83,7 +84,7 @@ void AskForChanges(Program& program, int index) {
 
 void ReopenFromHistory(Program& program, int index) {
   Workspace& workspace = program.workspace;
-  if (program.form2.Label12[3].BackColor == kRed) workspace.DataChanged = dirty::kNo;
+  if (ShowsForbiddenPair(program.form2)) workspace.DataChanged = dirty::kNo;
   // An entry may be gone by the time that a question about it is answered.
   if (index < 1 || !program.form2.menu_files.Has(index)) return;
   const std::string path = program.form2.menu_files[index].Caption;

@@ -4,6 +4,7 @@
 #include "mainwin/refresh_display.h"
 #include "runtime/fault.h"
 #include "view/bind.h"
+#include "workspace/control_states.h"
 
 namespace veldrin {
 
@@ -11,7 +12,7 @@ namespace {
 
 /// A forbidden pair of 3rd and 4th gear has no combination.
 void ToggleCombination(Program& program) {
-  if (program.form2.Label12[3].BackColor != kRed) program.form2.menu_comb.Click();
+  if (!ShowsForbiddenPair(program.form2)) program.form2.menu_comb.Click();
 }
 
 void Picture21_DblClick(Program& program) {
