@@ -113,6 +113,8 @@ void ValidateTyreLength(Program& program) {
   const auto number = ValidTyreLength(program, box);
   if (!number) return;
   workspace.TyreLength = ToSingle(*number);
+  // A valid length is the user's, whoever's word still stands: a list's reader leaves its own, and under that
+  // of a quick ratio writing the box would begin a search.
   StayUnder(program, caller::kUser);
   box.Text = SingleText(workspace, workspace.TyreLength);
   RefreshPlan(program);

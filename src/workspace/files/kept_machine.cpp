@@ -10,8 +10,8 @@ namespace veldrin {
 
 namespace {
 
-/// The workspace as it was, but for what does not belong to a machine: where the chooser has gone, what it
-/// came to there, and the window's place.
+/// The workspace as it was, the caller's word with it, but for what does not belong to a machine: where the
+/// chooser has gone, what it came to there, and the window's place.
 void PutWorkspaceBack(Workspace& workspace, Workspace before) {
   before.DataPath = workspace.DataPath;
   before.TempDir = workspace.TempDir;
