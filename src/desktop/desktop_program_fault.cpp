@@ -1,6 +1,7 @@
 // The desktop program when a fault has ended it: what its box says, and how the user goes on.
 #include "desktop/desktop_program.h"
 #include "desktop/stored_settings.h"
+#include "model/setting_names.h"
 #include "safety/fault_words.h"
 #include "workspace/language.h"
 #include "workspace/settings.h"
@@ -23,7 +24,7 @@ constexpr char kIsKeptJapanese[] = "\n\nプランは保管されています。"
 bool DesktopProgram::BoxIsJapanese() const {
   const Workspace& workspace = program->workspace;
   if (program->form2.loaded) return SpeaksJapanese(workspace);
-  return workspace.IsJapanese == 1 && Stored(*program, "Language") != kEnglish;
+  return workspace.IsJapanese == 1 && Stored(*program, kLanguageValue) != kEnglish;
 }
 
 /// What is kept is on the disk by the time that the box says so.

@@ -1,6 +1,7 @@
 #include "dialogs/extension_registry.h"
 
 #include "model/decimal.h"
+#include "model/setting_names.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 #include "view/bind.h"

@@ -2,6 +2,7 @@
 
 #include "dialogs/settings_validation.h"
 #include "model/decimal.h"
+#include "model/setting_names.h"
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"
@@ -160,14 +161,15 @@ void WriteSettings(Program& program) {
   const Form7& form7 = *program.form7;
   const PathRules rules = program.machine.files.Rules();
   for (int box = kTyreBox; box <= kShiftNeBox; ++box) StoreBox(program, box);
-  Store(program, "List_File", UpperCase(form7.Label11[1].Caption.get()));
-  Store(program, "List_Path", StoredFolder(rules, form7.Label12[1].Caption));
-  Store(program, "Data_Path", StoredFolder(rules, form7.Label13[1].Caption));
+  Store(program, kListFileValue, UpperCase(form7.Label11[1].Caption.get()));
+  Store(program, kListPathValue, StoredFolder(rules, form7.Label12[1].Caption));
+  Store(program, kDataPathValue, StoredFolder(rules, form7.Label13[1].Caption));
   for (int box = kMaxSpeedBox; box <= kMaxNeBox; ++box) StoreBox(program, box);
-  Store(program, "His_Num", std::to_string(SystemInt16(program.workspace, form7.Combo1[kHistoryBox].Text)));
-  Store(program, "QuickQuit", form7.Combo1[kQuickQuitBox].Text);
-  Store(program, "Pr_Font", form7.Combo1[kFontBox].Text);
-  Store(program, "Language", form7.Combo1[kLanguageBox].Text);
+  Store(program, kHistoryMaxValue,
+        std::to_string(SystemInt16(program.workspace, form7.Combo1[kHistoryBox].Text)));
+  Store(program, kQuickQuitValue, form7.Combo1[kQuickQuitBox].Text);
+  Store(program, kPrintFontValue, form7.Combo1[kFontBox].Text);
+  Store(program, kLanguageValue, form7.Combo1[kLanguageBox].Text);
 }
 
 /// The language picked plays no part here.

@@ -1,6 +1,7 @@
 #include "mainwin/main_window.h"
 
 #include "model/decimal.h"
+#include "model/setting_names.h"
 #include "platform/paths.h"
 #include "runtime/text.h"
 #include "view/bind.h"

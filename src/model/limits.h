@@ -2,6 +2,8 @@
 // settings, boxes and the console's options all hold to this one table.
 #pragma once
 
+#include "model/setting_names.h"
+
 #include <cstdint>
 
 namespace veldrin {
@@ -48,11 +50,11 @@ struct Condition {
 /// In the order of the settings window's boxes.
 // clang-format off
 inline constexpr Condition kConditions[] = {
-    {"TYRE_L",    "Tyre_L",    kTyreLimits,       false},
-    {"CHECK_NE",  "Check_Ne",  kRevolutionLimits, true},
-    {"SHIFT_NE",  "Shift_Ne",  kRevolutionLimits, true},
-    {"MAX_SPEED", "Max_Speed", kMaxSpeedLimits,   true},
-    {"MAX_NE",    "Max_Ne",    kRevolutionLimits, true},
+    {"TYRE_L",    kTyreLengthWrittenValue, kTyreLimits,       false},
+    {"CHECK_NE",  kCheckNeValue,           kRevolutionLimits, true},
+    {"SHIFT_NE",  kShiftNeValue,           kRevolutionLimits, true},
+    {"MAX_SPEED", kMaxSpeedValue,          kMaxSpeedLimits,   true},
+    {"MAX_NE",    kMaxNeValue,             kRevolutionLimits, true},
 };
 // clang-format on
 

@@ -1,6 +1,7 @@
 #include "workspace/settings.h"
 
 #include "model/decimal.h"
+#include "model/setting_names.h"
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
@@ -48,20 +49,20 @@ struct MigratedKey {
 
 // clang-format off
 constexpr MigratedKey kMigratedKeys[] = {
-    {"LIST_FILE",   "List_File",   Rule::Anything},
-    {"LIST_PATH",   "List_Path",   Rule::Anything},
-    {"DATA_PATH",   "Data_Path",   Rule::Anything},
-    {"HISTORY",     "His_Num",     Rule::Int16},
-    {"QUICKQUIT",   "QuickQuit",   Rule::UpperCased},
-    {"FONT",        "Pr_Font",     Rule::Anything},
-    {"LANGUAGE",    "Language",    Rule::UpperCased},
-    {"SEPARATE_34", "Separate_34", Rule::Anything},
-    {"1st",         "Color_1",     Rule::Int32},
-    {"2nd",         "Color_2",     Rule::Int32},
-    {"3rd",         "Color_3",     Rule::Int32},
-    {"4th",         "Color_4",     Rule::Int32},
-    {"5th",         "Color_5",     Rule::Int32},
-    {"6th",         "Color_6",     Rule::Int32},
+    {"LIST_FILE",   kListFileValue,   Rule::Anything},
+    {"LIST_PATH",   kListPathValue,   Rule::Anything},
+    {"DATA_PATH",   kDataPathValue,   Rule::Anything},
+    {"HISTORY",     kHistoryMaxValue, Rule::Int16},
+    {"QUICKQUIT",   kQuickQuitValue,  Rule::UpperCased},
+    {"FONT",        kPrintFontValue,  Rule::Anything},
+    {"LANGUAGE",    kLanguageValue,   Rule::UpperCased},
+    {"SEPARATE_34", kSeparate34Value, Rule::Anything},
+    {"1st",         kColourValues[0], Rule::Int32},
+    {"2nd",         kColourValues[1], Rule::Int32},
+    {"3rd",         kColourValues[2], Rule::Int32},
+    {"4th",         kColourValues[3], Rule::Int32},
+    {"5th",         kColourValues[4], Rule::Int32},
+    {"6th",         kColourValues[5], Rule::Int32},
 };
 // clang-format on
 
@@ -135,7 +136,7 @@ void Store(Program& program, const std::string& value, const std::string& text) 
 }
 
 std::string ColourValue(int gear) {
-  return "Color_" + std::to_string(gear);
+  return kColourValues[gear - 1];
 }
 
 Colour DesignedGearColour(int gear) {
@@ -167,14 +168,14 @@ void ReadRegionalValues(Program& program) {
 }
 
 bool ReadAppPath(Program& program) {
-  program.workspace.AppPath = Stored(program, "App Path");
+  program.workspace.AppPath = Stored(program, kAppPathValue);
   return program.workspace.AppPath.empty();
 }
 
 void CreateSettings(Program& program) {
   Workspace& workspace = program.workspace;
   workspace.AppPath = program.machine.files.CurrentFolder();
-  Store(program, "App Path", workspace.AppPath);
+  Store(program, kAppPathValue, workspace.AppPath);
   Store(program, kExtensionCountValue, "0");
   RegisterFileType(program);
   const std::string older = JoinPath(program.machine.files.Rules(), workspace.AppPath, kOlderSettingsFile);
@@ -204,20 +205,20 @@ std::optional<StoredValue> MigrateLine(const Workspace& workspace, const std::st
 void ReadSettings(Program& program) {
   Workspace& workspace = program.workspace;
   const PathRules rules = program.machine.files.Rules();
-  workspace.TyreLength = StoredSingle(program, "Tyre_l", kDefaultTyreLength);
-  workspace.CheckNe = StoredInt16(program, "Check_Ne", kDefaultCheckNe);
-  workspace.ShiftNe = StoredInt16(program, "Shift_Ne", kDefaultShiftNe);
-  workspace.MaxSpeed = StoredInt16(program, "Max_Speed", kDefaultMaxSpeed);
-  workspace.MaxNe = StoredInt16(program, "Max_Ne", kDefaultMaxNe);
-  workspace.ListFile = StoredText(program, "List_File", "NX4.RAT");
-  workspace.ListPath = StoredText(program, "List_Path", JoinPath(rules, workspace.AppPath, "LIST"));
-  workspace.DataPath = StoredText(program, "Data_Path", JoinPath(rules, workspace.AppPath, "DAT"));
-  workspace.HistoryMax = StoredInt16(program, "His_Num", 6);
-  workspace.MinPlan = StoredInt16(program, "Min Plan", 1);
-  workspace.QuickQuit = StoredText(program, "QuickQuit", kNoWord);
-  workspace.Language = StoredText(program, "Language", kJapanese);
-  workspace.PrintFont = StoredText(program, "Pr_Font", "ＭＳ ゴシック");
-  workspace.Separate34 = StoredText(program, "Separate_34", "nv0");
+  workspace.TyreLength = StoredSingle(program, kTyreLengthValue, kDefaultTyreLength);
+  workspace.CheckNe = StoredInt16(program, kCheckNeValue, kDefaultCheckNe);
+  workspace.ShiftNe = StoredInt16(program, kShiftNeValue, kDefaultShiftNe);
+  workspace.MaxSpeed = StoredInt16(program, kMaxSpeedValue, kDefaultMaxSpeed);
+  workspace.MaxNe = StoredInt16(program, kMaxNeValue, kDefaultMaxNe);
+  workspace.ListFile = StoredText(program, kListFileValue, "NX4.RAT");
+  workspace.ListPath = StoredText(program, kListPathValue, JoinPath(rules, workspace.AppPath, "LIST"));
+  workspace.DataPath = StoredText(program, kDataPathValue, JoinPath(rules, workspace.AppPath, "DAT"));
+  workspace.HistoryMax = StoredInt16(program, kHistoryMaxValue, 6);
+  workspace.MinPlan = StoredInt16(program, kMinPlanValue, 1);
+  workspace.QuickQuit = StoredText(program, kQuickQuitValue, kNoWord);
+  workspace.Language = StoredText(program, kLanguageValue, kJapanese);
+  workspace.PrintFont = StoredText(program, kPrintFontValue, "ＭＳ ゴシック");
+  workspace.Separate34 = StoredText(program, kSeparate34Value, "nv0");
   for (int gear = 1; gear <= kGears; ++gear) {
     workspace.GearColour[gear] = StoredColour(program, ColourValue(gear), DesignedGearColour(gear));
   }

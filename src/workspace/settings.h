@@ -12,23 +12,17 @@
 
 namespace veldrin {
 
-/// The key of all settings below the current user.
+/// The key of all settings below the current user. The names of its values stand in model/setting_names.h.
 inline constexpr char kSettingsKey[] = "Software\\Tarn Ridge\\Veldrin";
 
 /// The name of a key's default value.
 inline constexpr char kDefaultValue[] = "";
 
-/// Values of `kSettingsKey` that several units know: how many extensions are tied, and where the main window
-/// last stood.
-inline constexpr char kExtensionCountValue[] = "NumExtReg";
-inline constexpr char kLastTopValue[] = "Last Top";
-inline constexpr char kLastLeftValue[] = "Last Left";
-
 /// The key below `kSettingsKey` that holds an extension's name and history; the slot is its number, or "Sub"
 /// for a machine without one.
 std::string ExtensionKey(const std::string& slot);
 
-/// The value that holds a gear's colour.
+/// The value that holds the colour of gear 1..6.
 std::string ColourValue(int gear);
 
 /// The colour of a gear in a new installation.

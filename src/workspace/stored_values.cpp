@@ -1,6 +1,7 @@
 #include "workspace/stored_values.h"
 
 #include "model/decimal.h"
+#include "model/setting_names.h"
 #include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "workspace/settings.h"
@@ -11,10 +12,9 @@ namespace veldrin {
 
 namespace {
 
-constexpr char kTyreLengthValue[] = "Tyre_l";
 /// In the order in which they are read.
-constexpr const char* kWholeNumberValues[] = {"Check_Ne", "Shift_Ne", "Max_Speed",
-                                              "Max_Ne",   "His_Num",  "Min Plan"};
+constexpr const char* kWholeNumberValues[] = {kCheckNeValue, kShiftNeValue,    kMaxSpeedValue,
+                                              kMaxNeValue,   kHistoryMaxValue, kMinPlanValue};
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include "workspace/files/working_files.h"
 
+#include "model/setting_names.h"
 #include "platform/paths.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
