@@ -15,8 +15,19 @@ void RunStep(const std::function<void()>& step) {
   step();
 }
 
-void WalkSawTooth(const SawTooth& tooth, const std::function<void(double x, double y)>& to,
-                  const PointRunner& run) {
+SawTooth SawToothOf(double shiftNe, double maxNe, const std::function<double(int gear)>& speed) {
+  return {shiftNe, maxNe, speed,
+          [shiftNe, speed](int gear) { return Divide(shiftNe * speed(gear - 1), speed(gear)); }};
+}
+
+void WalkSawTooth(const SawTooth& tooth, const SideTaker& side, const PointRunner& run) {
+  double fromX = 0;
+  double fromY = 0;
+  const auto to = [&](double x, double y) {
+    side(fromX, fromY, x, y);
+    fromX = x;
+    fromY = y;
+  };
   run([&] { to(tooth.shiftNe, tooth.speed(1)); });
   for (int gear = 2; gear <= kGears; ++gear) {
     run([&] { to(tooth.dropNe(gear), tooth.speed(gear - 1)); });

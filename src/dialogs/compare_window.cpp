@@ -17,7 +17,6 @@ namespace {
 constexpr float kOuterWidth = 7690;  // twips
 constexpr float kOuterHeight = 7300;
 constexpr char kJapaneseFont[] = "ＭＳ ゴシック";
-constexpr int kWhiteNumber = 15;
 constexpr int kLastSlot = kCompareSlots - 1;
 constexpr int kPatternCharacters = 3;  // of the machine's key in the name box
 
@@ -31,12 +30,12 @@ void DrawSlot(Program& program, int index) {
   for (int gear = 1; gear <= kGears; ++gear) {
     DrawRay(surface, workspace.MaxNe, slot.Speed[gear], slot.ShiftNe, workspace.GearColour[gear]);
   }
-  DrawMarkLine(surface, slot.ShiftNe, workspace.MaxSpeed, kPenDotted, PaletteColour(kWhiteNumber));
+  DrawMarkLine(surface, slot.ShiftNe, workspace.MaxSpeed, kPenDotted, kWhite);
   surface.drawStyle = kPenSolid;
   const auto speed = [&](int gear) { return static_cast<double>(slot.Speed[gear]); };
   const auto drop = [&](int gear) { return static_cast<double>(slot.DropNe[gear]); };
   const SawTooth tooth{static_cast<double>(slot.ShiftNe), static_cast<double>(workspace.MaxNe), speed, drop};
-  DrawSawTooth(surface, tooth, PaletteColour(kWhiteNumber));
+  DrawSawTooth(surface, tooth, kWhite);
 }
 
 void ShowConditions(Program& program, const CompareSlotRecord& slot) {

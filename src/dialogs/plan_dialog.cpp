@@ -21,8 +21,6 @@ namespace {
 
 constexpr float kOuterWidth = 7140;  // twips
 constexpr float kOuterHeight = 6540;
-constexpr int kWhiteNumber = 15;
-constexpr int kGreyNumber = 7;
 
 // ---- Showing a plan ----
 
@@ -84,14 +82,14 @@ void DrawChart(Program& program) {
   Surface& surface = program.form4->Picture21.surface;
   surface.Clear();
   DrawRays(program);
-  DrawMarkLine(surface, workspace.ShiftNe, workspace.MaxSpeed, kPenDashDot, PaletteColour(kWhiteNumber));
-  DrawMarkLine(surface, workspace.CheckNe, workspace.MaxSpeed, kPenDashDotDot, PaletteColour(kGreyNumber));
+  DrawMarkLine(surface, workspace.ShiftNe, workspace.MaxSpeed, kPenDashDot, kWhite);
+  DrawMarkLine(surface, workspace.CheckNe, workspace.MaxSpeed, kPenDashDotDot, kLightGrey);
   surface.drawStyle = kPenSolid;
   const auto speed = [&](int gear) { return static_cast<double>(dialog.ShownSpeed[gear]); };
   const auto drop = [&](int gear) { return static_cast<double>(dialog.ShownDrop[gear]); };
   const SawTooth tooth{static_cast<double>(workspace.ShiftNe), static_cast<double>(workspace.MaxNe), speed,
                        drop};
-  DrawSawTooth(surface, tooth, PaletteColour(kWhiteNumber));
+  DrawSawTooth(surface, tooth, kWhite);
 }
 
 /// Raises the faults of a plan text that is none, and those of speeds and requests that cannot be drawn.

@@ -7,9 +7,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kWhiteNumber = 15;
-constexpr int kGreyNumber = 7;
-
 void GearRay(Program& program, double speed, Colour colour) {
   const Workspace& workspace = program.workspace;
   DrawRay(program.form2.Picture21.surface, workspace.MaxNe, speed, workspace.ShiftNe, colour);
@@ -45,10 +42,7 @@ void DrawTooth(Program& program, const Speeds& speeds) {
   Surface& surface = program.form2.Picture21.surface;
   surface.drawStyle = kPenSolid;
   const auto speed = [&](int gear) { return static_cast<double>(speeds[gear]); };
-  const auto drop = [&](int gear) { return Divide(workspace.ShiftNe * speed(gear - 1), speed(gear)); };
-  const SawTooth tooth{static_cast<double>(workspace.ShiftNe), static_cast<double>(workspace.MaxNe), speed,
-                       drop};
-  DrawSawTooth(surface, tooth, PaletteColour(kWhiteNumber));
+  DrawSawTooth(surface, SawToothOf(workspace.ShiftNe, workspace.MaxNe, speed), kWhite);
 }
 
 void SetScales(Program& program) {
@@ -76,12 +70,7 @@ void DrawMarkLine(Surface& surface, double revolutions, double maxSpeed, int sty
 }
 
 void DrawSawTooth(Surface& surface, const SawTooth& tooth, Colour colour, const PointRunner& run) {
-  bool first = true;
-  const auto draw = [&](double x, double y) {
-    if (first) surface.Line(0, 0, x, y, colour);
-    if (!first) surface.LineTo(x, y, colour);
-    first = false;
-  };
+  const auto draw = [&](double x1, double y1, double x2, double y2) { surface.Line(x1, y1, x2, y2, colour); };
   WalkSawTooth(tooth, draw, run);
 }
 
@@ -97,9 +86,9 @@ void ChartPlan(Program& program) {
   surface.Clear();
   DrawRays(program, workspace.SpeedNow);
   DrawBaseline(program);
-  DrawMarkLine(surface, workspace.ShiftNe, workspace.MaxSpeed, kPenDashDot, PaletteColour(kWhiteNumber));
+  DrawMarkLine(surface, workspace.ShiftNe, workspace.MaxSpeed, kPenDashDot, kWhite);
   if (BaselineShows(workspace)) {
-    DrawMarkLine(surface, workspace.CheckNe, workspace.MaxSpeed, kPenDashDotDot, PaletteColour(kGreyNumber));
+    DrawMarkLine(surface, workspace.CheckNe, workspace.MaxSpeed, kPenDashDotDot, kLightGrey);
   }
   DrawTooth(program, workspace.SpeedNow);
 }
@@ -111,8 +100,8 @@ void ChartRequest(Program& program) {
   DrawRays(program, workspace.SpeedRequest);
   if (workspace.ReferenceNe == 0) workspace.ReferenceNe = workspace.ShiftNe;
   DrawBaseline(program);
-  DrawMarkLine(surface, workspace.ShiftNe, workspace.MaxSpeed, kPenDashDot, PaletteColour(kGreyNumber));
-  DrawMarkLine(surface, workspace.CheckNe, workspace.MaxSpeed, kPenDashDotDot, PaletteColour(kGreyNumber));
+  DrawMarkLine(surface, workspace.ShiftNe, workspace.MaxSpeed, kPenDashDot, kLightGrey);
+  DrawMarkLine(surface, workspace.CheckNe, workspace.MaxSpeed, kPenDashDotDot, kLightGrey);
   DrawTooth(program, workspace.SpeedRequest);
 }
 

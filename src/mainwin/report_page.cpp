@@ -249,11 +249,9 @@ void DrawRays(const Report& report) {
 /// The same line as on the main window's chart; here each of its parts may be left out.
 void DrawTooth(const Report& report) {
   const Workspace& workspace = report.program.workspace;
-  const double shiftX = ChartX(workspace.ShiftNe);
   const auto speed = [&](int gear) { return static_cast<double>(workspace.SpeedNow[gear]); };
-  const auto drop = [&](int gear) { return Divide(shiftX * speed(gear - 1), speed(gear)); };
-  DrawSawTooth(report.surface, {shiftX, ChartX(workspace.MaxNe), speed, drop}, kBlack,
-               [&](const std::function<void()>& step) { Run(report, step); });
+  const SawTooth tooth = SawToothOf(ChartX(workspace.ShiftNe), ChartX(workspace.MaxNe), speed);
+  DrawSawTooth(report.surface, tooth, kBlack, [&](const std::function<void()>& step) { Run(report, step); });
 }
 
 void DrawChart(const Report& report) {

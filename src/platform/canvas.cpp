@@ -104,10 +104,6 @@ void Surface::Line(double x1, double y1, double x2, double y2, Colour colour) {
   y_ = y2;
 }
 
-void Surface::LineTo(double x, double y, Colour colour) {
-  Line(x_, y_, x, y, colour);
-}
-
 void Surface::Fill(double x1, double y1, double x2, double y2, Colour colour) {
   Add(FillPrimitive{x1, y1, x2, y2, colour, drawMode});
   x_ = x2;

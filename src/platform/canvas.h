@@ -113,8 +113,6 @@ class Surface {
 
   /// A line with the surface's pen; the position becomes its end.
   void Line(double x1, double y1, double x2, double y2, Colour colour);
-  /// A line from the position on.
-  void LineTo(double x, double y, Colour colour);
   /// A filled rectangle in the surface's draw mode.
   void Fill(double x1, double y1, double x2, double y2, Colour colour);
   /// A text with its left top corner at (x, y), in the surface's font and fore colour. The position moves to

@@ -1,7 +1,6 @@
 #include "plan/page/chart_drawing.h"
 
 #include "calc/chart_geometry.h"
-#include "runtime/conversion.h"
 
 #include <algorithm>
 
@@ -9,8 +8,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kWhiteNumber = 15;
-constexpr int kGreyNumber = 7;
 constexpr int kFirstGearColour = 9;  // palette number of gear 1, where nobody has chosen others
 
 double SpeedOf(const PlanSheet& sheet, int gear) {
@@ -31,15 +28,9 @@ void DrawMark(Surface& surface, double revolutions, double maxSpeed, int style, 
 }
 
 void DrawTooth(Surface& surface, const PlanSheet& sheet, double maxNe, Colour colour) {
-  const double shiftNe = sheet.shiftNe;
   const auto speed = [&](int gear) { return SpeedOf(sheet, gear); };
-  const auto drop = [&](int gear) { return Divide(shiftNe * speed(gear - 1), speed(gear)); };
-  bool first = true;
-  WalkSawTooth({shiftNe, maxNe, speed, drop}, [&](double x, double y) {
-    if (first) surface.Line(0, 0, x, y, colour);
-    if (!first) surface.LineTo(x, y, colour);
-    first = false;
-  });
+  WalkSawTooth(SawToothOf(sheet.shiftNe, maxNe, speed),
+               [&](double x1, double y1, double x2, double y2) { surface.Line(x1, y1, x2, y2, colour); });
 }
 
 }  // namespace
@@ -55,8 +46,8 @@ Scale ChartScaleOf(const std::vector<PlanSheet>& sheets) {
 }
 
 Colour ToothColour(std::size_t place) {
-  constexpr int kColours[kToothColours] = {kWhiteNumber, 14, 11, 13, 10, 12, 6, 3};
-  return PaletteColour(kColours[place % kToothColours]);
+  constexpr int kNumbers[kToothColours] = {15, 14, 11, 13, 10, 12, 6, 3};  // in the palette
+  return PaletteColour(kNumbers[place % kToothColours]);
 }
 
 void DrawPlans(Surface& surface, const std::vector<PlanSheet>& sheets) {
@@ -79,7 +70,7 @@ void DrawPlans(Surface& surface, const std::vector<PlanSheet>& sheets) {
     const bool isDrawn = k > 0 && sheets[k].shiftNe == first.shiftNe;
     if (!isDrawn) DrawMark(surface, sheets[k].shiftNe, scale.top, kPenDashDot, ToothColour(k));
   }
-  DrawMark(surface, first.checkNe, scale.top, kPenDashDotDot, PaletteColour(kGreyNumber));
+  DrawMark(surface, first.checkNe, scale.top, kPenDashDotDot, kLightGrey);
   surface.drawStyle = kPenSolid;
   for (std::size_t k = 0; k < sheets.size(); ++k) DrawTooth(surface, sheets[k], scale.width, ToothColour(k));
 }
