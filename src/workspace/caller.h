@@ -1,6 +1,6 @@
 // Who is writing to the controls: `CallerWord` is set here and nowhere else, but for a machine that comes
-// back (files/kept_machine.h). Its word comes back with the rest of its workspace: those that the tries of
-// another one have left standing until a reader sets its own go with the tries.
+// back (files/kept_machine.h), for which the words that the tries of another one have left standing are
+// emptied.
 #pragma once
 
 #include "workspace/program.h"

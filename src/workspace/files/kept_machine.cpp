@@ -10,12 +10,14 @@ namespace veldrin {
 
 namespace {
 
-/// The workspace as it was, the caller's word with it, but for what does not belong to a machine: where the
-/// chooser has gone, what it came to there, and the window's place.
+/// The workspace as it was, but for what does not belong to a machine: where the chooser has gone, what it
+/// came to there, and the window's place. The caller's word is the user's, whose press brings the machine
+/// back: that of the load which has failed would keep the chooser from its double click.
 void PutWorkspaceBack(Workspace& workspace, Workspace before) {
   before.DataPath = workspace.DataPath;
   before.TempDir = workspace.TempDir;
   before.ResultWord = workspace.ResultWord;
+  before.CallerWord = caller::kUser;
   before.LastTop = workspace.LastTop;
   before.LastLeft = workspace.LastLeft;
   workspace = std::move(before);
