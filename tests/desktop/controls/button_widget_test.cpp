@@ -4,6 +4,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <algorithm>
+
 namespace veldrin {
 namespace {
 
@@ -36,6 +38,24 @@ TEST_F(ButtonWidgetTest, FocusIsSeenAtEveryZoom) {
     FocusOn(form->Text1);
     EXPECT_EQ(Differences(before, PictureOf(form->Command1)), 0) << factor;
   }
+}
+
+TEST_F(ButtonWidgetTest, CaptionOfAButtonThatIsOffIsPaler) {
+  const auto darkest = [this] {
+    const QImage picture = PictureOf(form->Command1);
+    int grey = 255;
+    // Its middle, where nothing but the caption is.
+    for (int y = picture.height() / 4; y < picture.height() * 3 / 4; ++y) {
+      for (int x = picture.width() / 4; x < picture.width() * 3 / 4; ++x)
+        grey = std::min(grey, qGray(picture.pixel(x, y)));
+    }
+    return grey;
+  };
+  EXPECT_LT(darkest(), 50);
+  form->Command1.Enabled = false;
+  Settle();
+  EXPECT_GE(darkest(), 110);
+  EXPECT_LT(darkest(), 160) << "and can still be read";
 }
 
 TEST_F(ButtonWidgetTest, ButtonThatItsOwnPressHidesIsUpWhenItIsShownAgain) {
