@@ -1,8 +1,10 @@
 #include "workspace/control_states.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <span>
 #include <type_traits>
-#include <vector>
 
 namespace veldrin {
 
@@ -11,27 +13,27 @@ namespace {
 constexpr int kRowsToStep = 2;  // primary rows that make stepping worth its arrows
 
 /// Controls of a window that is written to, or of one that is only asked.
-template <class Form>
-using ControlsOf = std::vector<std::conditional_t<std::is_const_v<Form>, const Control*, Control*>>;
+template <class Form, std::size_t kCount>
+using ControlsOf = std::array<std::conditional_t<std::is_const_v<Form>, const Control*, Control*>, kCount>;
 
 template <class Form>
-ControlsOf<Form> Output(Form& form2) {
+ControlsOf<Form, 6> Output(Form& form2) {
   return {&form2.menu_save, &form2.Command5,  &form2.menu_print,
           &form2.menu_comb, &form2.menu_edit, &form2.Picture28};
 }
 
 template <class Form>
-ControlsOf<Form> TakenBySearch(Form& form2) {
+ControlsOf<Form, 9> TakenBySearch(Form& form2) {
   return {&form2.Command2,  &form2.Command3,  &form2.Command4, &form2.Command5, &form2.Picture28,
           &form2.menu_file, &form2.menu_edit, &form2.menu_f,   &form2.menu_opt};
 }
 
-bool Holds(const std::vector<const Control*>& controls, const Control& control) {
+bool Holds(std::span<const Control* const> controls, const Control& control) {
   return std::find(controls.begin(), controls.end(), &control) != controls.end();
 }
 
 /// The picture of the printer tells by its pointer whether it can be used.
-void Enable(Form2& form2, const std::vector<Control*>& controls, bool enabled) {
+void Enable(Form2& form2, std::span<Control* const> controls, bool enabled) {
   for (Control* control : controls) {
     if (control == &form2.Picture28) {
       form2.Picture28.MousePointer = enabled ? kPointerDefault : kPointerNoDrop;

@@ -26,24 +26,22 @@ bool IsJapanese(const QFont& font) {
 
 /// The families to look for, the wanted one first. A Japanese one stands in every list: without it the
 /// system may take Chinese forms of the characters.
+QStringList FamiliesFor(const QString& wanted) {
+  const QStringList proportional = {"Noto Sans CJK JP", "IPAPGothic", "VL PGothic", "TakaoPGothic"};
+  if (wanted == kGothic) {
+    return QStringList{wanted,      "MS Gothic", "Noto Sans Mono CJK JP",
+                       "IPAGothic", "VL Gothic", "TakaoGothic"} +
+           proportional;
+  }
+  if (wanted == kProportionalGothic) return QStringList{wanted, "MS PGothic"} + proportional;
+  return QStringList{wanted, "Liberation Sans", "Arimo"} + proportional;
+}
+
+/// The same, worked out once for each name: every control asks whenever it takes its font.
 const QStringList& Families(const std::string& name) {
-  static const QStringList kProportional = {"Noto Sans CJK JP", "IPAPGothic", "VL PGothic", "TakaoPGothic"};
-  static const QStringList kLatin = QStringList{"Liberation Sans", "Arimo"} + kProportional;
   static std::map<std::string, QStringList> known;
   const auto [place, isNew] = known.try_emplace(name);
-  if (isNew) {
-    const QString wanted = QString::fromStdString(name);
-    place->second = QStringList{wanted};
-    if (wanted == kGothic) {
-      place->second +=
-          QStringList{"MS Gothic", "Noto Sans Mono CJK JP", "IPAGothic", "VL Gothic", "TakaoGothic"};
-      place->second += kProportional;
-    } else if (wanted == kProportionalGothic) {
-      place->second += QStringList{"MS PGothic"} + kProportional;
-    } else {
-      place->second += kLatin;
-    }
-  }
+  if (isNew) place->second = FamiliesFor(QString::fromStdString(name));
   return place->second;
 }
 
