@@ -24,16 +24,19 @@ class SavingRoadTest : public RoadTest {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
   }
+  static void ChangeAndSaveAs(RealProgram& program, const QString& name) {
+    program.ChangePlan();
+    program.Press("[NX4]", 'S', VK_CONTROL);
+    program.AwaitWindow("Save");
+    program.Type("Save", name);
+    program.Press("Save", VK_RETURN);
+  }
 };
 
 TEST_F(SavingRoadTest, APlanIsSavedUnderAJapaneseName) {
   RealProgram program({Plan()});
   program.AwaitWindow("[DRY.nx4]");
-  program.ChangePlan();
-  program.Press("[NX4]", 'S', VK_CONTROL);
-  program.AwaitWindow("Save");
-  program.Type("Save", "鈴鹿 決勝");
-  program.Press("Save", VK_RETURN);
+  ChangeAndSaveAs(program, "鈴鹿 決勝");
   program.AwaitWindow("[鈴鹿 決勝.nx4]");
   EXPECT_TRUE(Bytes(InUsersFolder("DAT/鈴鹿 決勝.nx4")).startsWith("FROM:NX4.RAT\r\n"));
   EXPECT_EQ(program.Close(), 0);
@@ -49,11 +52,7 @@ TEST_F(SavingRoadTest, APlanBeyond260CharactersIsOpenedChangedAndSavedAgain) {
   const QByteArray before = Bytes(plan);
   RealProgram program({QDir::toNativeSeparators(plan)});
   program.AwaitWindow("[鈴鹿.nx4]");
-  program.ChangePlan();
-  program.Press("[NX4]", 'S', VK_CONTROL);
-  program.AwaitWindow("Save");
-  program.Type("Save", "鈴鹿");
-  program.Press("Save", VK_RETURN);
+  ChangeAndSaveAs(program, "鈴鹿");
   program.Press("Save", VK_RETURN);  // it may be written over
   EXPECT_TRUE(Await([&] { return Bytes(plan) != before && Bytes(plan).startsWith("FROM:NX4.RAT\r\n"); }))
       << program.Titles().toStdString();
