@@ -46,11 +46,11 @@ std::string ReadClass(const Program& program, const std::string& key, const char
 }
 
 std::string ReadSlot(const Program& program, int slot) {
-  return ReadSetting(program, RegistryRoot::CurrentUser, SlotKey(slot), kDefaultValue);
+  return Stored(program, SlotKey(slot), kDefaultValue);
 }
 
 void WriteSlot(Program& program, int slot, const std::string& text) {
-  WriteSetting(program, RegistryRoot::CurrentUser, SlotKey(slot), kDefaultValue, text);
+  Store(program, SlotKey(slot), kDefaultValue, text);
 }
 
 void WriteCount(Program& program, int count) {

@@ -241,7 +241,7 @@ void DrawRays(const Report& report) {
   for (int gear = 1; gear <= kGears; ++gear) {
     Run(report, [&] {
       DrawRay(report.surface, ChartX(workspace.MaxNe), workspace.SpeedNow[gear], ChartX(workspace.ShiftNe),
-              PaletteColour(gear + 8));
+              DesignedGearColour(gear));
     });
   }
 }

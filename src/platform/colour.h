@@ -32,4 +32,7 @@ inline constexpr Colour kDarkBlue = Rgb(0, 0, 128);
 /// cyan, red, magenta and yellow, 15 white. Numbers beyond begin again at 0.
 Colour PaletteColour(int number);
 
+/// The colour of gear 1 to 6 as long as nobody has chosen another, the bright ones in their order.
+Colour DesignedGearColour(int gear);
+
 }  // namespace veldrin

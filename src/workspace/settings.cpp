@@ -18,7 +18,6 @@ namespace {
 constexpr std::size_t kReadLimit = 1024;  // bytes of a stored text
 constexpr char kOlderSettingsFile[] = "VELDRIN.INI";
 constexpr char kDefaultSeparator[] = ".";
-constexpr int kFirstGearColour = 9;  // palette number of gear 1
 
 /// `text` without its bytes from `limit` on; a character that the limit cuts goes as a whole.
 std::string CutBytes(std::string text, std::size_t limit) {
@@ -128,19 +127,23 @@ bool WriteSetting(Program& program, RegistryRoot root, const std::string& key, c
 }
 
 std::string Stored(const Program& program, const std::string& value) {
-  return ReadSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value);
+  return Stored(program, kSettingsKey, value);
+}
+
+std::string Stored(const Program& program, const std::string& key, const std::string& value) {
+  return ReadSetting(program, RegistryRoot::CurrentUser, key, value);
 }
 
 void Store(Program& program, const std::string& value, const std::string& text) {
-  WriteSetting(program, RegistryRoot::CurrentUser, kSettingsKey, value, text);
+  Store(program, kSettingsKey, value, text);
+}
+
+void Store(Program& program, const std::string& key, const std::string& value, const std::string& text) {
+  WriteSetting(program, RegistryRoot::CurrentUser, key, value, text);
 }
 
 std::string ColourValue(int gear) {
   return kColourValues[gear - 1];
-}
-
-Colour DesignedGearColour(int gear) {
-  return PaletteColour(kFirstGearColour + gear - 1);
 }
 
 std::string ExtensionKey(const std::string& slot) {

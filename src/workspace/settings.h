@@ -25,9 +25,6 @@ std::string ExtensionKey(const std::string& slot);
 /// The value that holds the colour of gear 1..6.
 std::string ColourValue(int gear);
 
-/// The colour of a gear in a new installation.
-Colour DesignedGearColour(int gear);
-
 /// The file type's key below the classes root.
 inline constexpr char kFileTypeKey[] = "Veldrin.file";
 
@@ -43,9 +40,12 @@ std::string ReadSetting(const Program& program, RegistryRoot root, const std::st
 bool WriteSetting(Program& program, RegistryRoot root, const std::string& key, const std::string& value,
                   const std::string& text);
 
-/// Reads and writes a value of `kSettingsKey`. Failing writes go unnoticed. Raises nothing.
+/// Reads and writes a value of the current user, of `kSettingsKey` where no key is named. Failing writes go
+/// unnoticed. Raises nothing.
 std::string Stored(const Program& program, const std::string& value);
+std::string Stored(const Program& program, const std::string& key, const std::string& value);
 void Store(Program& program, const std::string& value, const std::string& text);
+void Store(Program& program, const std::string& key, const std::string& value, const std::string& text);
 
 /// Deletes a key. True on success. Raises nothing.
 bool DeleteKey(Program& program, RegistryRoot root, const std::string& key);

@@ -8,8 +8,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kFirstGearColour = 9;  // palette number of gear 1, where nobody has chosen others
-
 double SpeedOf(const PlanSheet& sheet, int gear) {
   return sheet.gears[static_cast<std::size_t>(gear - 1)].speed;
 }
@@ -17,8 +15,7 @@ double SpeedOf(const PlanSheet& sheet, int gear) {
 template <class Speeds>
 void DrawRays(Surface& surface, double maxNe, double revolutions, const Speeds& speed) {
   for (int gear = 1; gear <= kGears; ++gear) {
-    surface.Line(0, 0, maxNe, RayEnd(maxNe, speed(gear), revolutions),
-                 PaletteColour(kFirstGearColour + gear - 1));
+    surface.Line(0, 0, maxNe, RayEnd(maxNe, speed(gear), revolutions), DesignedGearColour(gear));
   }
 }
 

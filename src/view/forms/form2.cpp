@@ -57,7 +57,7 @@ Form2::Form2(Desk& theDesk)
     : Window(theDesk, "Form2", {0, 0, 9720, 7400}, {.caption = "Mr.Veldrin", .back = kDarkBlue}, true) {
   for (auto* figures : {&Label1, &Label2, &Label9, &Label10, &Label11, &Label14, &Label15, &Label31, &Label32,
                         &Label33, &Label34, &Label35, &Label44, &Label_Dif}) {
-    for (int gear = 1; gear <= 6; ++gear) (*figures)[gear].ForeColor.Design(PaletteColour(gear + 8));
+    for (int gear = 1; gear <= 6; ++gear) (*figures)[gear].ForeColor.Design(DesignedGearColour(gear));
   }
   Option1[0].Width.Design(795);
   Option1[0].Value.Design(true);

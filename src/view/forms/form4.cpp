@@ -5,8 +5,8 @@ namespace veldrin {
 Form4::Form4(Desk& theDesk)
     : Window(theDesk, "Form4", {0, 0, 7140, 6540}, {.caption = "Selected Mission Plan", .back = kDarkBlue}) {
   for (int gear = 1; gear <= 6; ++gear) {
-    Label17[gear].ForeColor.Design(PaletteColour(gear + 8));
-    Label24[gear].ForeColor.Design(PaletteColour(gear + 8));
+    Label17[gear].ForeColor.Design(DesignedGearColour(gear));
+    Label24[gear].ForeColor.Design(DesignedGearColour(gear));
   }
   for (Label* head : {&Label11[0], &Label24[0], &Label12[0]}) {
     head->FontSize.Design(8);

@@ -4,8 +4,8 @@ namespace veldrin {
 
 Form9::Form9(Desk& theDesk) : Window(theDesk, "Form9", {0, 0, 6660, 3195}, {.caption = "Color Select"}) {
   for (int gear = 1; gear <= 6; ++gear) {
-    Label1[gear].ForeColor.Design(PaletteColour(gear + 8));
-    Label1[gear + 10].ForeColor.Design(PaletteColour(gear + 8));
+    Label1[gear].ForeColor.Design(DesignedGearColour(gear));
+    Label1[gear + 10].ForeColor.Design(DesignedGearColour(gear));
   }
 }
 

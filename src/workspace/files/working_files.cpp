@@ -46,14 +46,6 @@ std::string HistoryKey(const Workspace& workspace) {
   return ExtensionKey(slot);
 }
 
-std::string Stored(const Program& program, const std::string& key, const std::string& value) {
-  return ReadSetting(program, RegistryRoot::CurrentUser, key, value);
-}
-
-void Store(Program& program, const std::string& key, const std::string& value, const std::string& text) {
-  WriteSetting(program, RegistryRoot::CurrentUser, key, value, text);
-}
-
 int StoredCount(const Program& program, const std::string& key) {
   double count = 0;
   Guarded([&] { count = RoundHalfToEven(LeadingNumber(Stored(program, key, kCountValue))); });
