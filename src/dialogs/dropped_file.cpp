@@ -8,6 +8,7 @@
 #include "view/user_input.h"
 #include "workspace/caller.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/decision_panel/decision_panel.h"
 #include "workspace/files/kept_machine.h"
 #include "workspace/files/machine_list.h"
 #include "workspace/files/working_files.h"
@@ -95,7 +96,7 @@ void TellRefusal(Program& program, const Drop& drop) {
 
 bool TakesDroppedFiles(const Program& program) {
   const Form2& form2 = program.form2;
-  return !program.ended && user::Reachable(form2) && !form2.Picture20.Visible && form2.menu_file.Enabled;
+  return !program.ended && user::Reachable(form2) && !QuestionStands(program) && form2.menu_file.Enabled;
 }
 
 bool OpenDroppedFile(Program& program, const std::string& path) {

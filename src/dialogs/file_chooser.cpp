@@ -18,6 +18,7 @@
 #include "workspace/files/machine_list.h"
 #include "workspace/files/working_files.h"
 #include "workspace/language.h"
+#include "workspace/mode.h"
 
 #include <string>
 
@@ -186,12 +187,6 @@ void Command1_Click(Program& program) {
   if (!program.form3.Visible) SettleMachine(program);
 }
 
-/// Whether there is a plan, on show or behind the requests.
-bool HasPlan(const Workspace& workspace) {
-  const std::string& word = workspace.ModeWord;
-  return word == mode::kChange || word == mode::kSpeed || word == mode::kRpm;
-}
-
 /// The user has backed out of "Save and Load" or "Not save. Load": the plan counts as unsaved again, the mode
 /// is that of what is on show, and the working file leads back to what was saved.
 void CancelPendingLoad(Program& program) {
@@ -203,7 +198,7 @@ void CancelPendingLoad(Program& program) {
     workspace.PendingAction = pending::kNone;
   }
   EndAnsweredLoad(program);
-  if (pendingLoad && HasPlan(workspace) && !workspace.WorkFileStale) EnableRestore(program, true);
+  if (pendingLoad && HasPlanOnShow(workspace) && !workspace.WorkFileStale) EnableRestore(program, true);
 }
 
 /// CANCEL.

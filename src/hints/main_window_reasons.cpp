@@ -2,6 +2,7 @@
 
 #include "workspace/control_states.h"
 #include "workspace/decision_panel/decision_panel_held.h"
+#include "workspace/mode.h"
 #include "workspace/notice_words.h"
 
 #include <algorithm>
@@ -24,10 +25,6 @@ bool WorksOnPlan(const Form2& form2, const Control& control) {
          IsOneOf(control, {&form2.Spin4, &form2.Spin5, &form2.HScroll1, &form2.HScroll2, &form2.Command11});
 }
 
-bool HasPlan(const Workspace& workspace) {
-  return !workspace.MachineKey.empty() && workspace.ModeWord != mode::kBasing;
-}
-
 BothLanguages NoPlan(const Workspace& workspace) {
   if (workspace.MachineKey.empty()) {
     return {"No machine is loaded: File, Load opens its list file",
@@ -38,7 +35,7 @@ BothLanguages NoPlan(const Workspace& workspace) {
 }
 
 bool IsAuto(const Form2& form2, int gear) {
-  return form2.Command1[gear].Caption == "AUTO";
+  return form2.Command1[gear].Caption == kAuto;
 }
 
 BothLanguages ToleranceReason(const Form2& form2, const Control& off) {
@@ -83,7 +80,7 @@ BothLanguages MainWindowReason(const Program& program, const Control& off) {
   if (IsIn(off, form2.clip[0]) || IsIn(off, form2.bmp[0])) {
     return {"This size is larger than the screen", "画面より大きいサイズです"};
   }
-  if (!HasPlan(workspace)) return NoPlan(workspace);
+  if (workspace.MachineKey.empty() || !HasPlanOnShow(workspace)) return NoPlan(workspace);
   if (&off == &form2.Spin4 && !HasPrimariesToStep(workspace)) {
     return {"This machine has one primary reduction only", "この機種のプライマリーは 1 種類だけです"};
   }

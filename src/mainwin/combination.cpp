@@ -73,7 +73,7 @@ void TakeRecords(Program& program, TextReader& reader, bool separate) {
 
 /// Kept: a fault on the way leaves the file open, so that every later opening fails until the program ends,
 /// also that of another machine's file, since all have the same number.
-void ShowParts(Program& program, bool separate) {
+void FillParts(Program& program, bool separate) {
   const Workspace& workspace = program.workspace;
   const PathRules rules = program.machine.files.Rules();
   program.files.OpenInput(Handle::Combination,
@@ -91,12 +91,12 @@ void menu_comb_Click(Program& program) {
   if (workspace.ModeWord != mode::kChange) return;
   const bool separate = HasSeparateParts(workspace);
   SetForm(form2, separate);
-  if (form2.Picture9.Visible && workspace.CallerWord != caller::kCombination) {
+  if (ShowsParts(form2) && workspace.CallerWord != caller::kCombination) {
     form2.Picture9.Visible = false;
     return;
   }
   for (int gear = 1; gear <= kGears; ++gear) form2.Label31[gear].Caption = PlanPair(workspace, gear);
-  Guarded([&] { ShowParts(program, separate); });
+  Guarded([&] { FillParts(program, separate); });
 }
 
 }  // namespace
@@ -108,6 +108,10 @@ bool HasSeparateParts(const Workspace& workspace) {
 int JointPartFontSize(const std::string& part) {
   const int size = static_cast<int>(std::floor(Divide(kJointPartRoom, Length(part)))) + 1;
   return std::min(size, kLargestFontSize);
+}
+
+bool ShowsParts(const Form2& form2) {
+  return form2.Picture9.Visible;
 }
 
 void AttachCombination(Program& program) {

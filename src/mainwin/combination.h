@@ -23,6 +23,10 @@ bool HasSeparateParts(const Workspace& workspace);
 /// Raises fault 11 for the empty name.
 int JointPartFontSize(const std::string& part);
 
+/// Whether the panel is open. The slot is the rule: a change of plan refills it, and reports carry its
+/// columns, as long as it can be seen.
+bool ShowsParts(const Form2& form2);
+
 /// Binds `menu_comb`.
 void AttachCombination(Program& program);
 

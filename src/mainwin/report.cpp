@@ -94,22 +94,22 @@ void HandOver(Program& program, const Picture& picture, PictureOutput output) {
   }
 }
 
-bool HasPlan(const Program& program) {
-  return program.workspace.ModeWord != mode::kBasing;
+bool IsBasing(const Program& program) {
+  return program.workspace.ModeWord == mode::kBasing;
 }
 
 void clip_Click(Program& program, int index) {
-  if (HasPlan(program)) RenderPicture(program, index, PictureOutput::Clipboard);
+  if (!IsBasing(program)) RenderPicture(program, index, PictureOutput::Clipboard);
 }
 
 void bmp_Click(Program& program, int index) {
-  if (HasPlan(program) && !program.workspace.DataFile.empty()) {
+  if (!IsBasing(program) && !program.workspace.DataFile.empty()) {
     RenderPicture(program, index, PictureOutput::File);
   }
 }
 
 void menu_print_Click(Program& program) {
-  if (HasPlan(program)) PrintReport(program);
+  if (!IsBasing(program)) PrintReport(program);
 }
 
 }  // namespace

@@ -275,7 +275,7 @@ void DrawReport(const Program& program, Surface& surface, const ReportStyle& sty
   surface.font.size = style.textSize;
   DrawFigures(report);
   DrawTable(report);
-  if (program.form2.Picture9.Visible) DrawParts(report);
+  if (ShowsParts(program.form2)) DrawParts(report);
   DrawChart(report);
 }
 

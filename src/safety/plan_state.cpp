@@ -3,6 +3,7 @@
 #include "mainwin/search.h"
 #include "runtime/fault.h"
 #include "workspace/files/plan_file.h"
+#include "workspace/mode.h"
 #include "workspace/title.h"
 
 namespace veldrin {
@@ -13,7 +14,7 @@ RequestState TakeRequests(const Program& program) {
   const Workspace& workspace = program.workspace;
   const Form2& form2 = program.form2;
   RequestState state;
-  state.byRevolutions = form2.Picture30.Visible;
+  state.byRevolutions = ModeOnShow(program) == mode::kRpm;
   state.mainGear = static_cast<std::int16_t>(MainGear(program));
   for (int gear = 1; gear <= kGears; ++gear) {
     const std::size_t place = Place(gear);
@@ -51,7 +52,7 @@ PlanState TakePlan(const Program& program) {
   state.remark = program.form2.Text6.Text;
   state.maxSpeed = workspace.MaxSpeed;
   state.maxNe = workspace.MaxNe;
-  if (program.form2.Picture4.Visible) state.requests = TakeRequests(program);
+  if (ShowsRequests(program)) state.requests = TakeRequests(program);
   return state;
 }
 

@@ -17,6 +17,7 @@
 #include "workspace/files/machine_list.h"
 #include "workspace/files/plan_file.h"
 #include "workspace/files/working_files.h"
+#include "workspace/mode.h"
 #include "workspace/title.h"
 
 #include <string>

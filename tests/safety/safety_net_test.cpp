@@ -226,6 +226,33 @@ TEST_F(SafetyNetTest, RequestsAreKeptWhileTheyAreEntered) {
   EXPECT_TRUE(Kept().empty());  // nobody waits for them any more
 }
 
+TEST_F(SafetyNetTest, RequestsAreKeptWhileASearchForThemWaits) {
+  p.Click(p.Main().Command2);
+  p.Do([&] { user::EnterText(p.Main().Text1[6], "222"); });
+  p.Click(p.Main().Command1[6]);
+  p.Click(p.Main().Command6);
+  ASSERT_TRUE(p.Main().Timer1.Enabled);
+  ASSERT_EQ(Kept().size(), 1U);
+  EXPECT_TRUE(Kept()[0].plan.requests);
+  p.Do([&] { p.Main().Timer1.Timer(); });
+  ASSERT_EQ(p.Work().ResultWord, result::kNoPlan);
+  ASSERT_EQ(Kept().size(), 1U);
+  ASSERT_TRUE(Kept()[0].plan.requests);
+  EXPECT_EQ(Kept()[0].plan.requests->texts[5], "222");
+}
+
+TEST_F(SafetyNetTest, RequestsAreKeptWhileAQuestionForALoadWaits) {
+  p.Step(6);
+  p.Click(p.Main().Command2);
+  p.Click(p.Main().Command2, kRightButton);
+  p.Do([&] { user::Spin(p.Main().SpinButton2[4], true); });
+  p.Click(p.Main().Command3);
+  ASSERT_EQ(p.Work().ModeWord, mode::kData);
+  ASSERT_EQ(Kept().size(), 1U);
+  ASSERT_TRUE(Kept()[0].plan.requests);
+  EXPECT_TRUE(Kept()[0].plan.requests->byRevolutions);
+}
+
 TEST_F(SafetyNetTest, DiskThatRefusesIsToldOnceAndTriedAgain) {
   folder.fault = kFaultDiskFull;
   p.Step(1);

@@ -3,6 +3,7 @@
 #include "simulated/simulated_machine.h"
 #include "workspace/control_states.h"
 #include "workspace/language.h"
+#include "workspace/mode.h"
 
 #include <gtest/gtest.h>
 
@@ -236,6 +237,31 @@ TEST_F(DecisionPanel, ALoadThatWasOvertakenLeavesALaterQuestionAlone) {
   EXPECT_EQ(workspace.ModeWord, "LIST");
 }
 
+TEST_F(DecisionPanel, ALoadAskedForOverAnotherComesBackToTheModeBeforeBoth) {
+  program.hooks.OpenDataChooser = [&] { form2.Timer2.Enabled = true; };
+  workspace.ModeWord = mode::kSpeed;
+  AskQuestion(program, Question::LoadWithChanges);
+  workspace.ModeWord = mode::kData;
+  form2.Command9.Click();
+  ASSERT_EQ(ModeOnShow(program), "SPEED");
+  AskQuestion(program, Question::LoadWithChanges);
+  workspace.ModeWord = mode::kList;
+  EXPECT_EQ(ModeOnShow(program), "SPEED");
+  DropQuestion(program);
+  EXPECT_EQ(workspace.ModeWord, "SPEED");
+}
+
+TEST_F(DecisionPanel, ThePanelStandsUntilItsAnswerHasSaved) {
+  std::vector<bool> seen;
+  form2.Command5.Click.Bind([&](int) { seen.push_back(QuestionStands(program)); });
+  EXPECT_FALSE(QuestionStands(program));
+  AskQuestion(program, Question::LoadWithChanges);
+  EXPECT_TRUE(QuestionStands(program));
+  form2.Command8.Click();
+  EXPECT_EQ(seen, std::vector<bool>{true});
+  EXPECT_FALSE(QuestionStands(program));
+}
+
 TEST_F(DecisionPanel, ASaveBelongsToTheAnswerThatAskedForIt) {
   std::vector<bool> seen;
   form2.Command5.Click.Bind([&](int) { seen.push_back(SavesForAnswer(program)); });
@@ -251,7 +277,7 @@ TEST_F(DecisionPanel, ASaveBelongsToTheAnswerThatAskedForIt) {
   form2.Command5.Click();
   form2.Command8.Click();
   form2.Command5.Click();
-  form2.Picture20.Visible = false;
+  DropQuestion(program);
   form2.Command5.Click();
   EXPECT_EQ(seen, (std::vector<bool>{false, false, true, true, false, false, true, true, false}));
 }

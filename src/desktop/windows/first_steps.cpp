@@ -1,6 +1,7 @@
 #include "desktop/windows/first_steps.h"
 
 #include "machine/painting/fonts.h"
+#include "workspace/decision_panel/decision_panel.h"
 
 #include <QFontMetrics>
 #include <QStringList>
@@ -35,7 +36,7 @@ constexpr std::array<Step, 3> kSteps = {{
 
 bool AwaitsFirstPlan(const Program& program) {
   return program.workspace.ModeWord == mode::kBasing && !program.workspace.LoadedMachine.empty() &&
-         !program.form2.Text6.Visible && !program.form2.Picture20.Visible;
+         !program.form2.Text6.Visible && !QuestionStands(program);
 }
 
 void PaintFirstSteps(QPainter& painter, double zoom, bool inJapanese) {

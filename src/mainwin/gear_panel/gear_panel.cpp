@@ -83,6 +83,7 @@ void Restore(Program& program) {
     if (restored) DropQuestion(program);
     return;
   }
+  // The reader's word stands where a line was refused.
   StayUnder(program, caller::kUser);
   workspace.DataChanged = dataChanged;
   workspace.RemarkChanged = remarkChanged;

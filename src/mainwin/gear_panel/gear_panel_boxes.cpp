@@ -169,7 +169,7 @@ void Text6_Change(Program& program) {
   if (workspace.CallerWord == caller::kModule1 || workspace.RemarkChanged == dirty::kYes) return;
   workspace.DataChanged = dirty::kYes;
   workspace.RemarkChanged = dirty::kYes;
-  EnableAll({&program.form2.Command7, &program.form2.f_rest});
+  EnableRestore(program, true);
   MarkTitle(program);
 }
 

@@ -5,6 +5,7 @@
 #include "runtime/fault.h"
 #include "view/bind.h"
 #include "workspace/control_states.h"
+#include "workspace/mode.h"
 
 namespace veldrin {
 
@@ -33,16 +34,6 @@ void Picture28_MouseUp(Program& program, int button) {
 
 void Picture9_DblClick(Program& program) {
   program.form2.Picture9.Visible = false;
-}
-
-// ---- Plan or requests ----
-
-/// While the decision panel has put another word in the place of the mode, the legend still tells it.
-bool ShowsRequests(const Program& program) {
-  const std::string& word = program.workspace.ModeWord;
-  if (word == mode::kSpeed || word == mode::kRpm || word == mode::kReferenceInForce) return true;
-  if (word == mode::kBasing || word == mode::kChange) return false;
-  return program.form2.Label43.Caption == kRequestsShown;
 }
 
 template <class Speeds>

@@ -78,7 +78,7 @@ void MakeFirstPlan(Program& program) {
 // ---- B: from "CHANGE" to "SPEED" ----
 
 /// A gear without a request starts from its baseline.
-void ShowRequests(Program& program) {
+void ShowSpeedRequests(Program& program) {
   Workspace& workspace = program.workspace;
   for (int gear = 1; gear <= kGears; ++gear) {
     float& request = workspace.SpeedRequest[gear];
@@ -97,7 +97,7 @@ void OpenRequests(Program& program) {
   EnableOutput(program, false);
   ShowAll({&form2.Command10, &form2.Command1[0]});
   DisableAll({&form2.HScroll1, &form2.HScroll2});
-  ShowRequests(program);
+  ShowSpeedRequests(program);
   ChartRequest(program);
   form2.Label38.Visible = true;
   form2.Command11.Enabled = false;

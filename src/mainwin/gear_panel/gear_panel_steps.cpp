@@ -1,5 +1,6 @@
 #include "mainwin/gear_panel/gear_panel_steps.h"
 
+#include "mainwin/combination.h"
 #include "mainwin/gear_panel/gear_panel_chart.h"
 #include "mainwin/refresh_display.h"
 #include "model/list_tables.h"
@@ -88,7 +89,7 @@ void Row_Change(Program& program) {
 void Label12_Change(Program& program, int) {
   if (program.workspace.CallerWord == caller::kModule1) return;
   RefreshPlan(program);
-  if (!program.form2.Picture9.Visible) return;
+  if (!ShowsParts(program.form2)) return;
   Under(program, caller::kCombination, [&] { program.form2.menu_comb.Click(); });
 }
 

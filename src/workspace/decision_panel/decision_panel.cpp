@@ -5,6 +5,7 @@
 #include "workspace/decision_panel/decision_panel_answers.h"
 #include "workspace/decision_panel/decision_panel_held.h"
 #include "workspace/language.h"
+#include "workspace/mode.h"
 
 #include <algorithm>
 #include <iterator>
@@ -97,6 +98,7 @@ void AskQuestion(Program& program, Question question, PanelTexts texts) {
   DecisionPanelState& panel = program.decisionPanel;
   const QuestionRow& row = *RowOf(question);
   TakeBack(program);
+  panel.modeBefore = ModeOnShow(program);
   // Of two loads the later one counts; one whose chooser was overtaken leads nowhere any more.
   if (question == Question::LoadWithChanges) panel.load.reset();
   // The close query has started the flashing for its own question.
@@ -107,7 +109,6 @@ void AskQuestion(Program& program, Question question, PanelTexts texts) {
   Hold(panel, row.disabled(form2));
   if (!row.shownFirst) ShowPanel(program);
   panel.unanswered = question;
-  panel.modeBefore = program.workspace.ModeWord;
   SetFocus(form2.Command9);
 }
 
@@ -126,10 +127,14 @@ void DropQuestion(Program& program) {
   HidePanel(program);
 }
 
+bool QuestionStands(const Program& program) {
+  return program.decisionPanel.unanswered != Question::None || program.decisionPanel.saving;
+}
+
 bool SavesForAnswer(const Program& program) {
-  const bool quitStands =
-      program.form2.Picture20.Visible && QuestionOnPanel(program) == Question::QuitWithChanges;
-  return program.decisionPanel.saving || (quitStands && program.workspace.PendingAction == pending::kEnding);
+  const DecisionPanelState& panel = program.decisionPanel;
+  const bool quitStands = panel.unanswered == Question::QuitWithChanges;
+  return panel.saving || (quitStands && program.workspace.PendingAction == pending::kEnding);
 }
 
 void ReturnToMode(Program& program, const char* mode) {

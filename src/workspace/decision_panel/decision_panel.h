@@ -38,6 +38,9 @@ Question QuestionOnPanel(const Program& program);
 /// Ends the question that waits, unanswered: what it asked about is gone. Without one nothing happens.
 void DropQuestion(Program& program);
 
+/// Whether the panel is on show: a question waits, or its answer saves first.
+bool QuestionStands(const Program& program);
+
 /// Whether a save that begins now belongs to an answer, whose word says what follows it.
 bool SavesForAnswer(const Program& program);
 

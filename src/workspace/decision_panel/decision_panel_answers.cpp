@@ -3,16 +3,16 @@
 #include "workspace/control_states.h"
 #include "workspace/decision_panel/decision_panel.h"
 #include "workspace/decision_panel/decision_panel_held.h"
+#include "workspace/mode.h"
 
 namespace veldrin {
 
 // ---- A file's speeds differ ----
 
 void EndSpeedsDiffer(Program& program) {
-  HidePanel(program);
+  CloseQuestion(program);
   // What a search without a plan will need.
   SetQuestionTexts(program, Question::NoPlanFound);
-  TakeAnswer(program);
 }
 
 /// The file's speeds become requests for a new search. A request entry that is open already stays open.
@@ -28,17 +28,15 @@ void RecalculateBySpeed(Program& program) {
 
 void RecalculateByFullAuto(Program& program) {
   Form2& form2 = program.form2;
-  TakeAnswer(program);
-  HidePanel(program);
+  CloseQuestion(program);
   form2.Command1[0].Click();
   form2.Command6.Click();
 }
 
 void EnterRequestsAgain(Program& program) {
   Form2& form2 = program.form2;
-  TakeAnswer(program);
   EnableWaysOut(form2);
-  HideAll({&form2.Picture20, &form2.Picture12});
+  CloseQuestion(program);
   ShowRequestEntry(form2);
 }
 
@@ -95,8 +93,7 @@ void SaveAndReopen(Program& program) {
 void LoadWithoutSaving(Program& program) {
   program.hooks.GivenUp();
   program.workspace.DataChanged = dirty::kNo;
-  HidePanel(program);
-  TakeAnswer(program);
+  CloseQuestion(program);
   if (program.decisionPanel.load) program.decisionPanel.load->discards = true;
   program.workspace.PendingAction = pending::kChangeLoad;
   OpenChooserFor(program, program.workspace.ModeWord);
@@ -112,8 +109,7 @@ void ReopenWithoutSaving(Program& program) {
     program.hooks.GivenUp();
     workspace.DataChanged = dirty::kNo;
   }
-  HidePanel(program);
-  TakeAnswer(program);
+  CloseQuestion(program);
   if (!there) return;
   program.form2.menu_files[index].Click();
   // What was read has left another word than this.

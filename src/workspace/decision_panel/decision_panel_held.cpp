@@ -1,6 +1,7 @@
 #include "workspace/decision_panel/decision_panel_held.h"
 
 #include "workspace/control_states.h"
+#include "workspace/mode.h"
 
 #include <utility>
 
@@ -35,6 +36,11 @@ void TakeAnswer(Program& program) {
   EnableAgain(program);
 }
 
+void CloseQuestion(Program& program) {
+  HidePanel(program);
+  TakeAnswer(program);
+}
+
 void TakeBack(Program& program) {
   DecisionPanelState& panel = program.decisionPanel;
   Form2& form2 = program.form2;
@@ -44,7 +50,6 @@ void TakeBack(Program& program) {
     program.workspace.ModeWord = panel.modeBefore;
   } else if (question == Question::NoPlanFound) {
     EnableWaysOut(form2);
-    form2.Picture12.Visible = false;
     ShowRequestEntry(form2);
   }
 }
@@ -53,21 +58,13 @@ void HidePanel(Program& program) {
   program.form2.Picture20.Visible = false;
 }
 
-bool EntersRequests(const Workspace& workspace) {
-  return workspace.ModeWord == mode::kSpeed || workspace.ModeWord == mode::kRpm;
-}
-
-bool AwaitsLoad(const Workspace& workspace) {
-  const std::string& word = workspace.ModeWord;
-  return word == mode::kList || word == mode::kData || word == mode::kQuickRatio || word == mode::kReference;
-}
-
 void EnableWaysOut(Form2& form2) {
   EnableAll({&form2.Command2, &form2.Command3, &form2.Command4, &form2.Command8, &form2.menu_file,
              &form2.menu_f, &form2.menu_opt});
 }
 
 void ShowRequestEntry(Form2& form2) {
+  form2.Picture12.Visible = false;
   ShowAll({&form2.Picture4, &form2.Picture3, &form2.Picture2});
 }
 

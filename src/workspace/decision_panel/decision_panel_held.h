@@ -13,8 +13,11 @@ using Controls = std::vector<Control*>;
 void Hold(DecisionPanelState& panel, const Controls& controls);
 
 /// The question has its answer: controls come back, and the load that follows keeps the mode to come back to.
-/// The mode's word still names the chooser that may follow.
+/// The mode's word still names the chooser that may follow. The panel stays, for an answer that saves first.
 void TakeAnswer(Program& program);
+
+/// The panel goes and the question with it, as it has its answer.
+void CloseQuestion(Program& program);
 
 /// The question that waits ends without an answer: controls and mode come back, after a failed search the
 /// request entry. Without one nothing happens.
@@ -22,15 +25,10 @@ void TakeBack(Program& program);
 
 void HidePanel(Program& program);
 
-/// Whether requests are being entered, where the plan's own controls are out of use.
-bool EntersRequests(const Workspace& workspace);
-
-/// Whether the mode's word is that of a load that was asked for.
-bool AwaitsLoad(const Workspace& workspace);
-
 /// The ways out of the request entry that a search has closed.
 void EnableWaysOut(Form2& form2);
 
+/// The request entry in the place of the plan's panel, as it stood before the search.
 void ShowRequestEntry(Form2& form2);
 
 }  // namespace veldrin

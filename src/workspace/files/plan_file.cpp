@@ -10,6 +10,7 @@
 #include "workspace/control_states.h"
 #include "workspace/decision_panel/decision_panel.h"
 #include "workspace/files/plan_lines.h"
+#include "workspace/mode.h"
 #include "workspace/title.h"
 
 namespace veldrin {
@@ -210,10 +211,6 @@ void ReadOrShowHowFar(Program& program, Read read) {
 }
 
 }  // namespace
-
-bool HasPlanOnShow(const Workspace& workspace) {
-  return !workspace.ModeWord.empty() && workspace.ModeWord != mode::kBasing;
-}
 
 void ReadPlanFile(Program& program) {
   DropQuestion(program);  // its plan gives way

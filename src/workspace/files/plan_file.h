@@ -21,9 +21,6 @@
 
 namespace veldrin {
 
-/// Whether there is a plan, or the speeds of a reference in its place, whatever is being done with it.
-bool HasPlanOnShow(const Workspace& workspace);
-
 /// Reads the plan that stands open on the reader handle, line 1 consumed, shows it, closes the handle and
 /// writes the working file. `ResultWord` becomes "OK", or "DIFF" when a stored speed lies further from the
 /// computed one than "+-0" allows: the decision panel then asks, and what could edit the plan is disabled.
