@@ -22,6 +22,8 @@ function Room(path) {
 function Fault(text) { print text; faults++ }
 function MayUse(room, other) { return index(use[room], " " other " ") }
 BEGIN {
+  # Whatever its indentation, a friend too, and an enumeration with its width.
+  forward = "^[ \t]*(friend )?(struct|class|enum class) [A-Za-z0-9_]+( *: *[A-Za-z0-9_:]+)? *;"
   # Rooms below stand earlier in the table, so what they use is known.
   rows = split(table, row, " ")
   for (r = 1; r <= rows; r++) {
@@ -44,7 +46,7 @@ END {
 function FindTypes(path,    line, name) {
   if (path !~ /\.h$/) return
   while ((getline line < path) > 0) {
-    if (line !~ /^(struct|class|enum class) [A-Za-z0-9_]+/ || line ~ /;[ \t\r]*$/) continue
+    if (line !~ /^(struct|class|enum class) [A-Za-z0-9_]+/ || line ~ forward) continue
     name = line
     sub(/^(struct|class|enum class) /, "", name)
     sub(/[^A-Za-z0-9_].*$/, "", name)
@@ -61,10 +63,10 @@ function Read(path,    line, number, place, quoted, name, own, first, folder) {
     number++
     sub(/\r$/, "", line)
     place = "src/" path ":" number ": " line
-    if (line ~ /^(struct|class|enum class) [A-Za-z0-9_]+;/) {
+    if (line ~ forward) {
       name = line
-      sub(/^(struct|class|enum class) /, "", name)
-      sub(/;.*$/, "", name)
+      sub(/^[ \t]*(friend )?(struct|class|enum class) /, "", name)
+      sub(/[ :;].*$/, "", name)
       if (name in home && !MayUse(folder, home[name])) Fault(place "   (stands in " home[name] ", which " folder " may not use)")
     }
     if (line !~ /^[ \t]*#[ \t]*include[ \t]*["<]/) continue
