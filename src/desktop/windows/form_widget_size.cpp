@@ -59,10 +59,8 @@ int FormWidget::MenuHeight() const {
 
 /// The area inside of an outer size in twips.
 QSize FormWidget::InsidePixels(const TwipExtent& outer) const {
-  const float frameWidth = window_->Width - window_->InnerWidth();
-  const float frameHeight = window_->Height - window_->InnerHeight();
-  return {InnerPixels(outer.width - static_cast<double>(frameWidth), stage_->zoom),
-          InnerPixels(outer.height - static_cast<double>(frameHeight), stage_->zoom)};
+  return {InnerPixels(outer.width - static_cast<double>(window_->FrameWidth()), stage_->zoom),
+          InnerPixels(outer.height - static_cast<double>(window_->FrameHeight()), stage_->zoom)};
 }
 
 /// Logical pixels that a frame may lose where they are no whole number of the screen's.

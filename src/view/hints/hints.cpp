@@ -3,7 +3,10 @@
 #include "view/hints/hint_table.h"
 
 #include <array>
+#include <map>
+#include <string>
 #include <string_view>
+#include <tuple>
 
 namespace veldrin {
 
@@ -21,7 +24,7 @@ constexpr FormTable kTables[] = {
     {"Form10", HintsOfForm10},
 };
 
-const HintRow* FindRow(const Control& control) {
+const HintRow* LookUpRow(const Control& control) {
   for (const FormTable& table : kTables) {
     if (control.window.name != table.form) continue;
     for (const HintRow& row : table.rows()) {
@@ -29,6 +32,14 @@ const HintRow* FindRow(const Control& control) {
     }
   }
   return nullptr;
+}
+
+const HintRow* FindRow(const Control& control) {
+  static std::map<std::tuple<std::string, std::string, int>, const HintRow*> known;
+  // A window asks for all its controls whenever it settles, and the tables never change.
+  const auto [place, isNew] = known.try_emplace({control.window.name, control.name, control.index});
+  if (isNew) place->second = LookUpRow(control);
+  return place->second;
 }
 
 void Replace(std::string& text, std::string_view mark, const std::string& word) {
