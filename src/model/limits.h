@@ -38,6 +38,9 @@ inline constexpr Limits kMaxSpeedLimits{100, 340};       // km/h
 inline constexpr Limits kToleranceLimits{1, 21};         // km/h
 inline constexpr Limits kMinPlanLimits{1, kPlanLimit};
 inline constexpr int kLowestRequest = 10;  // km/h
+/// Of a point that a tyre is measured by: an engine also runs below what the conditions take, never above.
+inline constexpr Limits kMeasuredSpeedLimits{1, 1000};                      // km/h
+inline constexpr Limits kMeasuredNeLimits{500, kRevolutionLimits.highest};  // rev/min
 
 /// A running condition that lists and settings give.
 struct Condition {
@@ -58,12 +61,13 @@ inline constexpr Condition kConditions[] = {
 };
 // clang-format on
 
-// ---- The running conditions of a new installation ----
+// ---- The running conditions and the history of a new installation ----
 
 inline constexpr float kDefaultTyreLength = 1.9F;       // metres
 inline constexpr std::int16_t kDefaultShiftNe = 13000;  // rev/min
 inline constexpr std::int16_t kDefaultCheckNe = 10000;  // rev/min
 inline constexpr std::int16_t kDefaultMaxNe = 15000;    // rev/min
 inline constexpr std::int16_t kDefaultMaxSpeed = 340;   // km/h
+inline constexpr std::int16_t kDefaultHistoryMax = 6;   // files used last
 
 }  // namespace veldrin

@@ -216,7 +216,7 @@ void ReadSettings(Program& program) {
   workspace.ListFile = StoredText(program, kListFileValue, "NX4.RAT");
   workspace.ListPath = StoredText(program, kListPathValue, JoinPath(rules, workspace.AppPath, "LIST"));
   workspace.DataPath = StoredText(program, kDataPathValue, JoinPath(rules, workspace.AppPath, "DAT"));
-  workspace.HistoryMax = StoredInt16(program, kHistoryMaxValue, 6);
+  workspace.HistoryMax = StoredInt16(program, kHistoryMaxValue, kDefaultHistoryMax);
   workspace.MinPlan = StoredInt16(program, kMinPlanValue, 1);
   workspace.QuickQuit = StoredText(program, kQuickQuitValue, kNoWord);
   workspace.Language = StoredText(program, kLanguageValue, kJapanese);

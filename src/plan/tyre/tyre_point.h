@@ -1,14 +1,9 @@
 // A measured point: how fast the machine ran at which revolutions in which gear.
 #pragma once
 
-#include "model/limits.h"
-
 #include <string>
 
 namespace veldrin {
-
-inline constexpr Limits kMeasuredSpeedLimits{1, 1000};  // km/h
-inline constexpr Limits kMeasuredNeLimits{500, 24000};  // rev/min
 
 struct TyrePoint {
   double speed = 0;   // km/h, above 0
