@@ -3,6 +3,7 @@
 #include "dialogs/settings_validation.h"
 #include "mainwin/main_window.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/told_numbers.h"
 
 #include <gtest/gtest.h>
 
@@ -202,6 +203,14 @@ TEST_F(SettingsDialog, ChecksTellTextsApart) {
     Validate(program);
     EXPECT_EQ(program.settingsDialog.ValidationResult, c.result) << c.box << " " << c.text;
     EXPECT_EQ(form7.Text1[c.box].Text.get(), c.left) << c.box << " " << c.text;
+  }
+}
+
+TEST_F(SettingsDialog, LabelsTellTheRangesThatTheChecksHoldTo) {
+  int box = 0;
+  for (const Condition& condition : kConditions) {
+    const std::string label = program.form7->Label15[box++].Caption;
+    EXPECT_EQ(NumbersIn(label), EndsOf(condition.limits)) << label;
   }
 }
 
