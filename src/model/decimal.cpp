@@ -24,4 +24,8 @@ std::int16_t SystemInt16(const Workspace& workspace, const std::string& text) {
   return ParseInt16(text, DecimalSeparator(workspace));
 }
 
+std::int32_t SystemInt32(const Workspace& workspace, const std::string& text) {
+  return ParseInt32(text, DecimalSeparator(workspace));
+}
+
 }  // namespace veldrin

@@ -23,4 +23,7 @@ double SystemNumber(const Workspace& workspace, const std::string& text);
 /// The same in 16 bits, half to even. Raises faults 13 and 6.
 std::int16_t SystemInt16(const Workspace& workspace, const std::string& text);
 
+/// The same in 32 bits, as the store keeps colours. Raises faults 13 and 6.
+std::int32_t SystemInt32(const Workspace& workspace, const std::string& text);
+
 }  // namespace veldrin

@@ -3,7 +3,6 @@
 #include "model/decimal.h"
 #include "model/setting_names.h"
 #include "platform/paths.h"
-#include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
 #include "workspace/stored_values.h"
@@ -81,7 +80,7 @@ std::optional<std::string> Accepted(const Workspace& workspace, Rule rule, const
   if (rule == Rule::UpperCased) return UpperCase(text);
   const int fault = Guarded([&] {
     if (rule == Rule::Int16) SystemInt16(workspace, text);
-    if (rule == Rule::Int32) ParseInt32(text, DecimalSeparator(workspace));
+    if (rule == Rule::Int32) SystemInt32(workspace, text);
   });
   if (fault != 0) return std::nullopt;
   return text;

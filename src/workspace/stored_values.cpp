@@ -2,7 +2,6 @@
 
 #include "model/decimal.h"
 #include "model/setting_names.h"
-#include "runtime/conversion.h"
 #include "runtime/fault.h"
 #include "workspace/settings.h"
 
@@ -40,7 +39,7 @@ float StoredSingle(const Program& program, const std::string& value, float whenZ
 Colour StoredColour(const Program& program, const std::string& value, Colour whenZero) {
   const std::string text = Stored(program, value);
   if (text.empty()) return whenZero;
-  const std::int32_t number = ParseInt32(text, DecimalSeparator(program.workspace));
+  const std::int32_t number = SystemInt32(program.workspace, text);
   return number == 0 ? whenZero : Colour{static_cast<std::uint32_t>(number)};
 }
 
