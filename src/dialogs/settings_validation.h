@@ -14,8 +14,10 @@ inline constexpr char kInvalid[] = "NG";
 /// Checks language, characters and ranges of the loaded settings window, in this order, and sets
 /// `ValidationResult`. The first failure ends the checks: its box is emptied, or holds one blank after a
 /// character that is none of a number. Raises nothing.
-/// Kept: a number is looked for at the front of a whole number's box only, and ends at anything but a point.
-/// So "6000-1" passes, and where the decimal separator is a comma "24000,9", which is then written as 24001.
+/// Kept: a whole number's box is read by two rules. The check looks for a number at the front only, where
+/// anything but a point ends it; StoredNumber takes the whole text in the system's spelling. So "6000-1"
+/// passes and is a fault when it is to be stored, and where the decimal separator is a comma "24000,9" passes
+/// and is stored as 24001. By one rule the first would be refused in the window, and so would the second.
 void Validate(Program& program);
 
 /// The number in box `box` of `Text1` as it is stored: read in its width, 32 bits of float for the tyre
