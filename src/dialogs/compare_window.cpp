@@ -1,5 +1,6 @@
 #include "dialogs/compare_window.h"
 
+#include "dialogs/japanese_captions.h"
 #include "mainwin/chart.h"
 #include "model/decimal.h"
 #include "model/gear_pairs.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr float kOuterWidth = 7690;  // twips
 constexpr float kOuterHeight = 7300;
-constexpr char kJapaneseFont[] = "ＭＳ ゴシック";
 constexpr int kLastSlot = kCompareSlots - 1;
 constexpr int kPatternCharacters = 3;  // of the machine's key in the name box
 
@@ -68,14 +68,6 @@ void ShowSlot(Program& program) {
 
 // ---- Opening and closing ----
 
-void SetJapaneseTexts(Form5& form5) {
-  form5.Caption = "ファイル比較";
-  form5.Label10.FontName = kJapaneseFont;
-  form5.Label10.Caption = "選択";
-  form5.Command1.FontName = kJapaneseFont;
-  form5.Command1.Caption = "追加";
-}
-
 void PlaceWindow(Program& program) {
   Form5& form5 = *program.form5;
   form5.Centre(kOuterWidth, kOuterHeight);
@@ -116,7 +108,7 @@ void FillFromWorkspace(Program& program, CompareSlotRecord& slot) {
 void Form5_Load(Program& program) {
   const Workspace& workspace = program.workspace;
   Form5& form5 = *program.form5;
-  if (workspace.Language == kJapanese && workspace.IsJapanese == 1) SetJapaneseTexts(form5);
+  TakeJapaneseCaptions(workspace, form5);
   PlaceWindow(program);
   SetScales(program);
   for (int gear = 1; gear <= kGears; ++gear) {

@@ -3,6 +3,7 @@
 #include "calc/gear_speed.h"
 #include "calc/plan_rows.h"
 #include "calc/plan_search.h"
+#include "dialogs/japanese_captions.h"
 #include "mainwin/chart.h"
 #include "mainwin/gear_panel/gear_panel_chart.h"
 #include "mainwin/refresh_display.h"
@@ -116,11 +117,7 @@ void Form4_Load(Program& program) {
   const Workspace& workspace = program.workspace;
   Form4& form4 = *program.form4;
   program.planDialog = {};
-  if (workspace.Language == kJapanese && workspace.IsJapanese == 1) {
-    form4.Caption = "選出されたミッションプラン";
-    form4.Label3.FontName = "ＭＳ ゴシック";
-    form4.Label3.Caption = "選択";
-  }
+  TakeJapaneseCaptions(workspace, form4);
   SetScale(program);
   for (int gear = 1; gear <= kGears; ++gear) {
     form4.Label17[gear].ForeColor = workspace.GearColour[gear];

@@ -50,7 +50,10 @@ enum class Align { Left, Right, Centre };
 /// What the description of a window says of a control beside its place.
 struct Look {
   const char* caption = "";  // the text of a box
-  const char* english = "";  // the caption that takes its place in English, where it is in Japanese
+  // The caption that takes its place in the other language: in English where it is in Japanese, and in
+  // Japanese where it is in English.
+  const char* english = "";
+  const char* japanese = "";
   Colour fore = kBlack;
   Colour back = kLightGrey;
   float fontSize = 9;

@@ -3,7 +3,9 @@
 namespace veldrin {
 
 Form4::Form4(Desk& theDesk)
-    : Window(theDesk, "Form4", {0, 0, 7140, 6540}, {.caption = "Selected Mission Plan", .back = kDarkBlue}) {
+    : Window(
+          theDesk, "Form4", {0, 0, 7140, 6540},
+          {.caption = "Selected Mission Plan", .japanese = "選出されたミッションプラン", .back = kDarkBlue}) {
   for (int gear = 1; gear <= 6; ++gear) {
     Label17[gear].ForeColor.Design(DesignedGearColour(gear));
     Label24[gear].ForeColor.Design(DesignedGearColour(gear));

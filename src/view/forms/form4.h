@@ -1,5 +1,5 @@
 // The plan dialog: the position among the plans found, the plan's figures in columns by gear, and its small
-// chart.
+// chart. Captions are designed in English; those that show in Japanese as well stand beside them.
 #pragma once
 
 #include "view/forms/chart_axes.h"
@@ -11,7 +11,7 @@ struct Form4 : Window {
   ~Form4();
 
   // clang-format off
-  Label      Label3 {"Label3",  *this, {  60,   60,  960, 240}, {.caption = "Select", .fore = kLightGrey, .back = kDarkBlue}};
+  Label      Label3 {"Label3",  *this, {  60,   60,  960, 240}, {.caption = "Select", .japanese = "選択", .fore = kLightGrey, .back = kDarkBlue}};
   SpinButton Spin1  {"Spin1",   *this, {  60,  315,  855, 375}};
   Label      Label6 {"Label6",  *this, {1080,  375, 1305, 270}, {.align = Align::Centre}};
   Label      Label4 {"Label4",  *this, {  60,  870,  960, 270}, {.caption = "Primary", .fore = kLightGrey, .back = kDarkBlue}};

@@ -3,7 +3,8 @@
 namespace veldrin {
 
 Form5::Form5(Desk& theDesk)
-    : Window(theDesk, "Form5", {0, 0, 7690, 7300}, {.caption = "File Compare", .back = kDarkBlue}) {
+    : Window(theDesk, "Form5", {0, 0, 7690, 7300},
+             {.caption = "File Compare", .japanese = "ファイル比較", .back = kDarkBlue}) {
   for (int gear = 1; gear <= 6; ++gear) {
     Label3[gear].ForeColor.Design(DesignedGearColour(gear));
     Label9[gear].ForeColor.Design(DesignedGearColour(gear));

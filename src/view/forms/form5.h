@@ -1,5 +1,6 @@
 // File Compare: up to three plans on one place, each with a chart of its own, and the picker of plan files
-// that lies over them all.
+// that lies over them all. Captions are designed in English; those that show in Japanese as well stand beside
+// them.
 #pragma once
 
 #include "view/forms/chart_axes.h"
@@ -12,13 +13,13 @@ struct Form5 : Window {
   ~Form5();
 
   // clang-format off
-  Label      Label10 {"Label10",  *this, { 120,    0,  855, 240}, {.caption = "SELECT",   .fore = kLightGrey, .back = kDarkBlue}};
+  Label      Label10 {"Label10",  *this, { 120,    0,  855, 240}, {.caption = "SELECT", .japanese = "選択", .fore = kLightGrey, .back = kDarkBlue}};
   SpinButton Spin1   {"Spin1",    *this, { 120,  240,  855, 375}};
   Label      Label13 {"Label13",  *this, {1080,    0, 1965, 225}, {.caption = "Filename", .fore = kLightGrey, .back = kDarkBlue}};
   Label      Label2  {"Label2",   *this, {1050,  225, 1995, 345}, {.border = true}};
   Label      Label14 {"Label14",  *this, {3450,    0, 3975, 225}, {.caption = "Title",    .fore = kLightGrey, .back = kDarkBlue}};
   Label      Label1  {"Label1",   *this, {3450,  225, 3975, 345}, {.border = true}};
-  Button     Command1{"Command1", *this, { 150, 1350, 1515, 375}, {.caption = "Append"}};
+  Button     Command1{"Command1", *this, { 150, 1350, 1515, 375}, {.caption = "Append", .japanese = "追加"}};
   Button     Command2{"Command2", *this, {1875, 1350,  975, 375}, {.caption = "Exit"}};
 
   Picture    Picture13{"Picture13", *this,     { 120, 1920, 2835, 1455}, {.back = kDarkBlue}};
