@@ -2,25 +2,37 @@
 
 namespace veldrin {
 
+namespace {
+
+constexpr int kUnit = 4;  // subscript of the unit among the numerals
+
+std::unique_ptr<Line> DesignedTickAcross(const char* name, Control& panel, int thousands) {
+  const float x = TickAcross(thousands, kDesignThousandNe);
+  return std::make_unique<Line>(name, panel, x, 5520.0F, x, 5640.0F);
+}
+
+std::unique_ptr<Line> DesignedTickUp(const char* name, Control& panel, int twenties) {
+  const float y = TickUp(twenties, kDesignTwentyKmh);
+  return std::make_unique<Line>(name, panel, 360.0F, y, 480.0F, y);
+}
+
+Place DesignedNumeral(int index, float unitWidth) {
+  if (index == kUnit) return {3480, 5805, unitWidth, 195};
+  return {NumeralLeft(index, kDesignThousandNe), 5640, 240, 195};
+}
+
+}  // namespace
+
 ControlArray<Line>::Maker TicksAcross(const char* name, Control& panel) {
-  return [name, &panel](int thousands) {
-    const float x = TickAcross(thousands, kDesignThousandNe);
-    return std::make_unique<Line>(name, panel, x, 5520.0F, x, 5640.0F);
-  };
+  return [name, &panel](int thousands) { return DesignedTickAcross(name, panel, thousands); };
 }
 
 ControlArray<Line>::Maker TicksUp(const char* name, Control& panel) {
-  return [name, &panel](int twenties) {
-    const float y = TickUp(twenties, kDesignTwentyKmh);
-    return std::make_unique<Line>(name, panel, 360.0F, y, 480.0F, y);
-  };
+  return [name, &panel](int twenties) { return DesignedTickUp(name, panel, twenties); };
 }
 
 std::function<Place(int)> NumeralsAcross(float unitWidth) {
-  return [unitWidth](int index) {
-    if (index == 4) return Place{3480, 5805, unitWidth, 195};
-    return Place{NumeralLeft(index, kDesignThousandNe), 5640, 240, 195};
-  };
+  return [unitWidth](int index) { return DesignedNumeral(index, unitWidth); };
 }
 
 std::vector<const char*> NumeralTexts() {

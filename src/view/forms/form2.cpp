@@ -23,6 +23,12 @@ void DrawPrinter(Surface& surface) {
   surface.changed = changed;
 }
 
+/// The caption of a subscript; entries beyond the list have none.
+const char* CaptionOf(const std::vector<const char*>& captions, int index) {
+  const auto place = static_cast<std::size_t>(index);
+  return place < captions.size() ? captions[place] : "";
+}
+
 }  // namespace
 
 ControlArray<Label>::Maker Form2::Column(const char* name, Control& parent, float left, float width,
@@ -40,8 +46,7 @@ ControlArray<Grid>::Maker Form2::InPanels(const char* name, ControlArray<Picture
 ControlArray<Menu>::Maker Form2::Entries(const char* name, Menu& parent,
                                          const std::vector<const char*>& captions, const Look& look) {
   return [=, &parent](int index) {
-    const auto place = static_cast<std::size_t>(index);
-    return std::make_unique<Menu>(name, parent, place < captions.size() ? captions[place] : "", "", look);
+    return std::make_unique<Menu>(name, parent, CaptionOf(captions, index), "", look);
   };
 }
 

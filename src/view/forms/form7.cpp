@@ -13,13 +13,16 @@ ControlArray<Label>::Maker Form7::Pair(const char* arrayName, const Place& capti
   return Split(captions, 1, Elements<Label>(arrayName, *this, At(secondPlace), second));
 }
 
+std::unique_ptr<ComboBox> Form7::MakeList(const char* arrayName, const std::vector<Choice>& choices,
+                                          int index) {
+  const auto is = [index](const Choice& choice) { return choice.index == index; };
+  const Choice& choice = *std::find_if(choices.begin(), choices.end(), is);
+  return std::make_unique<ComboBox>(arrayName, *this, choice.place, Look{.back = kWhite}, choice.entries,
+                                    choice.canEdit);
+}
+
 ControlArray<ComboBox>::Maker Form7::Choices(const char* arrayName, const std::vector<Choice>& choices) {
-  return [=, this](int index) {
-    const auto is = [index](const Choice& choice) { return choice.index == index; };
-    const Choice& choice = *std::find_if(choices.begin(), choices.end(), is);
-    return std::make_unique<ComboBox>(arrayName, *this, choice.place, Look{.back = kWhite}, choice.entries,
-                                      choice.canEdit);
-  };
+  return [=, this](int index) { return MakeList(arrayName, choices, index); };
 }
 
 Form7::~Form7() = default;

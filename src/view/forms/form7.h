@@ -57,6 +57,8 @@ struct Form7 : Window {
     std::vector<std::string> entries;
     bool canEdit;
   };
+  /// The list that is the choice `index`, which is among the choices.
+  std::unique_ptr<ComboBox> MakeList(const char* arrayName, const std::vector<Choice>& choices, int index);
   ControlArray<ComboBox>::Maker Choices(const char* arrayName, const std::vector<Choice>& choices);
 };
 
