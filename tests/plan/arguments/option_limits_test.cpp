@@ -1,5 +1,6 @@
 // The numbers in the help's texts against the limits and defaults that the options are read by.
 #include "plan/arguments/option_table.h"
+#include "tests/plan/planner_fixture.h"
 #include "tests/told_numbers.h"
 
 #include <gtest/gtest.h>
@@ -56,6 +57,27 @@ TEST(OptionLimits, HelpTellsTheRangesByWhichNumbersAreRefused) {
     EXPECT_EQ(told, RangeIn(mistake)) << option.name << ": " << mistake;
   }
   EXPECT_EQ(ranges, 6) << "--min-plan, --best, --within, --shift-ne, --tyre and --check-ne";
+}
+
+/// What the manual says below the option's line, up to the next entry.
+std::string ManualOf(const std::string& name) {
+  std::ifstream file(fs::path(VELDRIN_SHARE) / "../man/man1/veldrin-plan.1", std::ios::binary);
+  const std::string head = ".It Fl " + name.substr(1);
+  std::string text;
+  std::string line;
+  while (std::getline(file, line) && line != head && !line.starts_with(head + " ")) continue;
+  while (std::getline(file, line) && !line.starts_with(".It ") && line != ".El") text += line + "\n";
+  return text;
+}
+
+TEST(OptionLimits, ManualTellsTheNumbersOfTheHelp) {
+  int ranges = 0;
+  for (const Option& option : Options()) {
+    if (RangeIn(option.help).empty()) continue;
+    ++ranges;
+    EXPECT_EQ(NumbersIn(ManualOf(option.name)), NumbersIn(option.help)) << option.name;
+  }
+  EXPECT_GE(ranges, 8);
 }
 
 TEST(OptionLimits, HelpTellsHowManyPlansASearchHolds) {
