@@ -5,6 +5,7 @@
 #include "simulated/simulated_machine.h"
 #include "tests/desktop/sample_files.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "workspace/decision_panel/decision_panel.h"
 
 #include <gtest/gtest.h>
 
@@ -140,10 +141,10 @@ TEST_F(DroppedFileTest, NothingIsTakenWhileTheProgramAsksOrTheMenuOfFilesIsOff) 
   Drop("C:\\VELDRIN\\DAT\\A.nx4");
   ASSERT_TRUE(TakesDroppedFiles(*program));
   const std::string before = StateOf(*program);
-  program->form2.Picture20.Visible = true;
+  AskQuestion(*program, Question::QuitWithChanges);
   EXPECT_FALSE(TakesDroppedFiles(*program));
   Drop("C:\\VELDRIN\\LIST\\VT2.RAT");
-  program->form2.Picture20.Visible = false;
+  DropQuestion(*program);
   program->form2.menu_file.Enabled = false;
   EXPECT_FALSE(TakesDroppedFiles(*program));
   Drop("C:\\VELDRIN\\LIST\\VT2.RAT");

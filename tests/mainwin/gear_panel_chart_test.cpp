@@ -50,13 +50,18 @@ TEST_F(GearPanelChart, IsRedrawnAsTheRequestsWhileTheseAreEntered) {
 
 TEST_F(GearPanelChart, StaysAsItIsWhileALoadIsBeingDecidedOn) {
   for (const char* word : {mode::kList, mode::kData, mode::kQuickRatio, mode::kReference}) {
-    workspace.ModeWord = word;
-    program.form2.Label43.Caption = kRequestsShown;
-    RedrawChart(program);
-    EXPECT_EQ(FirstRay(), 40) << word;
-    program.form2.Label43.Caption = kPlanShown;
-    RedrawChart(program);
-    EXPECT_EQ(FirstRay(), 20) << word;
+    for (const char* before : {mode::kSpeed, mode::kRpm, mode::kChange}) {
+      const double ray = before == std::string(mode::kChange) ? 20 : 40;
+      workspace.ModeWord = word;
+      program.decisionPanel.modeBefore = before;
+      program.decisionPanel.load.reset();
+      RedrawChart(program);
+      EXPECT_EQ(FirstRay(), ray) << word << " asked for in " << before;
+      program.decisionPanel.modeBefore.clear();
+      program.decisionPanel.load = AnsweredLoad{before};
+      RedrawChart(program);
+      EXPECT_EQ(FirstRay(), ray) << word << " on its way in " << before;
+    }
   }
 }
 

@@ -5,6 +5,17 @@
 namespace veldrin {
 namespace {
 
+/// How often a widget has painted itself on the screen since.
+class PaintCount : public QObject {
+ public:
+  explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject* /*widget*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return false;
+  }
+  int count = 0;
+};
+
 class SpinWidgetTest : public WidgetsTest {
  protected:
   SpinWidget& Spin() { return WidgetOf<SpinWidget>(form->Spin1); }
@@ -42,6 +53,18 @@ TEST_F(SpinWidgetTest, TurnByTheKeyboardLeavesTheHeldArrow) {
   Wait(600);
   Mouse(Spin(), QEvent::MouseButtonRelease, Spin().ArrowRect(false).center());
   EXPECT_EQ(Count("Spin1.SpinUp"), 1);
+}
+
+TEST_F(SpinWidgetTest, ArrowIsPaintedAnewWhenItGoesDownAndWhenItComesUp) {
+  const QPoint arrow = Spin().ArrowRect(true).center();
+  QCoreApplication::processEvents();
+  PaintCount painted(Spin());
+  Mouse(Spin(), QEvent::MouseButtonPress, arrow);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(painted.count, 1);
+  Mouse(Spin(), QEvent::MouseButtonRelease, arrow);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(painted.count, 2);
 }
 
 TEST_F(SpinWidgetTest, PiecesOfATurnAddUp) {

@@ -2,6 +2,7 @@
 #include "dialogs/dropped_file.h"
 #include "program/event_boundary.h"
 #include "tests/desktop/main_window.h"
+#include "workspace/decision_panel/decision_panel.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -102,11 +103,11 @@ TEST_F(DropTest, TextBoxesTakeText) {
 }
 
 TEST_F(DropTest, NothingIsTakenWhileAQuestionStands) {
-  program->form2.Picture20.Visible = true;
+  AskQuestion(*program, Question::QuitWithChanges);
   EXPECT_FALSE(Enter(Widget().Client(), *file));
   EXPECT_FALSE(Enter(Remark(), *file));
   EXPECT_FALSE(Drop(*file));
-  program->form2.Picture20.Visible = false;
+  DropQuestion(*program);
   EXPECT_TRUE(Enter(Widget().Client(), *file));
 }
 
@@ -127,7 +128,7 @@ TEST_F(DropTest, NothingIsTakenInsideOfAnEvent) {
 TEST_F(DropTest, WhatWasDroppedBeforeAQuestionCameIsNotOpened) {
   ASSERT_TRUE(Enter(Widget().Client(), *file));
   ASSERT_TRUE(Drop(*file));
-  program->form2.Picture20.Visible = true;
+  AskQuestion(*program, Question::QuitWithChanges);
   QCoreApplication::processEvents();
   EXPECT_EQ(opened, Paths{});
 }
