@@ -171,6 +171,22 @@ TEST_F(KeptPlansTest, StartAgainNamesTheKeptPlan) {
   });
 }
 
+TEST_F(KeptPlansTest, FaultIsToldInJapaneseWhereTheProgramSpeaksIt) {
+  QStringList buttons;
+  When([] { return OpenBox() != nullptr; },
+       [&] {
+         EXPECT_TRUE(OpenBox()->text().endsWith("\n\nプランは保管されています。"));
+         for (QAbstractButton* button : OpenBox()->buttons()) buttons << button->text();
+         OpenBox()->accept();
+       });
+  EditAndEnd(PlanFile(), [this] {
+    Main().workspace.IsJapanese = 1;
+    Main().workspace.Language = kJapanese;
+    Desktop().stage.input.Do([]() -> bool { Raise(kFaultOverflow); });
+  });
+  EXPECT_TRUE(buttons.contains("再起動"));
+}
+
 TEST_F(KeptPlansTest, FaultWithoutChangesSaysNothingOfAPlan) {
   When([] { return OpenBox() != nullptr; },
        [] {

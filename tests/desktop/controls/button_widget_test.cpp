@@ -129,6 +129,20 @@ TEST_F(ButtonWidgetTest, ScrollBarThatIsOffLooksOff) {
   EXPECT_EQ(PictureOf(form->HScroll1), on);
 }
 
+TEST_F(ButtonWidgetTest, SpinButtonHasAnArrowInEachHalf) {
+  const QImage picture = PictureOf(form->Spin1);
+  const auto dark = [&](int top, int bottom) {
+    int count = 0;
+    for (int y = top; y < bottom; ++y) {
+      for (int x = 3; x < picture.width() - 3; ++x) count += qGray(picture.pixel(x, y)) < 30 ? 1 : 0;
+    }
+    return count;
+  };
+  const int middle = picture.height() / 2;
+  EXPECT_GE(dark(3, middle - 3), 6);
+  EXPECT_GE(dark(middle + 3, picture.height() - 3), 6);
+}
+
 TEST_F(ButtonWidgetTest, SpinButtonThatIsOffHasNoDarkArrows) {
   const auto darkest = [](const QImage& image) {
     int least = 255;

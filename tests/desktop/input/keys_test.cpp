@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 namespace veldrin {
 namespace {
 
@@ -12,18 +14,15 @@ int NumberOf(int qtKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const 
 }
 
 TEST(Keys, HaveThePlatformsNumbers) {
-  EXPECT_EQ(NumberOf(Qt::Key_Return), kKeyEnter);
-  EXPECT_EQ(NumberOf(Qt::Key_Enter), kKeyEnter);
-  EXPECT_EQ(NumberOf(Qt::Key_Backspace), kKeyBackspace);
-  EXPECT_EQ(NumberOf(Qt::Key_Left), kKeyLeft);
-  EXPECT_EQ(NumberOf(Qt::Key_Up), kKeyUp);
-  EXPECT_EQ(NumberOf(Qt::Key_Right), kKeyRight);
-  EXPECT_EQ(NumberOf(Qt::Key_Down), kKeyDown);
-  EXPECT_EQ(NumberOf(Qt::Key_F1), kKeyF1);
-  EXPECT_EQ(NumberOf(Qt::Key_F12), 123);
-  EXPECT_EQ(NumberOf(Qt::Key_A), 65);
-  EXPECT_EQ(NumberOf(Qt::Key_9), 57);
-  EXPECT_EQ(NumberOf(Qt::Key_Escape), 27);
+  const std::map<int, int> kNumbers = {
+      {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},       {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
+      {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},    {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},
+      {Qt::Key_Pause, 19},    {Qt::Key_CapsLock, 20}, {Qt::Key_Escape, 27},  {Qt::Key_Space, 32},
+      {Qt::Key_PageUp, 33},   {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},     {Qt::Key_Home, 36},
+      {Qt::Key_Left, 37},     {Qt::Key_Up, 38},       {Qt::Key_Right, 39},   {Qt::Key_Down, 40},
+      {Qt::Key_Insert, 45},   {Qt::Key_Delete, 46},   {Qt::Key_0, 48},       {Qt::Key_9, 57},
+      {Qt::Key_A, 65},        {Qt::Key_Z, 90},        {Qt::Key_F1, 112},     {Qt::Key_F12, 123}};
+  for (const auto& [key, number] : kNumbers) EXPECT_EQ(NumberOf(key), number) << key;
   EXPECT_EQ(NumberOf(Qt::Key_VolumeUp), 0);
 }
 
