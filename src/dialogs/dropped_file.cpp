@@ -1,6 +1,7 @@
 #include "dialogs/dropped_file.h"
 
 #include "dialogs/load_dispatch.h"
+#include "model/file_tags.h"
 #include "model/list_tables.h"
 #include "platform/paths.h"
 #include "runtime/fault.h"
@@ -54,7 +55,7 @@ std::string KeyOfList(TextReader& reader, const Workspace& workspace) {
 /// The same of a list file. Raises the faults of a file that cannot be read.
 std::string KeyOfListFile(const Program& program, const std::string& path) {
   TextReader reader(program.machine.files.ReadText(path));
-  return reader.Field().starts_with("LIST") ? KeyOfList(reader, program.workspace) : "";
+  return IsListTag(reader.Field()) ? KeyOfList(reader, program.workspace) : "";
 }
 
 Drop LookAtPlan(const Program& program, const std::string& tag) {
@@ -75,8 +76,8 @@ Drop LookAtPlan(const Program& program, const std::string& tag) {
 Drop LookAtFile(const Program& program, const std::string& path) {
   TextReader reader(program.machine.files.ReadText(path));
   const std::string tag = reader.Field();
-  if (tag.starts_with("FROM")) return LookAtPlan(program, tag);
-  const bool serves = tag.starts_with("LIST") && !KeyOfList(reader, program.workspace).empty();
+  if (IsPlanTag(tag)) return LookAtPlan(program, tag);
+  const bool serves = IsListTag(tag) && !KeyOfList(reader, program.workspace).empty();
   return {.refusal = serves ? 0 : kUnknownKindMessage, .listFirst = ""};
 }
 

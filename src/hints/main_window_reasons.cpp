@@ -34,12 +34,8 @@ BothLanguages NoPlan(const Workspace& workspace) {
           "プランがまだありません。Mode で作るか、Load で開きます"};
 }
 
-bool IsAuto(const Form2& form2, int gear) {
-  return form2.Command1[gear].Caption == kAuto;
-}
-
 BothLanguages ToleranceReason(const Form2& form2, const Control& off) {
-  if (off.index < 1 || !IsAuto(form2, off.index)) return {};
+  if (off.index < 1 || IsManual(form2, off.index)) return {};
   return {"This gear is on AUTO: the button in its row makes it MANUAL",
           "このギヤは AUTO です。同じ行のボタンで MANUAL にできます"};
 }

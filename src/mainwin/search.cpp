@@ -61,7 +61,7 @@ int MainGear(const Program& program) {
 
 bool AllGearsAuto(const Program& program) {
   for (int gear = 1; gear <= kGears; ++gear) {
-    if (program.form2.Command1[gear].Caption != kAuto) return false;
+    if (IsManual(program.form2, gear)) return false;
   }
   return true;
 }
@@ -81,7 +81,7 @@ void PlanSearchAuto(Program& program) {
 
 void PlanSearchMixed(Program& program) {
   Table<bool, 1, kGears> manual;
-  for (int gear = 1; gear <= kGears; ++gear) manual[gear] = program.form2.Command1[gear].Caption == kManual;
+  for (int gear = 1; gear <= kGears; ++gear) manual[gear] = IsManual(program.form2, gear);
   if (SearchMixed(program.workspace, manual, BlinkBanner(program))) {
     ShowSuccess(program);
     return;

@@ -1,5 +1,6 @@
 #include "program/refusal_notices.h"
 
+#include "model/file_tags.h"
 #include "plan/check/list_check.h"
 #include "plan/files/bad_input.h"
 #include "plan/present/plan_reader.h"
@@ -48,7 +49,7 @@ std::optional<Reason> ReasonOfPlan(const std::string& text, const Workspace& mac
 std::optional<Reason> ReasonOf(Program& program, const std::string& path) {
   const Files& files = program.machine.files;
   const std::string text = program.machine.files.ReadText(path);
-  if (text.starts_with("FROM")) return ReasonOfPlan(text, program.workspace);
+  if (IsPlanTag(text)) return ReasonOfPlan(text, program.workspace);
   return ReasonOfList(text, LastPartOf(files.Rules(), path));
 }
 

@@ -2,7 +2,7 @@
 
 #include "mainwin/search.h"
 #include "runtime/fault.h"
-#include "workspace/files/plan_file.h"
+#include "workspace/control_states.h"
 #include "workspace/mode.h"
 #include "workspace/title.h"
 
@@ -20,7 +20,7 @@ RequestState TakeRequests(const Program& program) {
     const std::size_t place = Place(gear);
     state.texts[place] = form2.Text1[gear].Text;
     state.speeds[place] = workspace.SpeedRequest[gear];
-    state.manual[place] = form2.Command1[gear].Caption == kManual;
+    state.manual[place] = IsManual(form2, gear);
     state.minus[place] = workspace.ToleranceMinus[gear];
     state.plus[place] = workspace.TolerancePlus[gear];
     state.baseNe[place] = workspace.BaseNe[gear];

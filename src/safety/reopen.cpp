@@ -167,7 +167,7 @@ void EnterRequests(Program& program, const RequestState& requests) {
   }
   form2.Command2.MouseUp(kLeftButton);
   for (int gear = 1; gear <= kGears; ++gear) {
-    const bool manual = form2.Command1[gear].Caption == kManual;
+    const bool manual = IsManual(form2, gear);
     if (manual != requests.manual[Place(gear)]) form2.Command1[gear].Click();
   }
   form2.Option1[requests.mainGear].Value = true;

@@ -83,6 +83,10 @@ bool ShowsForbiddenPair(const Form2& form2) {
   return form2.Label12[kThirdGear].BackColor == kRed;  // the 4th is red with it
 }
 
+bool IsManual(const Form2& form2, int gear) {
+  return form2.Command1[gear].Caption == kManual;
+}
+
 void DisableForSearch(Form2& form2) {
   Enable(form2, TakenBySearch(form2), false);
 }

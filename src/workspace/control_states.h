@@ -26,6 +26,9 @@ bool IsOutput(const Form2& form2, const Control& control);
 /// nothing.
 bool ShowsForbiddenPair(const Form2& form2);
 
+/// Whether a gear's request has a tolerance of its own. What its button says is the rule.
+bool IsManual(const Form2& form2, int gear);
+
 /// What a search takes away, to give it back with a plan or with the answer to its question.
 void DisableForSearch(Form2& form2);
 bool IsTakenBySearch(const Form2& form2, const Control& control);

@@ -151,12 +151,12 @@ void Command1_Click(Program& program, int gear) {
   if (gear == 0) {
     for (int each = 1; each <= kGears; ++each) SetAuto(program, each);
     form2.Picture1.Visible = true;
-  } else if (form2.Command1[gear].Caption == kAuto) {
-    SetManual(program, gear);
-    form2.Picture1.Visible = false;
-  } else {
+  } else if (IsManual(form2, gear)) {
     SetAuto(program, gear);
     if (AllGearsAuto(program)) form2.Picture1.Visible = true;
+  } else {
+    SetManual(program, gear);
+    form2.Picture1.Visible = false;
   }
 }
 

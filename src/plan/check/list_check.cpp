@@ -1,5 +1,6 @@
 #include "plan/check/list_check.h"
 
+#include "model/file_tags.h"
 #include "model/workspace.h"
 #include "plan/check/gear_check.h"
 #include "plan/check/key_check.h"
@@ -19,7 +20,7 @@ namespace {
 bool CheckTag(SectionReader& list) {
   const ScannedField tag = list.scanner.Field();
   list.remarks.CheckQuotes(tag);
-  if (tag.text.starts_with("LIST")) return true;
+  if (IsListTag(tag.text)) return true;
   list.remarks.Fault(tag.line, "no machine list: it begins with " + Quoted(tag.text) + " and not with LIST");
   return false;
 }

@@ -1,3 +1,4 @@
+#include "model/file_tags.h"
 #include "plan/commands/call_files.h"
 #include "plan/commands/commands.h"
 #include "plan/files/bad_input.h"
@@ -74,7 +75,7 @@ void WriteShown(const Call& call, const PlanSheet& sheet, const TyreFit* tyre) {
 
 /// Whether the file is a machine list, by its first line.
 bool IsList(const Call& call, const std::string& path) {
-  return TextOfFile(call, path).starts_with("LIST");
+  return IsListTag(TextOfFile(call, path));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "workspace/files/machine_list.h"
 
+#include "model/file_tags.h"
 #include "model/list_tables.h"
 #include "platform/paths.h"
 #include "runtime/text.h"
@@ -154,7 +155,7 @@ void RefuseFile(Program& program, const std::string& path, int fault) {
 bool OpenByTag(Program& program, const std::string& path) {
   program.files.OpenInput(Handle::Reader, path);
   const std::string tag = program.files.Reader(Handle::Reader).Field();
-  if (tag.starts_with("LIST")) {
+  if (IsListTag(tag)) {
     if (program.workspace.CallerWord == caller::kForm3DataLoad) {
       AskForChangeOfMachine(program, path);
     } else {
@@ -162,7 +163,7 @@ bool OpenByTag(Program& program, const std::string& path) {
     }
     return true;
   }
-  if (tag.starts_with("FROM")) {
+  if (IsPlanTag(tag)) {
     OpenPlanFile(program, path, tag);
     return true;
   }
@@ -175,13 +176,6 @@ void ShowBadCommandLine(Program& program) {
   const bool japanese = CountryCode(program, 0) == kJapan;
   program.machine.boxes.Message(BoxIcon::Exclamation, "",
                                 japanese ? kBadCommandLineJapanese : kBadCommandLine, BoxButtons::Ok);
-}
-
-std::string MachineOfPlan(const std::string& tag) {
-  constexpr int kNameStart = 6;  // behind "FROM:"
-  const int nameLength = Find(tag, ".") - kNameStart;
-  if (nameLength < 0) Raise(kFaultBadCall);
-  return Mid(tag, kNameStart, nameLength);
 }
 
 void OpenAnyFile(Program& program, const std::string& path) {

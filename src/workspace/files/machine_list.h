@@ -17,11 +17,6 @@ namespace veldrin {
 /// Raises only what the telling itself raises.
 void OpenAnyFile(Program& program, const std::string& path);
 
-/// The machine that a plan file's tag names, "FROM:NX4.RAT" say, as written. Raises fault 5 for a tag without
-/// a
-/// "." behind the name.
-std::string MachineOfPlan(const std::string& tag);
-
 /// Reads a list from the reader handle, which stands behind the tag, and leaves the main window without a
 /// plan ("BASING"). Sets `ResultWord` to "OK", or "NG" at a keyword that differs; closes the file. Faults of
 /// single statements are skipped. `CallerWord` stays "MODULE1".

@@ -1,6 +1,7 @@
 #include "workspace/files/plan_lines.h"
 
 #include "model/decimal.h"
+#include "model/file_tags.h"
 #include "model/gear_pairs.h"
 #include "model/list_tables.h"
 #include "runtime/conversion.h"
@@ -68,7 +69,7 @@ void FindChoice(Workspace& workspace) {
 std::string PlanText(const Workspace& workspace, const std::string& remark) {
   std::string text;
   const auto addLine = [&](const std::string& line) { text.append(line).append(kCrLf); };
-  addLine("FROM:" + workspace.MachineName + ".RAT");
+  addLine(PlanTag(workspace.MachineName));
   addLine(SingleText(workspace, workspace.TyreLength));
   addLine(std::to_string(workspace.ShiftNe));
   for (int gear = 1; gear <= kGears; ++gear) addLine(SingleText(workspace, workspace.SpeedNow[gear]));
