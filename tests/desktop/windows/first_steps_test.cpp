@@ -41,5 +41,14 @@ TEST_F(FirstStepsTest, ArePaintedLeftOfTheChartInBothLanguages) {
   }
 }
 
+TEST_F(WidgetsTest, FirstStepsAreInTheMainWindowAlone) {
+  Settle();
+  const QImage client = Widget().Client().grab().toImage();
+  // Between the controls on the left, where the first line would stand.
+  for (int y = 118; y < 137; ++y) {
+    for (int x = 18; x < 108; ++x) ASSERT_EQ(client.pixelColor(x, y), QColor(0, 0, 128)) << x << ' ' << y;
+  }
+}
+
 }  // namespace
 }  // namespace veldrin
