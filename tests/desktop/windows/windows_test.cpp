@@ -246,6 +246,23 @@ TEST_F(WindowsTest, MovedWindowTellsItsPlaceInTwips) {
   EXPECT_EQ(form->Top.get(), 900);
 }
 
+struct FormWithoutTimer : Window {
+  explicit FormWithoutTimer(Desk& theDesk) : Window(theDesk, "Form91", {0, 0, 1500, 1500}, {}) {}
+};
+
+TEST_F(WindowsTest, OnlyWindowsWithATimerAreBuiltBeforeTheyAreShown) {
+  const auto timed = std::make_shared<TestForm>(program->desk);
+  timed->LoadWindow();
+  EXPECT_NE(windows.FormOf(*timed), nullptr);
+  const auto other = std::make_shared<FormWithoutTimer>(program->desk);
+  other->LoadWindow();
+  EXPECT_EQ(windows.FormOf(*other), nullptr);
+  other->Show();
+  EXPECT_NE(windows.FormOf(*other), nullptr);
+  other->UnloadWindow();
+  timed->UnloadWindow();
+}
+
 TEST_F(WindowsTest, TimersRunByTheClockWhileTheyAreOn) {
   form->Timer1.Enabled = true;
   Wait(150);
