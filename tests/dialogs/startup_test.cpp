@@ -2,6 +2,7 @@
 
 #include "tests/dialogs/starting_program.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -90,6 +91,27 @@ TEST_F(Startup, TheSplashCoversTheScreenWithItsPictureInTheMiddle) {
   EXPECT_EQ(form1.Height.get(), 11520);
   EXPECT_EQ(form1.Pic1.Left.get(), (15360 - form1.Pic1.Width) / 2);
   EXPECT_EQ(form1.Pic1.Top.get(), (11520 - form1.Pic1.Height) / 2);
+}
+
+/// Windows with the ellipse that was cut of one.
+struct CutWindows : SimulatedWindows {
+  using SimulatedWindows::SimulatedWindows;
+  void SetEllipticRegion(Window& /*window*/, int left, int top, int right, int bottom) override {
+    cut = {left, top, right, bottom};
+  }
+  std::array<int, 4> cut{};
+};
+
+TEST(Splash, AnEllipseInTheMiddleOfTheScreenShowsOfIt) {
+  SimulatedMachine simulated;
+  CutWindows windows(simulated.clock, simulated.log);
+  Machine machine = MachineWith(simulated, windows);
+  Program program{machine};
+  AttachStartup(program);
+  program.form1.LoadWindow();
+  // 500 by 100 of the 1024 by 768 pixels.
+  EXPECT_EQ(windows.cut, (std::array{262, 334, 762, 434}));
+  windows.Forget();
 }
 
 TEST_F(Startup, ALaterInstanceShowsNoSplash) {
