@@ -41,6 +41,8 @@ inline constexpr int kLowestRequest = 10;  // km/h
 /// Of a point that a tyre is measured by: an engine also runs below what the conditions take, never above.
 inline constexpr Limits kMeasuredSpeedLimits{1, 1000};                      // km/h
 inline constexpr Limits kMeasuredNeLimits{500, kRevolutionLimits.highest};  // rev/min
+/// Of a gear in a plan's file, where only what cannot be a speed is refused.
+inline constexpr Limits kStoredSpeedLimits{0, 10000};  // km/h
 
 /// A running condition that lists and settings give.
 struct Condition {
@@ -50,7 +52,7 @@ struct Condition {
   bool whole;
 };
 
-/// In the order of the settings window's boxes.
+/// In the order of the settings window's boxes; below it their places.
 // clang-format off
 inline constexpr Condition kConditions[] = {
     {"TYRE_L",    kTyreLengthWrittenValue, kTyreLimits,       false},
@@ -60,6 +62,11 @@ inline constexpr Condition kConditions[] = {
     {"MAX_NE",    kMaxNeValue,             kRevolutionLimits, true},
 };
 // clang-format on
+inline constexpr int kTyreCondition = 0;
+inline constexpr int kCheckNeCondition = 1;
+inline constexpr int kShiftNeCondition = 2;
+inline constexpr int kMaxSpeedCondition = 3;
+inline constexpr int kMaxNeCondition = 4;
 
 // ---- The running conditions and the history of a new installation ----
 

@@ -24,10 +24,10 @@ void Release(KeyedCondition<Number>& keyed, Number& condition) {
   keyed.taken = false;
 }
 
-/// A whole-number condition: taken when the number as written lies in the range.
+/// The number as written: a whole one is rounded.
 template <class Number>
-void TakeWhole(double value, const Limits& limits, KeyedCondition<Number>& keyed, Number& condition) {
-  if (limits.Holds(value)) Take(keyed, condition, static_cast<Number>(ToInt16(value)));
+Number Written(const Condition& condition, double value) {
+  return condition.whole ? static_cast<Number>(ToInt16(value)) : static_cast<Number>(ToSingle(value));
 }
 
 /// One line. A key with a blank before the "=" is an unknown one.
@@ -36,18 +36,11 @@ void ReadKeyLine(const std::string& line, Workspace& workspace) {
   if (equals == std::string::npos) return;
   const std::string key = line.substr(0, equals);
   const double value = SystemNumber(workspace, line.substr(equals + 1));
-  KeyedConditions& keyed = workspace.keyed;
-  if (key == "TYRE_L") {
-    if (kTyreLimits.Holds(value)) Take(keyed.TyreLength, workspace.TyreLength, ToSingle(value));
-  } else if (key == "CHECK_NE") {
-    TakeWhole(value, kRevolutionLimits, keyed.CheckNe, workspace.CheckNe);
-  } else if (key == "SHIFT_NE") {
-    TakeWhole(value, kRevolutionLimits, keyed.ShiftNe, workspace.ShiftNe);
-  } else if (key == "MAX_SPEED") {
-    TakeWhole(value, kMaxSpeedLimits, keyed.MaxSpeed, workspace.MaxSpeed);
-  } else if (key == "MAX_NE") {
-    TakeWhole(value, kRevolutionLimits, keyed.MaxNe, workspace.MaxNe);
-  }
+  ForEachKeyed(workspace,
+               [&]<class Number>(const Condition& condition, KeyedCondition<Number>& keyed, Number& number) {
+                 if (key != condition.key || !condition.limits.Holds(value)) return;
+                 Take(keyed, number, Written<Number>(condition, value));
+               });
 }
 
 }  // namespace
@@ -60,12 +53,7 @@ void ReadListKeys(TextReader& reader, Workspace& workspace) {
 }
 
 void ReleaseListKeys(Workspace& workspace) {
-  KeyedConditions& keyed = workspace.keyed;
-  Release(keyed.TyreLength, workspace.TyreLength);
-  Release(keyed.CheckNe, workspace.CheckNe);
-  Release(keyed.ShiftNe, workspace.ShiftNe);
-  Release(keyed.MaxSpeed, workspace.MaxSpeed);
-  Release(keyed.MaxNe, workspace.MaxNe);
+  ForEachKeyed(workspace, [](const Condition&, auto& keyed, auto& number) { Release(keyed, number); });
 }
 
 }  // namespace veldrin

@@ -18,9 +18,6 @@ void TellRefusedNumber(Program& program, const BothLanguages& name, const Limits
 /// The names of the running conditions by their places in kConditions, and their units.
 const BothLanguages& ConditionName(int condition);
 const char* ConditionUnit(int condition);
-inline constexpr int kTyreCondition = 0;
-inline constexpr int kCheckNeCondition = 1;
-inline constexpr int kShiftNeCondition = 2;
 
 /// That the 3rd and 4th gear of the plan on the screen exclude each other.
 BothLanguages ForbiddenPairWords(const Workspace& workspace);

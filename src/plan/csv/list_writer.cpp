@@ -1,5 +1,6 @@
 #include "plan/csv/list_writer.h"
 
+#include "model/list_keys.h"
 #include "runtime/conversion.h"
 #include "runtime/text.h"
 
@@ -61,17 +62,12 @@ std::string Matrix(const Workspace& machine) {
 }
 
 /// The running conditions that the list sets.
-std::string Keys(const KeyedConditions& keyed) {
+std::string Keys(const Workspace& machine) {
   std::string lines;
-  const auto key = [&](const char* name, const auto& condition) {
-    if (condition.taken)
-      lines += std::string(name) + '=' + ShortestText(static_cast<float>(condition.set)) + "\r\n";
-  };
-  key("TYRE_L", keyed.TyreLength);
-  key("CHECK_NE", keyed.CheckNe);
-  key("SHIFT_NE", keyed.ShiftNe);
-  key("MAX_SPEED", keyed.MaxSpeed);
-  key("MAX_NE", keyed.MaxNe);
+  ForEachKeyed(machine, [&](const Condition& condition, const auto& keyed, auto) {
+    if (!keyed.taken) return;
+    lines += std::string(condition.key) + '=' + ShortestText(static_cast<float>(keyed.set)) + "\r\n";
+  });
   return lines;
 }
 
@@ -89,7 +85,7 @@ std::string MachineListText(const PartsTable& parts) {
          std::to_string(machine.GearRows) + ",PRIMARY\r\n" + Primaries(machine) +
          "; a line for each row: text, drive and driven teeth of gears 1 to 6; 99 is an empty place\r\n" +
          "; gear 1, gear 2, gear 3, gear 4, gear 5, gear 6\r\n" + GearRows(machine) + "M34-ARRAY\r\n" +
-         Matrix(machine) + Keys(machine.keyed);
+         Matrix(machine) + Keys(machine);
 }
 
 std::string CombinationText(const PartsTable& parts) {

@@ -1,5 +1,6 @@
 #include "plan/csv/parts_csv.h"
 
+#include "model/list_keys.h"
 #include "model/list_tables.h"
 #include "plan/csv/parts_kinds.h"
 #include "plan/output/csv_field.h"
@@ -116,16 +117,12 @@ class PartsWriter {
   }
 
   void Keys() {
-    const auto key = [&](const char* name, const auto& condition) {
-      if (!condition.taken) return;
-      Line(
-          {.kind = parts_kind::kKey, .text = name, .drive = ShortestText(static_cast<float>(condition.set))});
-    };
-    key("TYRE_L", machine_.keyed.TyreLength);
-    key("CHECK_NE", machine_.keyed.CheckNe);
-    key("SHIFT_NE", machine_.keyed.ShiftNe);
-    key("MAX_SPEED", machine_.keyed.MaxSpeed);
-    key("MAX_NE", machine_.keyed.MaxNe);
+    ForEachKeyed(machine_, [&](const Condition& condition, const auto& keyed, auto) {
+      if (!keyed.taken) return;
+      Line({.kind = parts_kind::kKey,
+            .text = condition.key,
+            .drive = ShortestText(static_cast<float>(keyed.set))});
+    });
   }
 
   const Workspace& machine_;

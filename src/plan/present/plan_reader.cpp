@@ -35,7 +35,7 @@ class PlanReader {
     workspace.ShiftNe = ToInt16(Decimal("the shift revolutions", kRevolutionLimits));
     workspace.ReferenceNe = workspace.ShiftNe;
     for (int gear = 1; gear <= kGears; ++gear) {
-      workspace.SpeedBaseline[gear] = ToSingle(Decimal("the speed of " + GearName(gear), Limits{0, 10000}));
+      workspace.SpeedBaseline[gear] = ToSingle(Decimal("the speed of " + GearName(gear), kStoredSpeedLimits));
     }
     workspace.PrimaryIndex = Row("primary", workspace.PrimaryTable, workspace.PrimaryCount);
     workspace.FinalIndex = Row("final", workspace.FinalTable, FinalRowCount(workspace));
