@@ -36,11 +36,11 @@ void DrawMarkLine(Surface& surface, double revolutions, double maxSpeed, int sty
 /// Moves the ticks along their axes.
 template <class Form>
 void PlaceTicks(Form& form, float thousandNe, float twentyKmh) {
-  for (int i = 0; i <= 24; ++i) {
+  for (int i = 0; i <= kLastTickAcross; ++i) {
     form.Line4[i].X1 = TickAcross(i, thousandNe);
     form.Line4[i].X2 = TickAcross(i, thousandNe);
   }
-  for (int i = 0; i <= 18; ++i) {
+  for (int i = 0; i <= kLastTickUp; ++i) {
     form.Line3[i].Y1 = TickUp(i, twentyKmh);
     form.Line3[i].Y2 = TickUp(i, twentyKmh);
   }
@@ -49,7 +49,7 @@ void PlaceTicks(Form& form, float thousandNe, float twentyKmh) {
 /// Moves the numerals that follow the scales along their axes.
 template <class Form>
 void PlaceNumerals(Form& form, float thousandNe, float twentyKmh) {
-  for (int i = 0; i <= 3; ++i) form.Label22[i].Left = NumeralLeft(i, thousandNe);
+  for (int i = 0; i <= kLastNumeralAcross; ++i) form.Label22[i].Left = NumeralLeft(i, thousandNe);
   form.Label18.Top = NumeralTop(15, twentyKmh);
   form.Label19.Top = NumeralTop(10, twentyKmh);
   form.Label20.Top = NumeralTop(5, twentyKmh);

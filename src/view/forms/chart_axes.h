@@ -11,6 +11,12 @@ namespace veldrin {
 inline constexpr float kDesignThousandNe = 3960000.0F / 15000;
 inline constexpr float kDesignTwentyKmh = 110400.0F / 340;
 
+/// The last ticks of the axes, at 24000 rev/min and 360 km/h, and the last numeral of the revolutions, at
+/// 20000: they are there whatever the scale.
+inline constexpr int kLastTickAcross = 24;
+inline constexpr int kLastTickUp = 18;
+inline constexpr int kLastNumeralAcross = 3;
+
 /// Where the tick of a number of thousand revolutions lies, and that of a number of 20 km/h.
 inline float TickAcross(int thousands, float thousandNe) {
   // Kept: the factor is part of the rule.

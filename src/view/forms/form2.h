@@ -98,8 +98,8 @@ struct Form2 : Window {
   Label        Label38  {"Label38",   Picture21, {1305,  120, 1800,  285}, {.caption = "Request Mode", .fore = kYellow, .back = kBlack, .fontSize = 12, .fontBold = true, .transparent = true, .visible = false}};
   Line         Line1    {"Line1",     Picture19,  480,    0,  480, 5520};
   Line         Line2    {"Line2",     Picture19,  480, 5520, 4460, 5520};
-  ControlArray<Line> Line3{0, 18, TicksUp("Line3", Picture19)};
-  ControlArray<Line> Line4{0, 24, TicksAcross("Line4", Picture19)};
+  ControlArray<Line> Line3{0, kLastTickUp, TicksUp("Line3", Picture19)};
+  ControlArray<Line> Line4{0, kLastTickAcross, TicksAcross("Line4", Picture19)};
   Label        Label18  {"Label18",   Picture19, {150, NumeralTop(15), 285, 195}, Titled("300", kNumeral)};
   Label        Label19  {"Label19",   Picture19, {150, NumeralTop(10), 285, 195}, Titled("200", kNumeral)};
   Label        Label20  {"Label20",   Picture19, {150, NumeralTop( 5), 285, 195}, Titled("100", kNumeral)};

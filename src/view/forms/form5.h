@@ -51,8 +51,8 @@ struct Form5 : Window {
   ControlArray<Picture> Picture21{0, 2, Elements<Picture>("Picture21", Picture19, At({490, 0, 3975, 5525}), {.back = kBlack})};
   Line       Line1    {"Line1",     Picture19,   480,    0,  480, 5520};
   Line       Line2    {"Line2",     Picture19,   480, 5520, 4460, 5520};
-  ControlArray<Line>  Line3  {0, 18, TicksUp("Line3", Picture19)};
-  ControlArray<Line>  Line4  {0, 24, TicksAcross("Line4", Picture19)};
+  ControlArray<Line>  Line3  {0, kLastTickUp, TicksUp("Line3", Picture19)};
+  ControlArray<Line>  Line4  {0, kLastTickAcross, TicksAcross("Line4", Picture19)};
   Label      Label18  {"Label18",   Picture19, {150, NumeralTop(15), 300, 195}, {.caption = "300", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
   Label      Label19  {"Label19",   Picture19, {150, NumeralTop(10), 300, 195}, {.caption = "200", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
   Label      Label20  {"Label20",   Picture19, {150, NumeralTop( 5), 300, 195}, {.caption = "100", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
