@@ -74,15 +74,15 @@ void PlaceSurface(Program& program) {
 
 /// Kept: ticks beyond the panel are not hidden but cut off by it.
 void PlaceAxes(Form2& form2, float thousandNe, float twentyKmh) {
-  PlaceLine(form2.Line1, 480, 0, 480, 5520);
-  PlaceLine(form2.Line2, 480, 5520, 4460, 5520);
+  PlaceLine(form2.Line1, kAxesLeft, 0, kAxesLeft, kAxesFoot);
+  PlaceLine(form2.Line2, kAxesLeft, kAxesFoot, kAxesRight, kAxesFoot);
   for (int i = 0; i <= kLastTickAcross; ++i) {
     const float x = TickAcross(i, thousandNe);
-    PlaceLine(form2.Line4[i], x, 5520, x, 5640);
+    PlaceLine(form2.Line4[i], x, kAxesFoot, x, kTickFoot);
   }
   for (int i = 0; i <= kLastTickUp; ++i) {
     const float y = TickUp(i, twentyKmh);
-    PlaceLine(form2.Line3[i], 360, y, 480, y);
+    PlaceLine(form2.Line3[i], kTickLeft, y, kAxesLeft, y);
   }
 }
 
@@ -92,13 +92,14 @@ void PlaceNumeral(Label& numeral, float left, float top) {
 }
 
 void PlaceAllNumerals(Form2& form2, float thousandNe, float twentyKmh) {
-  PlaceNumeral(form2.Label18, 150, NumeralTop(15, twentyKmh));
-  PlaceNumeral(form2.Label19, 150, NumeralTop(10, twentyKmh));
-  PlaceNumeral(form2.Label20, 150, NumeralTop(5, twentyKmh));
-  PlaceNumeral(form2.Label21, 360, 5640);
-  for (int i = 0; i <= kLastNumeralAcross; ++i)
-    PlaceNumeral(form2.Label22[i], NumeralLeft(i, thousandNe), 5640);
-  PlaceNumeral(form2.Label22[4], 3480, 5805);
+  PlaceNumeral(form2.Label18, kSpeedNumeralLeft, NumeralTop(15, twentyKmh));
+  PlaceNumeral(form2.Label19, kSpeedNumeralLeft, NumeralTop(10, twentyKmh));
+  PlaceNumeral(form2.Label20, kSpeedNumeralLeft, NumeralTop(5, twentyKmh));
+  PlaceNumeral(form2.Label21, kTickLeft, kTickFoot);
+  for (int i = 0; i <= kLastNumeralAcross; ++i) {
+    PlaceNumeral(form2.Label22[i], NumeralLeft(i, thousandNe), kTickFoot);
+  }
+  PlaceNumeral(form2.Label22[kNeUnit], kNeUnitLeft, kNeUnitTop);
   const auto fontSize = static_cast<float>(RoundHalfToEven(form2.Picture19.Width / kPanelPerFontSize));
   for (Label* numeral : {&form2.Label18, &form2.Label19, &form2.Label20, &form2.Label21, &form2.Label22[0],
                          &form2.Label22[1], &form2.Label22[2], &form2.Label22[3], &form2.Label22[4]}) {

@@ -4,21 +4,19 @@ namespace veldrin {
 
 namespace {
 
-constexpr int kUnit = 4;  // subscript of the unit among the numerals
-
 std::unique_ptr<Line> DesignedTickAcross(const char* name, Control& panel, int thousands) {
   const float x = TickAcross(thousands, kDesignThousandNe);
-  return std::make_unique<Line>(name, panel, x, 5520.0F, x, 5640.0F);
+  return std::make_unique<Line>(name, panel, x, kAxesFoot, x, kTickFoot);
 }
 
 std::unique_ptr<Line> DesignedTickUp(const char* name, Control& panel, int twenties) {
   const float y = TickUp(twenties, kDesignTwentyKmh);
-  return std::make_unique<Line>(name, panel, 360.0F, y, 480.0F, y);
+  return std::make_unique<Line>(name, panel, kTickLeft, y, kAxesLeft, y);
 }
 
 Place DesignedNumeral(int index, float unitWidth) {
-  if (index == kUnit) return {3480, 5805, unitWidth, 195};
-  return {NumeralLeft(index, kDesignThousandNe), 5640, 240, 195};
+  if (index == kNeUnit) return {kNeUnitLeft, kNeUnitTop, unitWidth, 195};
+  return {NumeralLeft(index, kDesignThousandNe), kTickFoot, 240, 195};
 }
 
 }  // namespace

@@ -7,6 +7,18 @@
 
 namespace veldrin {
 
+/// Where the axes lie, that of the speeds to the left of the plot and that of the revolutions below it.
+inline constexpr float kAxesLeft = 480;
+inline constexpr float kAxesRight = 4460;
+inline constexpr float kAxesFoot = 5520;
+/// The outer ends of their ticks, which the numerals of the revolutions begin below.
+inline constexpr float kTickLeft = 360;
+inline constexpr float kTickFoot = 5640;
+/// Where the numerals of the speeds begin, and the unit of the revolutions.
+inline constexpr float kSpeedNumeralLeft = 150;
+inline constexpr float kNeUnitLeft = 3480;
+inline constexpr float kNeUnitTop = 5805;
+
 /// The two numbers that the windows are designed with, those of a chart up to 15000 rev/min and 340 km/h.
 inline constexpr float kDesignThousandNe = 3960000.0F / 15000;
 inline constexpr float kDesignTwentyKmh = 110400.0F / 340;
@@ -16,14 +28,16 @@ inline constexpr float kDesignTwentyKmh = 110400.0F / 340;
 inline constexpr int kLastTickAcross = 24;
 inline constexpr int kLastTickUp = 18;
 inline constexpr int kLastNumeralAcross = 3;
+/// Subscript of the unit among these numerals.
+inline constexpr int kNeUnit = kLastNumeralAcross + 1;
 
 /// Where the tick of a number of thousand revolutions lies, and that of a number of 20 km/h.
 inline float TickAcross(int thousands, float thousandNe) {
   // Kept: the factor is part of the rule.
-  return static_cast<float>((thousands * static_cast<double>(thousandNe) + 480) * 1.008);
+  return static_cast<float>((thousands * static_cast<double>(thousandNe) + kAxesLeft) * 1.008);
 }
 inline float TickUp(int twenties, float twentyKmh) {
-  return static_cast<float>(5520 - twenties * static_cast<double>(twentyKmh));
+  return static_cast<float>(kAxesFoot - twenties * static_cast<double>(twentyKmh));
 }
 
 /// Where the numeral of 5, 10, 15 or 20 thousand revolutions begins, by its index, and the top of that of a
@@ -39,7 +53,7 @@ inline float NumeralTop(int twenties, float twentyKmh = kDesignTwentyKmh) {
 ControlArray<Line>::Maker TicksAcross(const char* name, Control& panel);
 ControlArray<Line>::Maker TicksUp(const char* name, Control& panel);
 
-/// Places of the numerals of the revolutions, subscripts 0 to 3, and of their unit below them, 4.
+/// Places of the numerals of the revolutions, and of their unit below them.
 std::function<Place(int)> NumeralsAcross(float unitWidth);
 
 /// What these numerals say.

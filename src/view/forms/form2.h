@@ -96,15 +96,15 @@ struct Form2 : Window {
   Line         Line15   {"Line15",    Picture31,   75,  390,  540,  390, kWhite};
   Label        Label43  {"Label43",   Picture31, { 600,  285,  480,  210}, {.caption = "CHG", .fore = kWhite, .back = kBlack, .transparent = true}};
   Label        Label38  {"Label38",   Picture21, {1305,  120, 1800,  285}, {.caption = "Request Mode", .fore = kYellow, .back = kBlack, .fontSize = 12, .fontBold = true, .transparent = true, .visible = false}};
-  Line         Line1    {"Line1",     Picture19,  480,    0,  480, 5520};
-  Line         Line2    {"Line2",     Picture19,  480, 5520, 4460, 5520};
+  Line         Line1    {"Line1",     Picture19, kAxesLeft, 0, kAxesLeft, kAxesFoot};
+  Line         Line2    {"Line2",     Picture19, kAxesLeft, kAxesFoot, kAxesRight, kAxesFoot};
   ControlArray<Line> Line3{0, kLastTickUp, TicksUp("Line3", Picture19)};
   ControlArray<Line> Line4{0, kLastTickAcross, TicksAcross("Line4", Picture19)};
-  Label        Label18  {"Label18",   Picture19, {150, NumeralTop(15), 285, 195}, Titled("300", kNumeral)};
-  Label        Label19  {"Label19",   Picture19, {150, NumeralTop(10), 285, 195}, Titled("200", kNumeral)};
-  Label        Label20  {"Label20",   Picture19, {150, NumeralTop( 5), 285, 195}, Titled("100", kNumeral)};
-  Label        Label21  {"Label21",   Picture19, { 360, 5640,  120,  195}, Titled("0", kSmallTitle)};
-  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, NumeralsAcross(900), kSmallTitle, NumeralTexts())};
+  Label        Label18  {"Label18",   Picture19, {kSpeedNumeralLeft, NumeralTop(15), 285, 195}, Titled("300", kNumeral)};
+  Label        Label19  {"Label19",   Picture19, {kSpeedNumeralLeft, NumeralTop(10), 285, 195}, Titled("200", kNumeral)};
+  Label        Label20  {"Label20",   Picture19, {kSpeedNumeralLeft, NumeralTop( 5), 285, 195}, Titled("100", kNumeral)};
+  Label        Label21  {"Label21",   Picture19, {kTickLeft, kTickFoot, 120, 195}, Titled("0", kSmallTitle)};
+  ControlArray<Label> Label22{0, kNeUnit, Elements<Label>("Label22", Picture19, NumeralsAcross(900), kSmallTitle, NumeralTexts())};
   TimerControl Timer2   {"Timer2",    Picture19, 100};
   TimerControl Timer3   {"Timer3",    Picture19, 200};
 

@@ -32,15 +32,15 @@ struct Form4 : Window {
 
   Picture Picture19{"Picture19", *this,     {2415,    60, 4605, 6015}, {.back = kDarkBlue}};
   Picture Picture21{"Picture21", Picture19, { 490,     0, 3975, 5525}, {.back = kBlack}};
-  Line    Line1    {"Line1",     Picture19,   480,     0,  480, 5520};
-  Line    Line2    {"Line2",     Picture19,   480,  5520, 4460, 5520};
+  Line    Line1    {"Line1",     Picture19, kAxesLeft, 0, kAxesLeft, kAxesFoot};
+  Line    Line2    {"Line2",     Picture19, kAxesLeft, kAxesFoot, kAxesRight, kAxesFoot};
   ControlArray<Line>  Line3  {0, kLastTickUp, TicksUp("Line3", Picture19)};
   ControlArray<Line>  Line4  {0, kLastTickAcross, TicksAcross("Line4", Picture19)};
-  Label   Label18  {"Label18",   Picture19, {150, NumeralTop(15), 300, 195}, {.caption = "300", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  Label   Label19  {"Label19",   Picture19, {150, NumeralTop(10), 300, 195}, {.caption = "200", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  Label   Label20  {"Label20",   Picture19, {150, NumeralTop( 5), 300, 195}, {.caption = "100", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  Label   Label21  {"Label21",   Picture19, { 360,  5640,  120,  195}, {.caption = "0",   .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
-  ControlArray<Label> Label22{0, 4, Elements<Label>("Label22", Picture19, NumeralsAcross(960), {.fore = kLightGrey, .back = kDarkBlue, .fontSize = 8, .transparent = true}, NumeralTexts())};
+  Label   Label18  {"Label18",   Picture19, {kSpeedNumeralLeft, NumeralTop(15), 300, 195}, {.caption = "300", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  Label   Label19  {"Label19",   Picture19, {kSpeedNumeralLeft, NumeralTop(10), 300, 195}, {.caption = "200", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  Label   Label20  {"Label20",   Picture19, {kSpeedNumeralLeft, NumeralTop( 5), 300, 195}, {.caption = "100", .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  Label   Label21  {"Label21",   Picture19, {kTickLeft, kTickFoot, 120, 195}, {.caption = "0",   .fore = kLightGrey, .back = kDarkBlue, .fontSize = 8}};
+  ControlArray<Label> Label22{0, kNeUnit, Elements<Label>("Label22", Picture19, NumeralsAcross(960), {.fore = kLightGrey, .back = kDarkBlue, .fontSize = 8, .transparent = true}, NumeralTexts())};
 
   Button  Command1 {"Command1",  *this,     {  60,  5535, 1080,  420}, {.caption = "O K"}};
   Button  Command2 {"Command2",  *this,     {1290,  5535, 1080,  420}, {.caption = "Cancel"}};
