@@ -10,6 +10,7 @@
 #include "view/bind.h"
 #include "workspace/captions.h"
 #include "workspace/chooser_setup.h"
+#include "workspace/control_states.h"
 
 namespace veldrin {
 
@@ -111,10 +112,7 @@ void Form5_Load(Program& program) {
   TakeJapaneseCaptions(workspace, form5);
   PlaceWindow(program);
   SetScales(program);
-  for (int gear = 1; gear <= kGears; ++gear) {
-    form5.Label3[gear].ForeColor = workspace.GearColour[gear];
-    form5.Label9[gear].ForeColor = workspace.GearColour[gear];
-  }
+  for (int gear = 1; gear <= kGears; ++gear) ShowGearColour(workspace, gear, {&form5.Label3, &form5.Label9});
   form5.Spin1.Enabled = false;
   FillFromWorkspace(program, program.compare.CompareSlot[0]);
   program.compare.CompareIndex = 0;

@@ -120,8 +120,7 @@ void Form4_Load(Program& program) {
   TakeJapaneseCaptions(workspace, form4);
   SetScale(program);
   for (int gear = 1; gear <= kGears; ++gear) {
-    form4.Label17[gear].ForeColor = workspace.GearColour[gear];
-    form4.Label24[gear].ForeColor = workspace.GearColour[gear];
+    ShowGearColour(workspace, gear, {&form4.Label17, &form4.Label24});
   }
   if (workspace.PlanCount == 1) form4.Spin1.Enabled = false;
   form4.Centre(kOuterWidth, kOuterHeight);

@@ -104,12 +104,16 @@ void EnableRowSpins(Program& program) {
   EnableSpin(program.form2.Spin5);
 }
 
+void ShowGearColour(const Workspace& workspace, int gear,
+                    std::initializer_list<ControlArray<Label>*> columns) {
+  for (ControlArray<Label>* column : columns) (*column)[gear].ForeColor = workspace.GearColour[gear];
+}
+
 void ShowGearColour(Program& program, int gear) {
   Form2& form2 = program.form2;
-  for (auto* labels : {&form2.Label1, &form2.Label2, &form2.Label9, &form2.Label31, &form2.Label32,
-                       &form2.Label33, &form2.Label44}) {
-    (*labels)[gear].ForeColor = program.workspace.GearColour[gear];
-  }
+  ShowGearColour(program.workspace, gear,
+                 {&form2.Label1, &form2.Label2, &form2.Label9, &form2.Label31, &form2.Label32, &form2.Label33,
+                  &form2.Label44});
 }
 
 void EnableRestore(Program& program, bool enabled) {

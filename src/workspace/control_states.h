@@ -1,4 +1,4 @@
-// States of the main window's controls that several units set alike.
+// States of controls that several units set alike, nearly all of them the main window's.
 #pragma once
 
 #include "workspace/program.h"
@@ -39,7 +39,10 @@ bool HasPrimariesToStep(const Workspace& workspace);
 /// The arrows of primary and final; those of a primary without rows to step stay as they are. Raises nothing.
 void EnableRowSpins(Program& program);
 
-/// What tells the gears apart on the main window takes a gear's colour.
+/// A gear's labels in columns take its colour, which the user may have chosen; on the main window the columns
+/// are those that tell the gears apart.
+void ShowGearColour(const Workspace& workspace, int gear,
+                    std::initializer_list<ControlArray<Label>*> columns);
 void ShowGearColour(Program& program, int gear);
 
 /// Restore, as button and as menu entry.

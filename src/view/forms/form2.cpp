@@ -1,5 +1,7 @@
 #include "view/forms/form2.h"
 
+#include "view/forms/gear_columns.h"
+
 #include <utility>
 
 namespace veldrin {
@@ -60,10 +62,8 @@ ControlArray<Menu>::Maker Form2::PictureSizes(const char* name, Menu& parent) {
 
 Form2::Form2(Desk& theDesk)
     : Window(theDesk, "Form2", {0, 0, 9720, 7400}, {.caption = "Mr.Veldrin", .back = kDarkBlue}, true) {
-  for (auto* figures : {&Label1, &Label2, &Label9, &Label10, &Label11, &Label14, &Label15, &Label31, &Label32,
-                        &Label33, &Label34, &Label35, &Label44, &Label_Dif}) {
-    for (int gear = 1; gear <= 6; ++gear) (*figures)[gear].ForeColor.Design(DesignedGearColour(gear));
-  }
+  DesignGearColours({&Label1, &Label2, &Label9, &Label10, &Label11, &Label14, &Label15, &Label31, &Label32,
+                     &Label33, &Label34, &Label35, &Label44, &Label_Dif});
   Option1[0].Width.Design(795);
   Option1[0].Value.Design(true);
   Label10[0].Width.Design(345);
