@@ -4,6 +4,7 @@
 #include "dialogs/dropped_file.h"
 #include "machine/files/real_leftovers.h"
 #include "machine/output/real_guide.h"
+#include "model/setting_names.h"
 #include "program/assemble.h"
 #include "program/event_boundary.h"
 #include "runtime/conversion.h"
@@ -23,7 +24,6 @@ namespace veldrin {
 
 namespace {
 
-constexpr char kZoomSetting[] = "Zoom";
 constexpr double kPercent = 100;
 constexpr int kPrepareAfter = 20;  // ms
 
@@ -156,8 +156,9 @@ DesktopProgram::~DesktopProgram() {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+/// From the registry itself, as there is no program yet.
 void DesktopProgram::TakeStoredZoom() {
-  const auto stored = machine.registry.Read(RegistryRoot::CurrentUser, kSettingsKey, kZoomSetting);
+  const auto stored = machine.registry.Read(RegistryRoot::CurrentUser, kSettingsKey, kZoomValue);
   double factor = 0;
   if (stored) Guarded([&] { factor = ParseNumber(*stored) / kPercent; });
   if (factor <= 0) {
@@ -176,8 +177,7 @@ void DesktopProgram::TakeZoom() {
 
 void DesktopProgram::ZoomChanged() {
   TakeZoom();
-  machine.registry.Write(RegistryRoot::CurrentUser, kSettingsKey, kZoomSetting,
-                         ShortestText(stage.zoom.Factor() * kPercent));
+  Store(*program, kZoomValue, ShortestText(stage.zoom.Factor() * kPercent));
 }
 
 void DesktopProgram::CommitSession(QSessionManager& session) {

@@ -39,5 +39,7 @@ inline constexpr char kExtensionCountValue[] = "NumExtReg";
 /// Where the main window last stood.
 inline constexpr char kLastTopValue[] = "Last Top";
 inline constexpr char kLastLeftValue[] = "Last Left";
+/// How large the windows are shown, percent.
+inline constexpr char kZoomValue[] = "Zoom";
 
 }  // namespace veldrin
