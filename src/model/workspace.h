@@ -102,7 +102,7 @@ struct Workspace {
   Table<std::int16_t, 1, kGears> BaseNe;  // rev/min, 0 before the first entry by revolutions
   Table<std::int16_t, 1, kGears> RequestNe;
   Table<std::int16_t, 1, kGears> GearChoiceCount;  // columns of a gear's pop-up
-  Table<std::string, 0, kPlanLimit> PlanList;      // slot 0 is never used
+  Table<std::string, 0, kPlanLimit> PlanList;      // each the text of eight row numbers; slot 0 is never used
   std::int16_t PlanCount = 0;
 
   // ---- Files ----
