@@ -17,8 +17,10 @@ bool AwaitsLoad(const Workspace& workspace) {
 
 const std::string& ModeOnShow(const Program& program) {
   const DecisionPanelState& panel = program.decisionPanel;
-  if (!AwaitsLoad(program.workspace)) return program.workspace.ModeWord;
-  return panel.load ? panel.load->modeBefore : panel.modeBefore;
+  const std::string& word = program.workspace.ModeWord;
+  if (!AwaitsLoad(program.workspace)) return word;
+  if (panel.load) return panel.load->modeBefore;
+  return panel.unanswered == Question::LoadWithChanges ? panel.modeBefore : word;
 }
 
 bool ShowsRequests(const Program& program) {

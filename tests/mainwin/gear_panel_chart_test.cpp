@@ -53,11 +53,12 @@ TEST_F(GearPanelChart, StaysAsItIsWhileALoadIsBeingDecidedOn) {
     for (const char* before : {mode::kSpeed, mode::kRpm, mode::kChange}) {
       const double ray = before == std::string(mode::kChange) ? 20 : 40;
       workspace.ModeWord = word;
+      program.decisionPanel.unanswered = Question::LoadWithChanges;
       program.decisionPanel.modeBefore = before;
       program.decisionPanel.load.reset();
       RedrawChart(program);
       EXPECT_EQ(FirstRay(), ray) << word << " asked for in " << before;
-      program.decisionPanel.modeBefore.clear();
+      program.decisionPanel.unanswered = Question::None;
       program.decisionPanel.load = AnsweredLoad{before};
       RedrawChart(program);
       EXPECT_EQ(FirstRay(), ray) << word << " on its way in " << before;

@@ -249,6 +249,8 @@ TEST_F(DecisionPanel, ALoadAskedForOverAnotherComesBackToTheModeBeforeBoth) {
   EXPECT_EQ(ModeOnShow(program), "SPEED");
   DropQuestion(program);
   EXPECT_EQ(workspace.ModeWord, "SPEED");
+  workspace.ModeWord = mode::kData;
+  EXPECT_EQ(ModeOnShow(program), "DATA") << "nobody has asked";
 }
 
 TEST_F(DecisionPanel, ThePanelStandsUntilItsAnswerHasSaved) {

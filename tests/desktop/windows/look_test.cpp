@@ -1,5 +1,8 @@
 #include "desktop/windows/look.h"
 
+#include "tests/desktop/test_window.h"
+
+#include <QAccessible>
 #include <QLocale>
 #include <QPalette>
 #include <gtest/gtest.h>
@@ -18,6 +21,22 @@ TEST(Look, ADarkDesktopMixesInNothing) {
   SetUpLook(*qApp);
   EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
   EXPECT_EQ(QApplication::palette().color(QPalette::Text), QColor(Qt::black));
+}
+
+int askedElsewhere = 0;
+
+QAccessibleInterface* AnswerNothing(const QString& /*kind*/, QObject* /*object*/) {
+  ++askedElsewhere;
+  return nullptr;
+}
+
+TEST_F(WidgetsTest, LookIncludesWhatScreenReadersHear) {
+  QAccessible::installFactory(AnswerNothing);
+  SetUpLook(*qApp);
+  // Whoever was there before is not asked for what the program has words for.
+  EXPECT_NE(QAccessible::queryAccessibleInterface(&WidgetOf(form->Label1)), nullptr);
+  EXPECT_EQ(askedElsewhere, 0);
+  QAccessible::removeFactory(AnswerNothing);
 }
 
 }  // namespace
