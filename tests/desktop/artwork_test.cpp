@@ -88,6 +88,21 @@ TEST(Artwork, AboutPictureCoversItsWholeRoom) {
   }
 }
 
+TEST(Artwork, AboutTellsInSmallLettersWhatTheProgramIsFor) {
+  const QImage picture = PaintedWindow("Form10", {kPictureWide, kPictureHigh}, Qt::magenta);
+  QRect letters;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      const QColor colour = picture.pixelColor(x, y);
+      if (colour.red() > 200 && colour.green() > 150 && colour.blue() < 100) letters |= QRect(x, y, 1, 1);
+    }
+  }
+  // Of 11 points, below the name and above the panels.
+  EXPECT_TRUE(QRect(20, 84, 180, 26).contains(letters))
+      << letters.left() << ' ' << letters.top() << ' ' << letters.width() << ' ' << letters.height();
+  EXPECT_GT(letters.width(), 60);
+}
+
 TEST(Artwork, OtherWindowsHaveNoPicture) {
   const QSize size(kPictureWide, kPictureHigh);
   const QImage nothing = Painted(size, Qt::magenta, [](QPainter&) {});
