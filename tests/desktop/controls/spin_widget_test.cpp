@@ -1,20 +1,10 @@
 #include "desktop/controls/spin_widget.h"
 
+#include "tests/desktop/paint_count.h"
 #include "tests/desktop/test_window.h"
 
 namespace veldrin {
 namespace {
-
-/// How often a widget has painted itself on the screen since.
-class PaintCount : public QObject {
- public:
-  explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
-  bool eventFilter(QObject* /*widget*/, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++count;
-    return false;
-  }
-  int count = 0;
-};
 
 class SpinWidgetTest : public WidgetsTest {
  protected:
@@ -57,14 +47,11 @@ TEST_F(SpinWidgetTest, TurnByTheKeyboardLeavesTheHeldArrow) {
 
 TEST_F(SpinWidgetTest, ArrowIsPaintedAnewWhenItGoesDownAndWhenItComesUp) {
   const QPoint arrow = Spin().ArrowRect(true).center();
-  QCoreApplication::processEvents();
   PaintCount painted(Spin());
   Mouse(Spin(), QEvent::MouseButtonPress, arrow);
-  QCoreApplication::processEvents();
-  EXPECT_EQ(painted.count, 1);
+  EXPECT_EQ(painted.Taken(), 1);
   Mouse(Spin(), QEvent::MouseButtonRelease, arrow);
-  QCoreApplication::processEvents();
-  EXPECT_EQ(painted.count, 2);
+  EXPECT_EQ(painted.Taken(), 2);
 }
 
 TEST_F(SpinWidgetTest, PiecesOfATurnAddUp) {
