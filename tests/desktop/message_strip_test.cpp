@@ -98,6 +98,13 @@ TEST_F(MessageStripTest, ButtonRunsItsActionAsAnEventAndTheNoticeGoes) {
   EXPECT_FALSE(Strip().isVisible());
 }
 
+TEST_F(MessageStripTest, ButtonThatPutsAFailureAwayIsNamedInJapaneseToo) {
+  program->workspace.Language = kJapanese;
+  Tell(Severity::Failure, "failed");
+  ASSERT_TRUE(Strip().ReachFirst());
+  EXPECT_EQ(Strip().Reached()->accessibleName(), "閉じる");
+}
+
 TEST_F(MessageStripTest, FailureStandsUntilItIsPutAway) {
   Tell(Severity::Failure, "failed");
   EXPECT_FALSE(stage.notices.Passes());

@@ -62,6 +62,21 @@ TEST_F(StoredSettingsTest, AnyOtherFaultOffersNoDefault) {
   });
 }
 
+TEST(StoredSettings, TroubleIsToldInBothLanguages) {
+  const Notice damaged = SettingsNotice({"/s", 0, "/s.damaged-1"});
+  EXPECT_EQ(damaged.severity, Severity::Warning);
+  EXPECT_EQ(damaged.text.english,
+            "The settings file /s was damaged. It is kept as /s.damaged-1; what could be read of it holds.");
+  EXPECT_EQ(damaged.text.japanese,
+            "設定ファイル /s が壊れていました。/s.damaged-1 として残し、読み取れた設定を引き継ぎました。");
+  const Notice refused = SettingsNotice({"/s", kFaultFileNotFound, ""});
+  EXPECT_EQ(refused.severity, Severity::Failure);
+  EXPECT_EQ(refused.text.english,
+            "Settings cannot be stored in /s and hold for this run alone: The file is not there.");
+  EXPECT_EQ(refused.text.japanese,
+            "設定を /s に保存できません。変更は今回の起動中のみ有効です: ファイルがありません");
+}
+
 TEST(StoredSettings, ALongTextIsShownByItsFront) {
   const BothLanguages words = BadSettingWords({"Max_Ne", std::string(1000, 'x')}, "/f");
   EXPECT_EQ(words.english, "Max_Ne is \"" + std::string(60, 'x') + "...\" in /f.");

@@ -27,6 +27,9 @@ TEST_F(KeptOffersTest, OfferNamesMachineAndTime) {
   EXPECT_EQ(p.Last().actions[0].caption.english, "Open");
   EXPECT_EQ(p.Last().actions[1].caption.english, "Keep as file");
   EXPECT_EQ(p.Last().actions[2].caption.english, "Forget");
+  EXPECT_EQ(p.Last().actions[0].caption.japanese, "開く");
+  EXPECT_EQ(p.Last().actions[1].caption.japanese, "ファイルに残す");
+  EXPECT_EQ(p.Last().actions[2].caption.japanese, "破棄");
 }
 
 TEST_F(KeptOffersTest, TimeOfAnotherDayHasItsDate) {
@@ -126,6 +129,10 @@ TEST_F(KeptOffersTest, DamagedAndNewerOnesAreToldAndStay) {
             "/state/b.kept was kept by a newer version of the program; it stays there.");
   EXPECT_EQ(p.simulated.notices.told[1].text.english,
             "/state/a.kept is a kept plan that is damaged; it stays there.");
+  EXPECT_EQ(p.simulated.notices.told[0].text.japanese,
+            "/state/b.kept は新しいバージョンのプログラムが保管したデータです。そのまま残します。");
+  EXPECT_EQ(p.simulated.notices.told[1].text.japanese,
+            "/state/a.kept は保管データですが壊れています。そのまま残します。");
   EXPECT_EQ(folder.files.size(), 2U);
   EXPECT_FALSE(folder.IsClaimed("a"));
 }

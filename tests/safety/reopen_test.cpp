@@ -172,6 +172,10 @@ TEST_F(KeptOffersTest, ListThatIsGoneIsToldAndThePlanStays) {
       p.Last().text.english,
       "A plan of NX4 from 21:04 was not opened: its list C:\\VELDRIN\\LIST\\NX4.RAT is gone or cannot be "
       "read. It stays as /state/id1-1.nx4");
+  EXPECT_EQ(
+      p.Last().text.japanese,
+      "21:04 の NX4 のプランは開けません。機種ファイル C:\\VELDRIN\\LIST\\NX4.RAT がないか、読めません。 "
+      "/state/id1-1.nx4 に残します。");
   EXPECT_EQ(folder.KeptNames().size(), 1U);
   EXPECT_EQ(p.Work().MachineName, "VT2");
 }
@@ -185,6 +189,13 @@ TEST_F(KeptOffersTest, ListWithoutAPartIsToldAndThePlanStays) {
   p.offers->Begin();
   p.Act(kOpen);
   EXPECT_EQ(p.Last().severity, Severity::Failure);
+  EXPECT_EQ(
+      p.Last().text.english,
+      "A plan of NX4 from 21:04 was not opened: the list C:\\VELDRIN\\LIST\\NX4.RAT no longer has all of its "
+      "parts. It stays as /state/id1-1.nx4");
+  EXPECT_EQ(p.Last().text.japanese,
+            "21:04 の NX4 のプランは開けません。機種ファイル C:\\VELDRIN\\LIST\\NX4.RAT "
+            "に、この部品がなくなっています。 /state/id1-1.nx4 に残します。");
   EXPECT_EQ(folder.KeptNames().size(), 1U);
 }
 

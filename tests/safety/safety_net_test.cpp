@@ -1,6 +1,7 @@
 #include "safety/safety_net.h"
 
 #include "tests/safety/netted_program.h"
+#include "workspace/failure_texts.h"
 
 #include <gtest/gtest.h>
 
@@ -264,6 +265,8 @@ TEST_F(SafetyNetTest, DiskThatRefusesIsToldOnceAndTriedAgain) {
   EXPECT_EQ(p.Last().severity, Severity::Failure);
   EXPECT_EQ(p.Last().text.english,
             "Unsaved plans cannot be kept in /state/: There is no room left on the disk.");
+  EXPECT_EQ(p.Last().text.japanese,
+            "保存前のデータを /state/ に保管できません: " + FailureCause(kFaultDiskFull).japanese);
   EXPECT_TRUE(OnDisk().empty());
   folder.fault = 0;
   EXPECT_EQ(Kept().size(), 1U);

@@ -1,6 +1,9 @@
 #include "machine/output/fault_text.h"
 #include "tests/machine/output/answered_boxes.h"
 
+#include <map>
+#include <string>
+
 namespace veldrin {
 namespace {
 
@@ -59,10 +62,30 @@ TEST_F(RealBoxesTest, AFaultTellsItsNumberAndItsWords) {
   });
   boxes.Fault(11);
   EXPECT_EQ(text, "Run-time error '11':\n\nDivision by zero");
-  EXPECT_EQ(FaultText(7), "Out of memory");
-  EXPECT_EQ(FaultText(51), "Internal error");
-  EXPECT_EQ(FaultText(76), "Path not found");
-  EXPECT_EQ(FaultText(1), "Application-defined or object-defined error");
+}
+
+TEST(FaultText, IsThatOfItsNumber) {
+  const std::map<int, std::string> kTexts = {{5, "Invalid procedure call or argument"},
+                                             {6, "Overflow"},
+                                             {7, "Out of memory"},
+                                             {9, "Subscript out of range"},
+                                             {11, "Division by zero"},
+                                             {13, "Type mismatch"},
+                                             {51, "Internal error"},
+                                             {52, "Bad file name or number"},
+                                             {53, "File not found"},
+                                             {55, "File already open"},
+                                             {61, "Disk full"},
+                                             {62, "Input past end of file"},
+                                             {68, "Device unavailable"},
+                                             {70, "Permission denied"},
+                                             {71, "Disk not ready"},
+                                             {75, "Path/File access error"},
+                                             {76, "Path not found"},
+                                             {340, "Control array element does not exist"},
+                                             {380, "Invalid property value"},
+                                             {1, "Application-defined or object-defined error"}};
+  for (const auto& [number, text] : kTexts) EXPECT_EQ(FaultText(number), text) << number;
 }
 
 TEST_F(RealBoxesTest, WhatAnEventLeftIsThrownWhenTheBoxHasClosed) {
