@@ -44,6 +44,7 @@ TEST_F(DesktopProgramStartTest, WithoutAnyListTheUserIsToldWhereTheyAreLookedFor
   When([] { return OpenBox() != nullptr; },
        [this] {
          EXPECT_TRUE(OpenBox()->text().startsWith("No machine list (*.RAT) was found."));
+         EXPECT_TRUE(OpenBox()->text().contains("share/veldrin/LIST."));
          EXPECT_TRUE(OpenBox()->text().endsWith(QString::fromStdString(Main().workspace.ListPath)));
          EXPECT_TRUE(Main().form3.Visible);
          OpenBox()->accept();

@@ -62,6 +62,25 @@ TEST_F(StoredSettingsTest, AnyOtherFaultOffersNoDefault) {
   });
 }
 
+TEST_F(StoredSettingsTest, APageThatIsNotPrintedIsToldInBothLanguages) {
+  QStringList told;
+  const auto fail = [&](const char* language) {
+    Main().workspace.Language = language;
+    When([] { return OpenBox() != nullptr; },
+         [&] {
+           told << OpenBox()->text();
+           OpenBox()->accept();
+         });
+    Desktop().machine.printer.failed();
+  };
+  Run(PlanFile(), [&] {
+    fail(kEnglish);
+    fail(kJapanese);
+    Desktop().EndAtOnce();
+  });
+  EXPECT_EQ(told, (QStringList{"The page could not be printed.", "印刷できませんでした。"}));
+}
+
 TEST(StoredSettings, TroubleIsToldInBothLanguages) {
   const Notice damaged = SettingsNotice({"/s", 0, "/s.damaged-1"});
   EXPECT_EQ(damaged.severity, Severity::Warning);
