@@ -199,6 +199,7 @@ TEST(Arguments, MistakesAreTold) {
       {{"-x"}, "unknown option \"-x\"; --help tells all"},
       {{"VT2.RAT"}, "a second list, \"VT2.RAT\""},
       {{"--check"}, "--check and --speed do not go together"},
+      {{"--from="}, "--from: the plan's name is empty"},
   };
   for (const Case& c : cases) EXPECT_EQ(MistakeOfSearch(c.more), c.mistake);
   EXPECT_EQ(Mistake({}), "no list is named; --help tells more");

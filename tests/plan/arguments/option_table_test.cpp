@@ -59,6 +59,18 @@ TEST(OptionTable, ManualAndCompletionNameNoOptionThatThereIsNot) {
   expectKnown(Documented("bash-completion/completions/veldrin-plan"), " --", "--");
 }
 
+TEST(OptionTable, TheHelpHasEachSectionOnceAndEveryOptionInOne) {
+  std::vector<std::string> sections;
+  for (const Option& option : Options()) {
+    if (sections.empty() || sections.back() != option.section) sections.push_back(option.section);
+  }
+  for (const std::string& section : sections) {
+    EXPECT_FALSE(section.empty());
+    EXPECT_EQ(std::count(sections.begin(), sections.end(), section), 1) << section;
+    EXPECT_NE(HelpText().find("\n\n" + section + "\n"), std::string::npos) << section;
+  }
+}
+
 TEST(OptionTable, EveryOptionNeedsItsValueAndGoesWithSomething) {
   for (const Option& option : Options()) {
     EXPECT_NE(option.actions, 0U) << option.name;
