@@ -89,6 +89,18 @@ TEST_F(ChartPage, StandsInTheSvgAtTheWindowsPlaces) {
   EXPECT_NE(out.str().find(">A&lt;B</text>"), std::string::npos);
 }
 
+TEST_F(ChartPage, HasTicksAndNumeralsAtTheirValues) {
+  std::ostringstream out;
+  WriteSvg(out, EnglishWords(), {sheet}, nullptr);
+  // 5000 of 14000 rev/min of 3975 twips that begin at 490, 100 of 280 km/h of 5525.
+  EXPECT_NE(out.str().find("<line x1=\"1909.64\" y1=\"5525\" x2=\"1909.64\" "), std::string::npos)
+      << out.str();
+  EXPECT_NE(out.str().find("<text x=\"1909.64\" "), std::string::npos) << out.str();
+  EXPECT_NE(out.str().find("y1=\"3551.79\" x2=\"490\" y2=\"3551.79\" "), std::string::npos) << out.str();
+  EXPECT_NE(out.str().find(">5</text>"), std::string::npos);
+  EXPECT_NE(out.str().find(">100</text>"), std::string::npos);
+}
+
 TEST_F(ChartPage, NamesAsManyPlansAsThereAreColours) {
   std::ostringstream out;
   WriteSvg(out, EnglishWords(), std::vector<PlanSheet>(11, sheet), nullptr);

@@ -45,6 +45,14 @@ TEST(CheckList, AKeywordIsLookedForUpToTheNextOne) {
   EXPECT_EQ(Remarks(list.Text()), Lines{"3: expected FINAL-DRIVE, found \"FINAL-DRVE\""});
 }
 
+TEST(CheckList, BehindAMisspeltKeywordReadingGoesOn) {
+  SampleList list;
+  list[3] = "FINAL-DRVE";
+  list[4] = "14,x,99";
+  EXPECT_EQ(Remarks(list.Text()),
+            (Lines{"3: expected FINAL-DRIVE, found \"FINAL-DRVE\"", "4: \"x\" is no number"}));
+}
+
 TEST(CheckList, Sizes) {
   Expect({
       {Put(4, "14,15"), {"5: the end mark 99 of the FINAL-DRIVE list is missing"}},

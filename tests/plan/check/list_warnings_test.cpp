@@ -122,6 +122,14 @@ TEST(CheckList, PlansThatBeginOnAnEmptyPlace) {
        {"w13: gear 1 has its first pair in the last row: the first plan has the empty place of row 1, "
         "\"99\", and "
         "counts with its 1 over 0 teeth, which ends the program"}},
+      {Put(12, "99,0,1,2A,17,26,3A,19,24,4A,22,24,5A,26,25,6A,23,21"),
+       {"w13: gear 1 has its first pair in the last row: the first plan has the empty place of row 1, "
+        "\"99\", and "
+        "counts with its 0 over 1 teeth, which ends the program"}},
+      {Put(12, "99,1,1,2A,17,26,3A,19,24,4A,22,24,5A,26,25,6A,23,21"),
+       {"w13: gear 1 has its first pair in the last row: the first plan has the empty place of row 1, "
+        "\"99\", and "
+        "counts with its 1 over 1 teeth"}},
       {Put(12, "1A,14,29,99,0,0,3A,19,24,4A,22,24,5A,26,25,6A,23,21"),
        {"w12: gear 2 has no pair in any row: no search finds a plan, and the first plan has the empty place "
         "of row "

@@ -107,6 +107,7 @@ TEST_F(PlannerShow, ComparesPlansSideBySide) {
   EXPECT_EQ(Run({"--compare", dat + "/DRY.nx4", dat + "/RAIN.nx4", dat + "/DRY.nx4"}), 0) << errors;
   EXPECT_TRUE(Says("                         DRY.nx4      RAIN.nx4       DRY.nx4\n")) << out;
   EXPECT_TRUE(Says("  6TH                      215.3   220.8  +5.4   215.3   +-0\n")) << out;
+  EXPECT_TRUE(Says("\n\nDRY.nx4: Dry, long straight.\n")) << out;
   EXPECT_TRUE(Says("\nDRY.nx4: 0 parts change: nothing\n")) << out;
   EXPECT_TRUE(Says("\nRAIN.nx4: 9 parts change: final 18-41 for 17-39; ")) << out;
   EXPECT_EQ(Run({"--compare", Sample("NX4.RAT"), dat + "/DRY.nx4", dat + "/RAIN.nx4", "--format=csv"}), 0)
