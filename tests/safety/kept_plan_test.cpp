@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+#include <string>
 #include <vector>
 
 namespace veldrin {
@@ -68,6 +70,48 @@ TEST(KeptPlanTest, ReadsBackWhatWasTold) {
   const ReadKept read = ParseKept(KeptText(kept));
   EXPECT_EQ(read.flaw, KeptFlaw::None);
   EXPECT_EQ(read.kept, kept);
+}
+
+/// The names of a text's values, in its order.
+std::vector<std::string> NamesIn(const std::string& text) {
+  std::vector<std::string> names;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t equals = line.find('=');
+    if (equals != std::string::npos) names.push_back(line.substr(0, equals));
+  }
+  return names;
+}
+
+// A plan may be kept by one version of the program and opened by another.
+TEST(KeptPlanTest, ValuesKeepTheirNames) {
+  std::vector<std::string> names = {
+      "saved", "plan", "left", "top",   "width",       "height",       "state",     "machine",
+      "key",   "list", "file", "title", "primary.row", "primary.text", "final.row", "final.text"};
+  const auto ofGears = [&](std::initializer_list<const char*> stems) {
+    for (int gear = 1; gear <= 6; ++gear) {
+      for (std::string stem : stems) names.push_back(stem.replace(stem.find('#'), 1, std::to_string(gear)));
+    }
+  };
+  ofGears({"pair.#.row", "pair.#.text", "baseline.#"});
+  for (const char* name :
+       {"baseline-shown", "tyre", "shift-ne", "check-ne", "reference-ne", "max-speed", "max-ne", "remark"}) {
+    names.emplace_back(name);
+  }
+  KeptPlan kept = Sample();
+  kept.plan.requests.reset();
+  std::vector<std::string> told = NamesIn(KeptText(kept));
+  ASSERT_GE(told.size(), names.size());
+  told.resize(names.size());
+  EXPECT_EQ(told, names);
+  kept.plan.requests = SampleRequests();
+  const std::string text = KeptText(kept);
+  for (const char* name :
+       {"\nrequest.by-revolutions=1\n", "\nrequest.main-gear=6\n", "\nrequest.text.6=105x\n",
+        "\nrequest.speed.6=105\n", "\nrequest.manual.1=1\n", "\nrequest.minus.6=-5\n", "\nrequest.plus.6=5\n",
+        "\nrequest.base-ne.6=9005\n", "\nrequest.ne.6=9055\n"}) {
+    EXPECT_NE(text.find(name), std::string::npos) << name;
+  }
 }
 
 TEST(KeptPlanTest, EveryCutIsKnown) {
