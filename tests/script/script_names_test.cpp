@@ -59,6 +59,7 @@ TEST(ScriptSuggestions, TheNearestNameIsOffered) {
   EXPECT_EQ(Suggestion("Form8", known), " - did you mean Form2?");
   EXPECT_EQ(Suggestion("nothing", known), "");
   EXPECT_EQ(Suggestion("x", {}), "");
+  EXPECT_EQ(Suggestion("abx", {"cay"}), "") << "only neighbours that changed places count as one";
 }
 
 }  // namespace
