@@ -1,5 +1,6 @@
 #include "dialogs/about_window.h"
 
+#include "dialogs/other_captions.h"
 #include "dialogs/progress_meter.h"
 #include "platform/paths.h"
 #include "runtime/conversion.h"
@@ -114,7 +115,7 @@ void Form10_Load(Program& program) {
   form10.Picture_Close.Image = kCloseImage;
   form10.Picture_Roll.Image = kRollImage;
   ShowFigures(program);
-  form10.Label41.Visible = workspace.Language == kJapanese && workspace.IsJapanese == 1;
+  form10.Label41.Visible = ReadsJapanese(workspace);
   form10.Label_Version.Caption = VELDRIN_VERSION;
 }
 

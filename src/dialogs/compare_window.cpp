@@ -1,6 +1,6 @@
 #include "dialogs/compare_window.h"
 
-#include "dialogs/japanese_captions.h"
+#include "dialogs/other_captions.h"
 #include "mainwin/chart.h"
 #include "model/decimal.h"
 #include "model/gear_pairs.h"

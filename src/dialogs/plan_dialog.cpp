@@ -3,7 +3,7 @@
 #include "calc/gear_speed.h"
 #include "calc/plan_rows.h"
 #include "calc/plan_search.h"
-#include "dialogs/japanese_captions.h"
+#include "dialogs/other_captions.h"
 #include "mainwin/chart.h"
 #include "mainwin/gear_panel/gear_panel_chart.h"
 #include "mainwin/refresh_display.h"

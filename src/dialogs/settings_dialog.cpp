@@ -1,5 +1,6 @@
 #include "dialogs/settings_dialog.h"
 
+#include "dialogs/other_captions.h"
 #include "dialogs/settings_validation.h"
 #include "model/decimal.h"
 #include "model/setting_names.h"
@@ -67,17 +68,6 @@ void ListFonts(Program& program) {
   }
 }
 
-void SetEnglishCaptions(Form7& form7) {
-  for (Control* control : form7.controls) {
-    if (const AnySlot* font = control->FindSlot("FontName")) *std::get<Slot<std::string>*>(*font) = "Arial";
-  }
-  form7.Caption = form7.look.english;
-  for (Control* control : form7.controls) {
-    if (*control->look.english == '\0') continue;
-    *std::get<Slot<std::string>*>(*control->FindSlot("Caption")) = control->look.english;
-  }
-}
-
 void FillFields(Program& program) {
   const Workspace& workspace = program.workspace;
   Form7& form7 = *program.form7;
@@ -110,7 +100,7 @@ void Form7_Load(Program& program) {
   SelectEntries(program);
   ListFonts(program);
   const bool english = program.workspace.Language != kJapanese && CountryCode(program, 0) != kJapan;
-  if (english) SetEnglishCaptions(form7);
+  if (english) TakeEnglishCaptions(form7);
   FillFields(program);
   PointBoxes(program);
 }

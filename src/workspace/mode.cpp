@@ -2,12 +2,20 @@
 
 namespace veldrin {
 
+namespace {
+
+bool IsRequestEntry(const std::string& word) {
+  return word == mode::kSpeed || word == mode::kRpm;
+}
+
+}  // namespace
+
 bool HasPlanOnShow(const Workspace& workspace) {
   return !workspace.ModeWord.empty() && workspace.ModeWord != mode::kBasing;
 }
 
 bool EntersRequests(const Workspace& workspace) {
-  return workspace.ModeWord == mode::kSpeed || workspace.ModeWord == mode::kRpm;
+  return IsRequestEntry(workspace.ModeWord);
 }
 
 bool AwaitsLoad(const Workspace& workspace) {
@@ -25,7 +33,7 @@ const std::string& ModeOnShow(const Program& program) {
 
 bool ShowsRequests(const Program& program) {
   const std::string& word = ModeOnShow(program);
-  return word == mode::kSpeed || word == mode::kRpm || word == mode::kReferenceInForce;
+  return IsRequestEntry(word) || word == mode::kReferenceInForce;
 }
 
 }  // namespace veldrin

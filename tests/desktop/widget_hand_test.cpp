@@ -3,10 +3,10 @@
 #include "window_script/widget_hand.h"
 
 #include "script/script_runner.h"
+#include "tests/desktop/event_counts.h"
+#include "tests/desktop/sample_files.h"
 
 #include <QApplication>
-#include <QEvent>
-#include <QWidget>
 #include <gtest/gtest.h>
 
 #include <map>
@@ -16,40 +16,17 @@
 namespace veldrin {
 namespace {
 
-/// The events that widgets have been sent since.
-class SentEvents : public QObject {
- public:
-  SentEvents() { qApp->installEventFilter(this); }
-  ~SentEvents() override { qApp->removeEventFilter(this); }
-  bool eventFilter(QObject* object, QEvent* event) override {
-    if (object->isWidgetType()) ++counts_[event->type()];
-    return false;
-  }
-  int Count(QEvent::Type type) const { return counts_.contains(type) ? counts_.at(type) : 0; }
-
- private:
-  std::map<QEvent::Type, int> counts_;
-};
-
-constexpr char kWithAPlan[] =
-    "file \"C:\\VELDRIN\\LIST\\NX4.RAT\"\n"
-    "LIST\nNX4\nFINAL-DRIVE\n16,99\nFINAL-DRIVEN\n40,99\nROWS,1,PRIMARY\n20,40\n99\n-\n-\n"
-    "1A,10,40,2A,10,30,3A,10,24,4A,10,20,5A,10,16,6A,10,15\nM34-ARRAY\n0\nend\n"
-    "start\nadvance 100\nadvance 1200\nclick Form2.Command2\n";
-
-/// How many events of the type a line of a script brings.
-int Brought(const std::string& line, QEvent::Type type) {
-  const auto run = [&](const std::string& more) {
-    const SentEvents sent;
-    WidgetHand hand(1);
-    std::istringstream text(kWithAPlan + more);
-    std::ostringstream out;
-    std::ostringstream err;
-    RunScript(text, "test", ".", hand, out, err);
-    EXPECT_EQ(err.str(), "");
-    return sent.Count(type);
-  };
-  return run(line) - run("");
+/// The events of a script that makes a first plan and goes on with a line.
+std::map<QEvent::Type, int> EventsWith(const std::string& line) {
+  const EventCounts sent(*qApp);
+  WidgetHand hand(1);
+  std::istringstream text(std::string("file \"C:\\VELDRIN\\LIST\\NX4.RAT\"\r\n") + kSampleList +
+                          "end\r\nstart\nadvance 100\nadvance 1200\nclick Form2.Command2\n" + line);
+  std::ostringstream out;
+  std::ostringstream err;
+  RunScript(text, "test", ".", hand, out, err);
+  EXPECT_EQ(err.str(), "");
+  return sent.of;
 }
 
 TEST(WidgetHand, BringsTheEventsOfMouseAndKeys) {
@@ -68,7 +45,10 @@ TEST(WidgetHand, BringsTheEventsOfMouseAndKeys) {
       {"drop Form2 \"C:\\VELDRIN\\LIST\\NX4.RAT\"\n", QEvent::Drop},
       {"close Form2\n", QEvent::Close},
   };
-  for (const auto& gesture : kGestures) EXPECT_GT(Brought(gesture.line, gesture.type), 0) << gesture.line;
+  std::map<QEvent::Type, int> without = EventsWith("");
+  for (const auto& gesture : kGestures) {
+    EXPECT_GT(EventsWith(gesture.line)[gesture.type], without[gesture.type]) << gesture.line;
+  }
 }
 
 }  // namespace

@@ -80,7 +80,7 @@ class Page(html.parser.HTMLParser):
             self.rows[-1].append(0)
         if tag in ("td", "th"):
             self.rows[-1][-1] += 1
-        if tag not in ("meta", "br", "line", "rect", "circle"):
+        if tag != "meta":
             self.open.append(tag)
 
     def handle_startendtag(self, tag, attributes):

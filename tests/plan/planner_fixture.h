@@ -21,6 +21,12 @@ namespace fs = std::filesystem;
 
 using Words = std::vector<std::string>;
 
+/// What is written of the planner outside of it, such as "man/man1/veldrin-plan.1".
+inline std::string Documented(const char* path) {
+  std::ifstream file(fs::path(VELDRIN_SHARE) / ".." / path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
 class Planner : public testing::Test {
  protected:
   Planner() { fs::create_directories(folder_); }

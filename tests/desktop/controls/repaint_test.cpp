@@ -1,6 +1,6 @@
 // What changes is painted anew, at once and without being asked.
+#include "tests/desktop/event_counts.h"
 #include "tests/desktop/main_window.h"
-#include "tests/desktop/paint_count.h"
 
 namespace veldrin {
 namespace {

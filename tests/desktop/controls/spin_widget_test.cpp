@@ -1,6 +1,6 @@
 #include "desktop/controls/spin_widget.h"
 
-#include "tests/desktop/paint_count.h"
+#include "tests/desktop/event_counts.h"
 #include "tests/desktop/test_window.h"
 
 namespace veldrin {

@@ -1,4 +1,5 @@
 #include "desktop/controls/spin_widget.h"
+#include "tests/desktop/event_counts.h"
 #include "tests/desktop/test_window.h"
 
 #include <QScrollBar>
@@ -56,22 +57,15 @@ TEST_F(MouseTest, SecondButtonDoesNotTakeTheReleaseOfTheFirst) {
 }
 
 TEST_F(MouseTest, UnusedWheelIsHandedOnOnce) {
-  struct Counter : QObject {
-    bool eventFilter(QObject*, QEvent* event) override {
-      if (event->type() == QEvent::Wheel) ++turns;
-      return false;
-    }
-    int turns = 0;
-  } counter;
-  Widget().installEventFilter(&counter);
+  EventCounts handedOn(Widget());
   form->Command2.Enabled = false;
   FocusOn(form->Text1);
   for (const Control* control : std::initializer_list<const Control*>{
            &form->Label1, &form->Command1, &form->Command2, &form->Text1, &form->Text3, &form->Combo1,
            &form->Combo2, &form->Grid1, &form->Option1[1]}) {
-    counter.turns = 0;
+    handedOn.of.clear();
     Wheel(TargetOf(*control), -1);
-    EXPECT_EQ(counter.turns, 1) << control->IndexedName();
+    EXPECT_EQ(handedOn.of[QEvent::Wheel], 1) << control->IndexedName();
   }
 }
 

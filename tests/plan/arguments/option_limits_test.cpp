@@ -61,7 +61,7 @@ TEST(OptionLimits, HelpTellsTheRangesByWhichNumbersAreRefused) {
 
 /// What the manual says below the option's line, up to the next entry.
 std::string ManualOf(const std::string& name) {
-  std::ifstream file(fs::path(VELDRIN_SHARE) / "../man/man1/veldrin-plan.1", std::ios::binary);
+  std::istringstream file(Documented("man/man1/veldrin-plan.1"));
   const std::string head = ".It Fl " + name.substr(1);
   std::string text;
   std::string line;

@@ -8,11 +8,6 @@
 namespace veldrin {
 namespace {
 
-std::string Documented(const char* path) {
-  std::ifstream file(fs::path(VELDRIN_SHARE) / ".." / path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 std::vector<std::string> Names() {
   std::vector<std::string> names = {"--help", "--version"};
   for (const ActionOption& option : ActionOptions()) names.push_back(option.name);
